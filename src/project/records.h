@@ -1,0 +1,282 @@
+// The records of a project: forms and widgets, their menu, tree and list entries, status bars, and the state of the
+// open project. Plain data; what may be done with it is in tree.h, files.h, placement.h and code_stores.h.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+// Type codes as files hold them. A cleared record that has no type yet holds none.
+enum WidgetType : int {
+    TYPE_NONE = 2000,
+    TYPE_FORM = 2001,       // a window; top level only
+    TYPE_MAIN_PANEL = 2002, // one per form, its only child
+    TYPE_BUTTON = 2003,
+    TYPE_TOGGLE = 2005, // check box; a radio button as the child of a radio box
+    TYPE_TEXT_ENTRY = 2006,
+    TYPE_TEXT_LABEL = 2007,
+    TYPE_VALUE_ENTRY = 2008,
+    TYPE_VALUE_LABEL = 2009,
+    TYPE_ICON = 2010,
+    TYPE_LIST_BOX = 2012,
+    TYPE_SLIDER = 2013,
+    TYPE_PANEL = 2015,
+    TYPE_COMBO_BOX = 2016,
+    TYPE_RADIO_BOX = 2017, // a panel converted when its first radio button is placed
+    TYPE_GRAPHICS_FRAME = 2018,
+    TYPE_TEXT_ARRAY = 2022,
+    TYPE_VALUE_ARRAY = 2023,
+    TYPE_TOOL_BAR = 2025,
+    TYPE_TAB_BOX = 2027,
+    TYPE_GAUGE = 2028,
+    TYPE_PROGRESS_BAR = 2029,
+    TYPE_TTY_ENTRY = 2030,
+    TYPE_TREE_VIEW = 2031,
+    TYPE_TABLE_BOX = 2032,
+    TYPE_TOOL_SEPARATOR = 2033,
+    TYPE_PANE = 2034, // docking pane
+};
+
+enum FormType : int {
+    FORM_STATIC_SDI = 0,
+    FORM_MASTER_SDI = 1,
+    FORM_STATIC_MDI = 2,
+    FORM_MASTER_MDI = 3,
+    FORM_DYNAMIC_SDI = 4,
+    FORM_DYNAMIC_MDI = 5,
+};
+
+enum MenuKind : int { MENU_BAR = 1001, MENU_PULL_DOWN = 1002, MENU_ENTRY = 1003, MENU_SEPARATOR = 1004 };
+
+inline constexpr int NAME_LIMIT = 255;    // characters in every text field but `text`
+inline constexpr int TEXT_LIMIT = 32768;  // characters in `text`
+inline constexpr int STATUS_PANES = 32;   // most panes of a status bar
+inline constexpr int FILE_LIST_ROWS = 50; // rows of each file table
+inline constexpr int WIDGET_SLOTS = 18;
+inline constexpr int ENTRY_SLOTS = 5;
+inline constexpr int CODE_BLOCKS = 9;
+
+// Code of a callback slot or a code block. The size that files store beside it is always its length plus 2.
+using CallbackSlot = std::string;
+using CodeBlock = std::string;
+inline int storedSize(const std::string& code) { return static_cast<int>(code.size()) + 2; }
+
+// The 18 slots of a widget in record order.
+enum WidgetSlot : int {
+    SLOT_GENERAL,
+    SLOT_SELECT,
+    SLOT_MOVE,
+    SLOT_CHANGE,
+    SLOT_DOUBLE_CLICK,
+    SLOT_DRAG_SELECT,
+    SLOT_DRAG_MOVE,
+    SLOT_DRAG_DROP,
+    SLOT_EXPOSE,
+    SLOT_FILE_DROP,
+    SLOT_WINDOW_MOVED, // the six window slots run inside the General branch, status 0 to 5
+    SLOT_WINDOW_RESIZED,
+    SLOT_WINDOW_QUIT,
+    SLOT_WINDOW_MINIMIZED,
+    SLOT_WINDOW_SCROLLED,
+    SLOT_WINDOW_LOST_FOCUS,
+    SLOT_VALUE_ERROR,
+    SLOT_HYPERLINK,
+};
+
+// The five slots of a menu or tree entry in record order.
+enum EntrySlot : int { ENTRY_GENERAL, ENTRY_SELECT, ENTRY_CHANGE, ENTRY_DRAG_DROP, ENTRY_DOUBLE_CLICK };
+
+enum CodeBlockIndex : int {
+    BLOCK_GLOBAL_DEFINITIONS,
+    BLOCK_GLOBAL_ROUTINES,
+    BLOCK_LOCAL_VARIABLES,
+    BLOCK_INITIALIZATION,
+    BLOCK_PRE_ACTION,
+    BLOCK_LOOP_START,
+    BLOCK_LOOP_END,
+    BLOCK_TERMINATION,
+    BLOCK_USER_ROUTINES,
+};
+
+// One entry of a form's menu or of a tree view. The chain is flat: `level` alone tells the nesting.
+struct MenuEntryRec {
+    std::string label;
+    std::string name;
+    std::string help;
+    std::string icon1; // menu: uncheck icon; tree: icon
+    std::string icon2; // menu: check icon; tree: close icon
+    std::string icon3; // menu: grey icon; tree: open icon
+    int accel = 0;
+    int kind = 0;       // MenuKind
+    int level = 0;      // 0 at the top
+    int handle = 0;     // of the live entry; meaningless after loading
+    int callbackId = 0; // of the live entry; not stored
+    std::array<CallbackSlot, ENTRY_SLOTS> slots;
+    MenuEntryRec* next = nullptr;
+};
+using TreeEntryRec = MenuEntryRec;
+
+// One row of a list box or combo box.
+struct ListEntryRec {
+    std::string text;
+    std::string icon; // empty for none
+    ListEntryRec* next = nullptr;
+};
+
+// The status bar of a form.
+struct StatusBarRec {
+    int handle = 0;                     // meaningless after loading
+    int panes = 0;                      // panes in use, at most STATUS_PANES
+    std::array<int, STATUS_PANES> sizes{}; // running right edge in pixels, -1 for the pane that takes the rest
+    std::array<std::string, STATUS_PANES> texts;
+    std::string name; // in the name space of the widgets
+};
+
+// One form or widget. Which generic field means what depends on `type`. A record owns what it points to except the
+// `child` and `next` chains, which belong to the tree.
+struct WidgetNode {
+    std::string name; // variable name in generated source, unique in the project
+    int selected = 0; // 1 on the current widget
+    MenuEntryRec* entries = nullptr; // form: menu; tree view: its entries
+    int type = TYPE_NONE;
+    int parentHandle = 0; // live handle of the parent
+    int reserved = 0;     // kept through load and save; nothing reads it
+    int hpos = 0;         // -1 left, 0 centre, 1 right
+    int vpos = 0;         // -1 bottom, 0 middle, 1 top
+    int xpos = 0;         // of the origin point in the parent; cells in grid mode, else pixels
+    int ypos = 0;         // upward from the parent's bottom
+    int width = 0;
+    int height = 0;
+    int expand = 0; // 0 off, 1 on, 2 to 24 an expansion code
+    int initialStatus = 0;
+    int titleFlag = 0;
+    int quitMode = 0; // 0 hide, 1 destroy, 2 ignore
+    int subType = 0;
+    int size = 0; // percent of the grid cell; TTY entry: number of lines
+    int accel = 0;
+    int fieldWidth = 0;
+    int justify = 0; // -1 left, 0 centre, 1 right
+    int sign = 0;
+    int format = 0; // decimals, or the kind of image
+    int editMode = 0;
+    float value = 0;
+    float minValue = 0;
+    float maxValue = 0;
+    float stepValue = 0;
+    int borderType = 0;
+    int colour1 = 0; // what the four colours colour depends on the type
+    int colour2 = 0;
+    int colour3 = 0;
+    int colour4 = 0;
+    int sorted = 0;
+    int approxSize = 0;
+    int columns = 0;
+    int rows = 0;
+    int iconId = 0;
+    int designSelectId = 0;   // live: handle + OIDENT
+    int designCallbackId = 0; // live: handle
+    float xMin = 0;
+    float xMax = 0;
+    float yMin = 0;
+    float yMax = 0;
+    std::string text; // title, label or initial text, at most TEXT_LIMIT
+    int formCallbackId = 0;
+    WidgetNode* child = nullptr;
+    WidgetNode* next = nullptr;
+    int handle = 0;  // of the live widget; set with setHandle so that the index follows
+    std::string icon;
+    std::string backgroundImage;
+    std::string parentName;
+    int formType = 0;
+    ListEntryRec* listEntries = nullptr;
+    std::array<CallbackSlot, WIDGET_SLOTS> slots;
+    std::string bubbleHelp;
+    int activeOnInit = 0;
+    int yLabelsWidth = 0;
+    int xLabelsHeight = 0;
+    std::string xLabels;
+    std::string yLabels;
+    int onToolbar = 0;
+    int alignXLabels = 0;
+    int alignYLabels = 0;
+    int iconSize = 0;
+    int initialPosition = 0;
+    std::vector<int> columnWidths; // arrays, table box: `columns` of them
+    std::vector<int> rowHeights;   // arrays: `rows` of them
+    std::unique_ptr<StatusBarRec> statusBar;
+    int initialState = 0;
+    int scrollMode = 0;
+    int dragMode = 0;
+    int hierarchyItem = 0; // row of the hierarchy window
+    int topTicks = 0;
+    int bottomTicks = 0;
+    int accessMode = 0;
+    std::string fontFace;
+    int pointSize = 0;
+    int charSet = 0;
+    int bold = 0;
+    int italic = 0;
+    int underline = 0;
+    int strikeout = 0;
+    int contents = 0;
+    std::string closeIcon;
+    std::string openIcon;
+    int displayIcons = 0;
+    int helpJustify = 0;
+    int oleInserts = 0;
+    int cellBackground = 0;
+    int cellBorder = 0;
+    int readOnly = 0;
+    int formHidden = 0;
+    int autoUrl = 0;
+    int tabAction = 0;
+    int tabList = 0;
+    int buildInfo = 1; // not stored
+};
+
+// A table of file names of the build, always with one empty row at its end.
+using FileList = std::vector<std::string>;
+
+enum FileListIndex : int { LIST_SOURCES, LIST_OBJECTS, LIST_LIBRARIES, LIST_MODULES, FILE_LISTS };
+
+// The open project. One instance, `project`; the model writes it, everybody reads it.
+struct ProjectState {
+    WidgetNode* forms = nullptr;
+    WidgetNode* currentWidget = nullptr; // shown in the property sheet; null when nothing is selected
+    int projectLanguage = 90;            // 77, 90 or 99 (C)
+    char projectPlatform = 'w';          // 'w' Windows, 'x' X-Windows, 'g' GLX-Windows
+    int doubleBuffering = 0;
+    int gridHoriz = 36;
+    int gridVert = 27;
+    int gridPixelX = 22; // pixels of one cell
+    int gridPixelY = 22;
+    int gridMode = 0;
+    int scalable = 0;
+    int snapOn = 1;
+    int snapGrid = 10; // pixels
+    int nextFormNumber = 1;
+    std::array<int, 32> counters{}; // next number per widget word; the rows are the counter table of placement.h
+    int nextFormX = 200;
+    int nextFormY = 132;
+    int widgetCount = 0; // named records; main panels do not count
+    int projectModified = 0;
+    int sourceStale = 1;
+    int customSwitches = 0;
+    std::string compilerSwitches;
+    std::string linkerSwitches;
+    std::array<FileList, FILE_LISTS> fileLists; // by FileListIndex: sources, objects, libraries, module directories
+    std::vector<std::int64_t> sourceFileTimes;  // 100 ns since 1601, one per row of the sources
+    std::string sourceDir;
+    std::string sourceName;
+    std::string projectTitle; // name without extension; default of the file dialogues
+    std::string projectName;  // remembered file name, empty for an untitled project
+    std::string projectDir;   // its folder
+    std::int64_t exeTime = 0; // of the executable at the last link
+    std::array<CodeBlock, CODE_BLOCKS> codeBlocks;
+    std::string currentBlockName = "General Callback"; // at most 50 characters
+    int fileVersion = 80; // of the file being read, times ten
+};
+
+extern ProjectState project;

@@ -1,0 +1,1 @@
+// The first file of this library goes here.
