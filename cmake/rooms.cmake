@@ -32,9 +32,9 @@ function(room_includes target name folder)
 endfunction()
 
 # add_room_tests(NAME LINKS targets...) makes the test program NAME_tests from every source of the current folder
-# and gives CTest one entry for each of its cases. TIMEOUT is seconds for one case.
+# and gives CTest one entry for each of its cases. TIMEOUT is seconds for one case; SERIAL cases run with nothing beside them.
 function(add_room_tests name)
-  cmake_parse_arguments(ROOM "" "TIMEOUT" "LINKS;ENVIRONMENT" ${ARGN})
+  cmake_parse_arguments(ROOM "SERIAL" "TIMEOUT" "LINKS;ENVIRONMENT" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   if(NOT sources)
     return()
@@ -46,6 +46,9 @@ function(add_room_tests name)
   target_link_libraries(${name}_tests PRIVATE ${ROOM_LINKS} test_support GTest::gtest GTest::gmock GTest::gtest_main)
   target_compile_definitions(${name}_tests PRIVATE ORBA_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
                                                    ORBA_BINARY_DIR="${PROJECT_BINARY_DIR}")
+  if(ROOM_SERIAL)
+    set(serial RUN_SERIAL TRUE)
+  endif()
   gtest_discover_tests(${name}_tests DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT ${ROOM_TIMEOUT} ENVIRONMENT "${ROOM_ENVIRONMENT}" LABELS ${name})
+    PROPERTIES TIMEOUT ${ROOM_TIMEOUT} ENVIRONMENT "${ROOM_ENVIRONMENT}" LABELS ${name} ${serial})
 endfunction()

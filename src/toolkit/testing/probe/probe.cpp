@@ -1,0 +1,170 @@
+// A window on a running program for end-to-end tests: loaded ahead of the program (LD_PRELOAD), it answers on a local
+// socket what the program shows and where, so that a test can aim a real mouse at it. It changes nothing in the program.
+//
+// The socket is $ORBA_PROBE_DIR/<process id>. Each line sent to it is answered by one line for each thing on the screen,
+// fields parted by tabs, and an empty line at the end:
+//   kind  x  y  width  height  state  text  tooltip  window
+// x and y are screen pixels of the top left corner; state is a set of letters: e enabled, c checked, f focus, a active window.
+// Tabs, line ends and backslashes in texts are written \t, \n and \\.
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QMainWindow>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QTabBar>
+#include <QTextEdit>
+
+namespace {
+
+QByteArray escaped(const QString& text) {
+    QByteArray bytes = text.toUtf8();
+    bytes.replace('\\', "\\\\");
+    bytes.replace('\t', "\\t");
+    bytes.replace('\n', "\\n");
+    return bytes;
+}
+
+struct Thing {
+    QString kind;
+    QRect place; // on the screen
+    QString state;
+    QString text;
+    QString tooltip;
+    QString window; // title of the window it stands in
+};
+
+void writeThing(QByteArray& out, const Thing& thing) {
+    out += thing.kind.toUtf8() + '\t' + QByteArray::number(thing.place.x()) + '\t' + QByteArray::number(thing.place.y()) +
+           '\t' + QByteArray::number(thing.place.width()) + '\t' + QByteArray::number(thing.place.height()) + '\t' +
+           thing.state.toUtf8() + '\t' + escaped(thing.text) + '\t' + escaped(thing.tooltip) + '\t' +
+           escaped(thing.window) + '\n';
+}
+
+QString shownText(const QWidget* widget) {
+    if (auto* button = qobject_cast<const QAbstractButton*>(widget)) return button->text();
+    if (auto* label = qobject_cast<const QLabel*>(widget)) return label->text();
+    if (auto* line = qobject_cast<const QLineEdit*>(widget)) return line->text();
+    if (auto* text = qobject_cast<const QTextEdit*>(widget)) return text->toPlainText();
+    if (auto* plain = qobject_cast<const QPlainTextEdit*>(widget)) return plain->toPlainText();
+    if (auto* combo = qobject_cast<const QComboBox*>(widget)) return combo->currentText();
+    if (auto* box = qobject_cast<const QGroupBox*>(widget)) return box->title();
+    if (auto* menu = qobject_cast<const QMenu*>(widget)) return menu->title();
+    if (auto* bar = qobject_cast<const QProgressBar*>(widget)) return QString::number(bar->value());
+    if (auto* slider = qobject_cast<const QAbstractSlider*>(widget)) return QString::number(slider->value());
+    return widget->windowTitle();
+}
+
+QString stateOf(const QWidget* widget) {
+    QString state;
+    if (widget->isEnabled()) state += 'e';
+    if (auto* button = qobject_cast<const QAbstractButton*>(widget); button && button->isChecked()) state += 'c';
+    if (widget->hasFocus()) state += 'f';
+    if (widget->isActiveWindow()) state += 'a';
+    return state;
+}
+
+// The title of the nearest window around the widget; a child window inside the master's client area counts.
+QString windowOf(const QWidget* widget) {
+    for (const QWidget* at = widget; at; at = at->parentWidget()) {
+        if (qobject_cast<const QMdiSubWindow*>(at) || at->isWindow()) return at->windowTitle();
+    }
+    return {};
+}
+
+void writeActions(QByteArray& out, const QWidget* bar, const QList<QAction*>& actions,
+                  const std::function<QRect(QAction*)>& geometry) {
+    for (QAction* action : actions) {
+        if (action->isSeparator() || !action->isVisible()) continue;
+        const QRect place = geometry(action);
+        if (!place.isValid()) continue;
+        QString state;
+        if (action->isEnabled()) state += 'e';
+        if (action->isChecked()) state += 'c';
+        writeThing(out, {"Action", {bar->mapToGlobal(place.topLeft()), place.size()}, state, action->text(),
+                         action->toolTip(), windowOf(bar)});
+    }
+}
+
+void writeRows(QByteArray& out, const QAbstractItemView* view, const QModelIndex& parent) {
+    const QAbstractItemModel* model = view->model();
+    const QRect shown = view->viewport()->rect();
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        for (int column = 0; column < model->columnCount(parent); ++column) {
+            const QModelIndex index = model->index(row, column, parent);
+            const QRect place = view->visualRect(index) & shown;
+            QString state = index.flags() & Qt::ItemIsEnabled ? "e" : "";
+            if (view->selectionModel() && view->selectionModel()->isSelected(index)) state += 'c';
+            if (!place.isEmpty())
+                writeThing(out, {"Cell", {view->viewport()->mapToGlobal(place.topLeft()), place.size()}, state,
+                                 index.data().toString(), index.data(Qt::ToolTipRole).toString(), windowOf(view)});
+        }
+        writeRows(out, view, model->index(row, 0, parent));
+    }
+}
+
+void writeTabs(QByteArray& out, const QTabBar* bar) {
+    for (int tab = 0; tab < bar->count(); ++tab) {
+        const QRect place = bar->tabRect(tab);
+        writeThing(out, {"Tab", {bar->mapToGlobal(place.topLeft()), place.size()},
+                         bar->currentIndex() == tab ? "ec" : "e", bar->tabText(tab), bar->tabToolTip(tab), windowOf(bar)});
+    }
+}
+
+QByteArray screen() {
+    QByteArray out;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (!widget->isVisible()) continue;
+        const QRegion seen = widget->visibleRegion();
+        if (seen.isEmpty() && !widget->isWindow()) continue;
+        writeThing(out, {widget->metaObject()->className(), {widget->mapToGlobal(QPoint(0, 0)), widget->size()},
+                         stateOf(widget), shownText(widget), widget->toolTip(), windowOf(widget)});
+        if (auto* menu = qobject_cast<QMenu*>(widget))
+            writeActions(out, menu, menu->actions(), [menu](QAction* action) { return menu->actionGeometry(action); });
+        if (auto* bar = qobject_cast<QMenuBar*>(widget))
+            writeActions(out, bar, bar->actions(), [bar](QAction* action) { return bar->actionGeometry(action); });
+        if (auto* view = qobject_cast<QAbstractItemView*>(widget);
+            view && view->model() && !qobject_cast<QHeaderView*>(widget))
+            writeRows(out, view, view->rootIndex());
+        if (auto* tabs = qobject_cast<QTabBar*>(widget)) writeTabs(out, tabs);
+    }
+    return out + '\n';
+}
+
+void answer(QLocalSocket* socket) {
+    while (socket->canReadLine()) {
+        socket->readLine();
+        socket->write(screen());
+    }
+}
+
+void listen() {
+    const QString folder = qEnvironmentVariable("ORBA_PROBE_DIR");
+    if (folder.isEmpty() || !qobject_cast<QApplication*>(QCoreApplication::instance())) return;
+    auto* server = new QLocalServer(QCoreApplication::instance());
+    const QString path = folder + '/' + QString::number(QCoreApplication::applicationPid());
+    QLocalServer::removeServer(path);
+    server->listen(path);
+    QObject::connect(server, &QLocalServer::newConnection, [server] {
+        while (QLocalSocket* socket = server->nextPendingConnection()) {
+            QObject::connect(socket, &QLocalSocket::readyRead, [socket] { answer(socket); });
+            QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+        }
+    });
+}
+
+} // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(listen)
