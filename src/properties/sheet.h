@@ -1,0 +1,21 @@
+// The Properties window: a two-column list of the current widget's properties.
+#pragma once
+
+#include "project/records.h"
+
+#include <string>
+
+// Makes the list inside `panel`, which fills the docking pane of handle `pane`, and joins the sheet to the hooks.
+void buildPropertySheet(int pane, int panel);
+
+// Rebuilds the list for `widget`; null leaves it empty.
+void showProperties(WidgetNode* widget);
+
+const std::string& selectedPropertyLabel();
+
+// Handlers of the events of the sheet.
+void propertySelectedCommand(); // CMD_PROPERTY_SELECTED
+void propertyButtonCommand();   // CMD_PROPERTY_BUTTON
+void propertyChangedCommand();  // CMD_PROPERTY_CHANGED
+void fontFaceCommand();         // CMD_FONT_FACE
+void pointSizeCommand();        // CMD_POINT_SIZE

@@ -1,0 +1,26 @@
+#include "surface/hooks.h"
+
+SurfaceHooks hooks = {
+    .statusText = [](int, const std::string&) {},
+    .commandStatus = [](int, int) {},
+    .toolStatus = [](int, int) {},
+    .retargetCommand = [](int, int, const std::string&, const std::string&) {},
+    .drawControlWindows = [] {},
+    .formFileForgotten = [] {},
+    .showProperties = [](WidgetNode*) {},
+    .propertyNumber = [](const char*, float) {},
+    .propertyText = [](const char*, const std::string&) {},
+    .propertyEnabled = [](const char*, bool) {},
+    .commitEditor = [] {},
+    .bindCode = [](WidgetNode*) {},
+    .showCallback = [](WidgetNode&) {},
+    .enterTextMode = [] {},
+    .leaveTextMode = [] {},
+    .nameAdded = [](const std::string&) {},
+    .nameRemoved = [](const std::string&) {},
+    .nameChanged = [](const std::string&, const std::string&) {},
+    .menuNameAdded = [](const std::string&) {},
+    .renameInCode = [](const std::string&, const std::string&) { return 0; },
+    .openEditor = [](Editor, WidgetNode&) {},
+    .generateSource = [] { return false; },
+};

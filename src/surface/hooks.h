@@ -1,0 +1,48 @@
+// What the surface, the property sheet and the code editor ask of the rooms above them. Every pointer is always
+// callable; the defaults do nothing. The property sheet and the code editor fill their own parts when they are built
+// (buildPropertySheet, buildCodeEditor); the shell fills the first group, the dialogues the last.
+#pragma once
+
+#include "project/records.h"
+
+#include <string>
+
+enum StatusPane : int { PANE_SELECTION = 0, PANE_LINE = 1, PANE_COLUMN = 2 };
+
+// Editors that the dialogues room opens on the current widget. The editor writes the record on OK.
+enum class Editor { List, Tree, PlainText, RichText, Icon, CloseIcon, OpenIcon, TabIcon, BackgroundImage };
+
+struct SurfaceHooks {
+    // Filled by the shell.
+    void (*statusText)(int pane, const std::string& text); // StatusPane of the master window's status bar
+    void (*commandStatus)(int command, int status);        // all entries and buttons of it: 0 disabled, 1, 2 pressed
+    void (*toolStatus)(int tool, int status);              // Tool Box button of a tool code
+    void (*retargetCommand)(int designCommand, int command, const std::string& label,
+                            const std::string& bubbleHelp); // what entry, bar icon and popup of designCommand send now
+    void (*drawControlWindows)();                           // hierarchy and compiler log
+    void (*formFileForgotten)();                            // the remembered form file name is emptied
+
+    // Filled by the property sheet.
+    void (*showProperties)(WidgetNode* widget);             // null: an empty table
+    void (*propertyNumber)(const char* label, float value); // sets a cell, if the row is there
+    void (*propertyText)(const char* label, const std::string& text);
+    void (*propertyEnabled)(const char* label, bool enabled);
+
+    // Filled by the code editor.
+    void (*commitEditor)();                   // brings the shown text into its block or slot
+    void (*bindCode)(WidgetNode* widget);     // the editor follows the selection
+    void (*showCallback)(WidgetNode& widget); // brings the editor up on the widget's callback
+    void (*enterTextMode)();
+    void (*leaveTextMode)();
+    void (*nameAdded)(const std::string& name); // the list of all widgets
+    void (*nameRemoved)(const std::string& name);
+    void (*nameChanged)(const std::string& from, const std::string& to);
+    void (*menuNameAdded)(const std::string& name);                      // the list of menu entries
+    int (*renameInCode)(const std::string& from, const std::string& to); // number of places changed
+
+    // Filled by the dialogues.
+    void (*openEditor)(Editor editor, WidgetNode& widget);
+    bool (*generateSource)(); // false when cancelled or failed
+};
+
+extern SurfaceHooks hooks;

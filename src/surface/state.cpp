@@ -1,0 +1,3 @@
+#include "surface/state.h"
+
+DesignState design;
