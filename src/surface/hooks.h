@@ -17,10 +17,10 @@ struct SurfaceHooks {
     void (*statusText)(int pane, const std::string& text); // StatusPane of the master window's status bar
     void (*commandStatus)(int command, int status);        // all entries and buttons of it: 0 disabled, 1, 2 pressed
     void (*toolStatus)(int tool, int status);              // Tool Box button of a tool code
-    void (*retargetCommand)(int designCommand, int command, const std::string& label,
-                            const std::string& bubbleHelp); // what entry, bar icon and popup of designCommand send now
-    void (*drawControlWindows)();                           // hierarchy and compiler log
-    void (*formFileForgotten)();                            // the remembered form file name is emptied
+    void (*inputMode)(bool text); // installs the key map of the mode, and gives the shared Edit entries, icons and
+                                  // popup their labels and commands of that mode; all from the command table
+    void (*drawControlWindows)(); // hierarchy and compiler log
+    void (*formFileForgotten)();  // the remembered form file name is emptied
 
     // Filled by the property sheet.
     void (*showProperties)(WidgetNode* widget);             // null: an empty table
