@@ -1,0 +1,48 @@
+// The compiler catalogue: which compiler the installed library was built for, where it is, and its environment.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// Numbers of the rows. They stand nowhere but in memory; 0 is none recognised.
+enum CompilerProfile : int {
+    COMPILER_NONE = 0,
+    COMPILER_LF95 = 1,
+    COMPILER_CVF = 2,
+    COMPILER_FTN95 = 3,
+    COMPILER_ABSOFT = 5,
+    COMPILER_VISUAL_C = 6,
+    COMPILER_LF95_75 = 7,
+    COMPILER_FTN95_NET = 8,
+    COMPILER_INTEL = 9,
+    COMPILER_GNU = 10, // gfortran and g++: Fortran and C projects alike
+};
+
+// Results of the catalogue, held for the whole run.
+struct CompilerState {
+    int profile = COMPILER_NONE;
+    std::string name;                    // shown beside "Environment:"
+    std::string binDir;                  // with its closing separator; empty when the registry gave nothing
+    std::string varsCommand;             // runs the compiler's setup batch file; empty when binDir is
+    std::string defaultCompilerSwitches; // what a new project takes
+    std::string defaultLinkerSwitches;
+};
+
+extern CompilerState compiler;
+
+// Fills `compiler` and sets project.projectLanguage (99 for Visual C/C++, else 90). Returns the profile.
+int readCompilerCatalogue();
+
+// Runs the setup batch file and takes PATH, LIB and INCLUDE over into this process. 1 on success, else 0.
+int captureCompilerEnvironment();
+
+// Both of the above as the start of the program does them, with the box that reports a failure.
+void setUpCompiler();
+
+// Whether the open project can be built with this compiler. With `report` a mismatch is told in a box.
+// False in silence when no compiler was recognised.
+bool compilerFitsProject(bool report);
+
+// Sorts by the number that a name's characters from '+' to '9' read as, ascending; equal numbers keep their order.
+void sortVersionNames(std::vector<std::string>& names);
+double versionNumber(const std::string& name);

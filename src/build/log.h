@@ -1,0 +1,40 @@
+// The compiler log and the search for the first error in it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// A log longer than this keeps its head, its tail and what stands around its first error; a line says how much is left
+// out.
+inline constexpr int LOG_HEAD_LINES = 10000;
+inline constexpr int LOG_TAIL_LINES = 2000;
+inline constexpr size_t LOG_ENTRY_LIMIT = 255; // characters of an entry in the list
+inline constexpr size_t LOG_LINE_LIMIT = 4096; // characters kept of a line
+
+// The entries of the Compiler Log, whole lines as plain UTF-8 without control characters.
+struct CompilerLog {
+    std::vector<std::string> lines;
+    int omittedAfter = 0; // entry behind which lines are left out; 0: all are there
+};
+extern CompilerLog compilerLog;
+
+// Reads the log of a build. False, with an empty log, when the file cannot be opened.
+bool readLog(const std::string& path, int compilerProfile, CompilerLog& log);
+
+// A line as it can be shown: bytes of no encoding become '?', control characters blanks, colour sequences nothing.
+std::string plainLogLine(const std::string& bytes);
+
+// What the two passes find.
+struct LogScan {
+    int result = 0; // number of the first entry that reports an error, from 1; 0: none (or a position ahead of entry 1)
+    int analysed = 0; // entry that tells the position, for the way to the error; 0: none
+    bool linkError = false;
+};
+LogScan scanLogLines(const std::vector<std::string>& lines, int compilerProfile);
+
+// Scans `compilerLog`, selects the entry, sets the list's font and goes to the error. Returns the scan's result; above
+// 0 means that the build failed.
+int scanLog(int compilerProfile);
+
+// A click on an entry of the log (15028), numbered from 1.
+void logEntryChosen(int entry);
