@@ -127,8 +127,8 @@ struct ListEntryRec {
 
 // The status bar of a form.
 struct StatusBarRec {
-    int handle = 0;                     // meaningless after loading
-    int panes = 0;                      // panes in use, at most STATUS_PANES
+    int handle = 0;                        // meaningless after loading
+    int panes = 0;                         // panes in use, at most STATUS_PANES
     std::array<int, STATUS_PANES> sizes{}; // running right edge in pixels, -1 for the pane that takes the rest
     std::array<std::string, STATUS_PANES> texts;
     std::string name; // in the name space of the widgets
@@ -137,8 +137,8 @@ struct StatusBarRec {
 // One form or widget. Which generic field means what depends on `type`. A record owns what it points to except the
 // `child` and `next` chains, which belong to the tree.
 struct WidgetNode {
-    std::string name; // variable name in generated source, unique in the project
-    int selected = 0; // 1 on the current widget
+    std::string name;                // variable name in generated source, unique in the project
+    int selected = 0;                // 1 on the current widget
     MenuEntryRec* entries = nullptr; // form: menu; tree view: its entries
     int type = TYPE_NONE;
     int parentHandle = 0; // live handle of the parent
@@ -185,7 +185,10 @@ struct WidgetNode {
     int formCallbackId = 0;
     WidgetNode* child = nullptr;
     WidgetNode* next = nullptr;
-    int handle = 0;  // of the live widget; set with setHandle so that the index follows
+    WidgetNode* parent = nullptr;    // record that holds it; null for forms and detached records. Kept by tree.h
+    WidgetNode* lastChild = nullptr; // where linkChild goes on; a hint of tree.h
+    bool inProject = false;          // hangs in the tree of project.forms. Kept by tree.h
+    int handle = 0;                  // of the live widget; set with setHandle so that the index follows
     std::string icon;
     std::string backgroundImage;
     std::string parentName;
@@ -231,10 +234,44 @@ struct WidgetNode {
     int readOnly = 0;
     int formHidden = 0;
     int autoUrl = 0;
-    int tabAction = 0;
-    int tabList = 0;
+    int tabAction = 1;
+    int tabList = 1;
     int buildInfo = 1; // not stored
 };
+
+// One next-number counter per word that default names carry. Two types can share one.
+enum Counter : int {
+    COUNTER_NONE = -1,
+    COUNTER_BUTTON,
+    COUNTER_TOGGLE,
+    COUNTER_LIST,
+    COUNTER_SLIDER,
+    COUNTER_TEXT,
+    COUNTER_VALUE,
+    COUNTER_ICON,
+    COUNTER_PANEL,
+    COUNTER_COMBO,
+    COUNTER_RADIO,
+    COUNTER_GRAPHICS,
+    COUNTER_TXT_ARRAY,
+    COUNTER_VAL_ARRAY,
+    COUNTER_TOOL_BAR,
+    COUNTER_TAB_DIA_BOX,
+    COUNTER_GAUGE,
+    COUNTER_PROGRESS,
+    COUNTER_TTY_ENTRY,
+    COUNTER_TREE_VIEW,
+    COUNTER_TABLE_BOX,
+    COUNTER_TOOL_SEP,
+    COUNTER_PANE,
+    COUNTERS,
+};
+
+template <int N> std::array<int, N> allOnes() {
+    std::array<int, N> ones;
+    ones.fill(1);
+    return ones;
+}
 
 // A table of file names of the build, always with one empty row at its end.
 using FileList = std::vector<std::string>;
@@ -257,7 +294,9 @@ struct ProjectState {
     int snapOn = 1;
     int snapGrid = 10; // pixels
     int nextFormNumber = 1;
-    std::array<int, 32> counters{}; // next number per widget word; the rows are the counter table of placement.h
+    std::array<int, COUNTERS> counters = allOnes<COUNTERS>(); // next number per widget word, by Counter
+    int nextPopNumber = 1;                                    // of the names of pull-down menus
+    int nextSeparatorNumber = 1;                              // of menu separators
     int nextFormX = 200;
     int nextFormY = 132;
     int widgetCount = 0; // named records; main panels do not count
@@ -273,10 +312,20 @@ struct ProjectState {
     std::string projectTitle; // name without extension; default of the file dialogues
     std::string projectName;  // remembered file name, empty for an untitled project
     std::string projectDir;   // its folder
+    std::string formFileName; // of the last form file inserted or saved; empty when none is remembered
+    std::string formFileDir;  // its folder
+    std::string damagedFile;  // full path of the file that the project was read from, if it was incomplete
     std::int64_t exeTime = 0; // of the executable at the last link
     std::array<CodeBlock, CODE_BLOCKS> codeBlocks;
     std::string currentBlockName = "General Callback"; // at most 50 characters
-    int fileVersion = 80; // of the file being read, times ten
+    int fileVersion = 80;                              // of the file being read, times ten
 };
 
 extern ProjectState project;
+
+// Switches of the compiler in force, that an empty project starts with. The build room sets them.
+struct SwitchDefaults {
+    std::string compiler;
+    std::string linker;
+};
+extern SwitchDefaults switchDefaults;

@@ -1,4 +1,5 @@
-// Operations on the tree of forms and widgets. Walks are pre-order: a record, its child chain, then its next.
+// Operations on the tree of forms and widgets. Walks are pre-order: a record, its child chain, then its next. None of
+// them recurses, so a tree may be as deep as a file makes it.
 #pragma once
 
 #include "project/records.h"
@@ -12,10 +13,13 @@ WidgetNode* newForm();
 // The caller owns it until it is linked into the tree.
 WidgetNode* createFromDefaults(int type, int x, int y);
 
-// Deep copy with the whole child chain; with `withSiblings` also what follows along next. Handles are copied as they are.
+// Deep copy with the whole child chain; with `withSiblings` also what follows along next. Handles are copied as they
+// are.
 WidgetNode* copyNode(const WidgetNode* node, bool withSiblings);
 
-// The record in `list` or below whose live handle is node's parentHandle; `node` itself when list is node; else null.
+// The live parent of `node` among `list` and below, as parentHandle names it; `node` itself when list is node; null
+// when there is none. In the project's tree it holds without live widgets too: the record that holds `node`, or for a
+// tool bar or pane its form.
 WidgetNode* parentOf(const WidgetNode* node, WidgetNode* list);
 WidgetNode* formOf(const WidgetNode* node, WidgetNode* list);
 
@@ -29,15 +33,45 @@ WidgetNode* findActiveOnInit(WidgetNode* list);
 WidgetNode* findHandle(int handle); // of project.forms, by the index; null for none
 void clearSelected(WidgetNode* list);
 
-void deleteList(WidgetNode* node); // node and all that follows it along next, with what is below
+void deleteList(WidgetNode* node); // node and all that follows it along next, with what is below; null is allowed
 void deleteNode(WidgetNode* node); // node and what is below it; node->next is left alone
 void freeRecord(WidgetNode* node); // one record and what it owns
 
+// The two kinds of entry chains that a record owns: copy and free them whole.
+MenuEntryRec* copyEntries(const MenuEntryRec* first);
+ListEntryRec* copyListEntries(const ListEntryRec* first);
+void freeEntries(MenuEntryRec* first);
+void freeListEntries(ListEntryRec* first);
+
 // Every change of the tree goes through these, so that lookups by name, by handle and of the parent stay current.
 void appendForm(WidgetNode* form);
-void linkChild(WidgetNode& parent, WidgetNode* node);     // behind the last child
-void unlinkNode(WidgetNode* node);                        // out of the tree, with its subtree; the caller owns it
+void moveFormToHead(WidgetNode* form);                // of project.forms
+void linkChild(WidgetNode& parent, WidgetNode* node); // behind the last child
+// Puts `node` right behind `previous` among the children of `parent`, or ahead of them all for null.
+void linkChildAfter(WidgetNode& parent, WidgetNode* previous, WidgetNode* node);
+void unlinkNode(WidgetNode* node); // out of the tree, with its subtree; the caller owns it
 void setHandle(WidgetNode& node, int handle, int parentHandle);
 void renameNode(WidgetNode& node, std::string_view name);
 
+// The next record in pre-order within `root` and what is below it, null at the end. Starts from `root` itself.
+WidgetNode* walkBelow(const WidgetNode* node, const WidgetNode* root);
+// The same over `node`, what is below it and all that follows it along next: a whole list of forms, or of children.
+WidgetNode* walkList(const WidgetNode* node, const WidgetNode* list);
+
+// Deletes the tree and leaves the empty project that a new project and a load start from. Language, platform and grid
+// stay. host.closeForms runs first when there are forms.
 void resetProject();
+
+// Brings a damaged project into a shape that can be shown and edited: records of no type go, every form has a main
+// panel, and there is a form. True when something had to be done.
+bool mendProject();
+
+// Counters whose widgets are all gone start at 1 again.
+void recountCounters();
+
+// Resource name of a path: its last component, blanks as underscores, cut at the first point.
+std::string resourceName(std::string_view path);
+
+// Tells the host the project's grid and takes the pixels of a cell from it. While gridMode is 0 the default grid is in
+// force.
+void applyGrid();

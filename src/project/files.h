@@ -1,0 +1,46 @@
+// Project files (.wdp) and form files (.wdf): eleven versions are read, the current one is written. The old tree stays
+// until a file has been opened and recognised. Saving never harms an existing file before the new one is complete.
+#pragma once
+
+#include "project/records.h"
+
+#include <string>
+
+// Reads a project in place of the open one; `name` without a point gets ".wdp". False after an error box, the open
+// project unchanged. On true name and folder are remembered and the records are there; grid and array sizes are in the
+// project's unit, handles mean nothing. A file that ends early loads as far as it goes, after a box that says so.
+bool loadProject(const std::string& folder, const std::string& name);
+
+// Writes the project. `quiet` for backups: names and title stay. True on success; else after an error box, with
+// projectModified and any existing file as they were.
+bool saveProject(const std::string& folder, const std::string& name, bool quiet);
+
+// Writes a backup beside the project, or "Auto_Backup.wdp" in the current folder for an untitled one.
+bool autoBackup();
+std::string backupName(const std::string& name); // "bridge.wdp": "bridge_Backup.wdp"
+
+// Writes the active form and all forms behind it.
+bool saveForm(const std::string& path);
+
+// Appends the forms of a file. Returns the new value of nextFormNumber, or 0 when nothing was inserted. `first` is the
+// first new form, for the caller to make live.
+int insertForm(const std::string& folder, const std::string& name, WidgetNode** first = nullptr);
+
+// Asks for the name of a file to write. A name without a point gets `extension`. With `askOverwrite` an existing file
+// is asked about, No asks again. False when cancelled.
+bool chooseSaveFile(const std::string& title, const std::string& extension, bool askOverwrite, std::string& folder,
+                    std::string& name);
+
+// True when the program that was last linked from the project's source is there and unchanged. A source that is gone is
+// forgotten. Runs at the end of a load.
+bool executableCurrent();
+
+// Header string of the project's language and platform, as the next save writes it.
+std::string headerString();
+
+// Folder, separator and name in one; a name alone for an empty folder.
+std::string joinPath(const std::string& folder, const std::string& name);
+
+// What a reader found, for the batch commands.
+enum ProjectFileKind { FILE_PROJECT, FILE_FORM, FILE_DEFAULTS, FILE_UNKNOWN };
+ProjectFileKind fileKind(const std::string& path); // by the extension, in any case of letters
