@@ -1,0 +1,69 @@
+// The generator of source programs: from the open project to one source file in its language, with a resource script
+// and a manifest beside it. Everything works on `project`; questions and messages go through `host`.
+#pragma once
+
+#include "project/records.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Where pasted user code stands in a generated text.
+struct PastedCode {
+    enum Kind { PROJECT_BLOCK, WIDGET_SLOT, ENTRY_SLOT };
+    Kind kind = PROJECT_BLOCK;
+    int index = 0;      // CodeBlockIndex, WidgetSlot or EntrySlot, by kind
+    std::string widget; // name of the widget that owns the slot; of the form or tree view of an entry
+    std::string entry;  // name of the menu or tree entry
+    int firstLine = 0;  // line of the text, from 1
+    int lines = 0;      // at least 1
+    int indent = 0;     // blanks ahead of every line
+};
+
+// A generated text and what leads from its lines back to the user's own.
+struct GeneratedText {
+    std::string text;
+    std::vector<PastedCode> map; // by first line, ascending
+};
+
+// The pasted code that holds `line` of the generated text; null when the generator wrote that line itself. The line
+// of the user's code is line - firstLine + 1, its column the text's column less indent.
+const PastedCode* pastedCodeAt(const GeneratedText& generated, int line);
+
+// What a generation knows of the world outside the project.
+struct GenerationSettings {
+    std::string architecture; // of the manifest: "x86", "AMD64" or empty
+};
+inline GenerationSettings generationSettings;
+
+// Remembers the colours that host.enquireColour tells now as those that a program starts with; generated text defines
+// the ones that differ. Without a call all colours from 20 on count as black.
+void noteStartColours();
+
+// ".f90", ".for" or ".cpp", and the filter of the file dialogue.
+const char* sourceExtension(int language);
+const char* sourceFilter(int language);
+
+// "F90 Windows Project" and its like, by language and platform of the project.
+std::string projectKind();
+
+// The source file's full path from sourceDir and sourceName; empty without a name.
+std::string sourcePath();
+
+// `path` up to the last "." of its file name: the stem of the resource script and the manifest.
+std::string basePath(std::string_view path);
+
+// The whole source text in memory, for a source file that will stand at `path`. Puts the master form first in the
+// chain and leaves dynamic forms of Fortran 90 with the parent name "Form1"; touches no file. False when the project
+// has no master form: then there is no text and nothing was changed.
+bool generateText(const std::string& path, GeneratedText& generated);
+
+// Asks for the source file with host.fileDialogue, starting from sourceDir and sourceName, and asks before one is
+// overwritten. True when one was chosen; on cancelling both names are as before.
+bool chooseSourceFile();
+
+// Writes the source to `path`, the manifest and the resource script, and clears sourceStale and exeTime. `fileName`
+// gives the project its title when it has none. An existing source is replaced only once the new text is complete.
+// On failure an error box has told the user, sourceStale keeps its value and the result is false. The caller sets the
+// title of its window. With `generated` it hands back the text with its map.
+bool generateSource(const std::string& path, const std::string& fileName, GeneratedText* generated = nullptr);
