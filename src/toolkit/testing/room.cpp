@@ -1,1 +1,0 @@
-// The first file of this library goes here.
