@@ -1,0 +1,117 @@
+// The table behind a property list: two columns, a label and a cell of one of four kinds. Values set by the program
+// raise no signal; what the user does raises exactly one of the three signals.
+#pragma once
+
+#include <QAbstractItemDelegate>
+#include <QColor>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QTableView>
+#include <optional>
+#include <vector>
+
+namespace orba {
+
+enum class CellKind : int {
+    text = 1,   // free text
+    button = 2, // a text or a colour with a button at the right end
+    choice = 3, // one of a list of entries
+    number = 4, // a number with fixed decimals
+};
+
+// One row of a property list. Rows are numbered from 1.
+struct PropertyRow {
+    CellKind kind = CellKind::text;
+    QString label;
+    QString text;                 // what the cell shows; of a number the formatted value
+    std::optional<QColor> colour; // shown instead of the text when set
+    QStringList choices;          // entries of a choice
+    bool enabled = true;          // a disabled row is grey and cannot be edited
+    bool typed = true;            // the text can be typed: false for most button cells and for list-only choices
+    bool sorted = false;          // entries of a choice are shown in alphabetical order
+    int width = 10;               // characters of a number
+    int decimals = 0;             // of a number
+    std::optional<double> minimum, maximum;
+    double step = 1;  // of the arrows of a number
+    QString suffix;   // behind a number, for instance "%"
+    QString help;     // shown as bubble help over the row
+    int callback = 0; // identifier of this row's own value event, 0 for the list's
+    int maximumLength = 255;
+};
+
+class PropertyModel;
+
+class PropertyView : public QTableView {
+    Q_OBJECT
+public:
+    explicit PropertyView(QWidget* parent = nullptr);
+    ~PropertyView() override;
+
+    int rowCount() const;
+    const PropertyRow* row(int number) const; // null when there is no such row
+    int addRow(PropertyRow row);              // returns the number of the new row
+    void insertRow(int number, PropertyRow row);
+    bool removeRow(int number);
+    void clearRows();
+    int findRow(const QString& label) const; // 0 when there is none
+    void setRow(int number, PropertyRow row);
+
+    void selectRow(int number); // makes a row the current one and scrolls it into view; raises no signal
+    int currentRow() const;     // 0 when none is
+    int changedRow() const { return changedRow_; } // row of the last change by the user, 0 before one
+
+    void setLabelWidth(int pixels);
+    int labelWidth() const;
+    void setRowHeight(int pixels);
+    int rowHeight() const;
+    void setReadOnly(bool readOnly) { readOnly_ = readOnly; }
+
+    // Takes over what stands in an open editor, as if the user had pressed Return. Whoever is about to lose the table
+    // calls it.
+    void commitEditor();
+    void editRow(int number); // opens the editor of a row; a button cell that is not typed is pressed instead
+
+    // Used by the delegate.
+    QRect buttonRect(const QModelIndex& index) const; // empty for cells without a button
+    void userChanged(int number, const QString& text);
+    void setActiveEditor(QWidget* editor);
+    void commitFrom(QWidget* editor); // as commitEditor, unless another editor is the open one
+
+signals:
+    void rowSelected(int number);
+    void buttonPressed(int number);
+    void valueChanged(int number);
+
+protected:
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    bool viewportEvent(QEvent* event) override;
+
+private:
+    int clickedRow(const QPoint& position) const;
+    bool onSplitter(const QPoint& position) const;
+    void makeCurrent(int number, bool byUser);
+    bool editable(int number) const;
+    void finishEditing(); // takes over and closes the open editor
+    void moveEditor(int step);
+
+    PropertyModel* model_;
+    QPointer<QWidget> editor_; // the open editor
+    int changedRow_ = 0;
+    int pressedButton_ = 0; // row whose button is held down
+    bool dragging_ = false; // the splitter between the columns
+    bool byProgram_ = false;
+    bool readOnly_ = false;
+    int rowHeight_ = 0; // 0 follows the font
+};
+
+} // namespace orba
