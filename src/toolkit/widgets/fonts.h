@@ -1,0 +1,23 @@
+// Font names of programs and the fonts of this desktop.
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <QStringList>
+
+namespace toolkit {
+
+// The family names to look for, best first: the name itself, so that it can be told again, then what stands for it
+// here. "MS Sans Serif" and its kin are the desktop's own font, "Courier New" and its kin the nearest font of fixed
+// pitch.
+QStringList fontFamilies(const QString& face);
+
+// The name that the program asked for, or that of the font in use.
+QString requestedFace(const QFont& font);
+
+QFont namedFont(const QString& face, double points);
+
+// Faces that a font list offers, sorted.
+QStringList availableFaces();
+
+} // namespace toolkit

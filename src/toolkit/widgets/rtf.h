@@ -1,0 +1,25 @@
+// Rich Text Format in and out of a text document: paragraphs with alignment, indents, tab stops and bullets; characters
+// with face, size, weight, slant, lines and colours; links.
+#pragma once
+
+#include <QByteArray>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace toolkit {
+
+// Twips are the unit of lengths in the format, 20 to a point; a document measures in pixels of 96 to the inch.
+inline constexpr double pixelsPerTwip = 96.0 / 1440.0;
+
+// Whether the bytes claim to be rich text. Anything else is plain.
+bool isRtf(const QByteArray& bytes);
+
+// Inserts the text at the cursor, in place of its selection. Any bytes whatever end in some text; nested groups beyond
+// a sane depth and pictures are left out. Characters without attributes of their own take those of `base`.
+void insertRtf(QTextCursor& cursor, const QByteArray& rtf, const QTextCharFormat& base);
+
+// The whole document, or the selection of the cursor.
+QByteArray writeRtf(const QTextDocument& document);
+QByteArray writeRtf(const QTextCursor& selection);
+
+} // namespace toolkit
