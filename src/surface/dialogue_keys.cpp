@@ -41,9 +41,10 @@ void closeDialogueKeys() {
     owSetActiveWindow(0);
 }
 
+bool dialogueOpen() { return !buttons.empty(); }
+
 void dialogueTabCommand() {
     if (buttons.empty()) return;
-    owDefineKeySelectCallback(OKEYTAB, CMD_DIALOGUE_TAB); // the action loop frees Tab after every event
     const int active = owEnqActiveWidget();
     for (const DialogueButton& button : buttons)
         if (button.handle == active) {

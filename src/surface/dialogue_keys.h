@@ -16,4 +16,6 @@ void addDialogueButton(DialogueButton button);
 // Frees the keys and gives the input back.
 void closeDialogueKeys();
 
+bool dialogueOpen(); // the keys are bound at the moment
+
 void dialogueTabCommand(); // Tab or Shift+Tab in a dialogue

@@ -1,0 +1,9 @@
+// The preferences file "wdesign.prf": sixteen numbers and texts in slots of 25 bytes.
+#pragma once
+
+// Fills `preferences`. Fields that the file does not hold take their defaults; `defaultPointSize` is the one of the
+// code font, which depends on the system.
+void loadPreferences(int defaultPointSize);
+
+// Writes the file. Tells the user when it cannot.
+void savePreferences();

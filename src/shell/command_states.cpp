@@ -1,0 +1,173 @@
+#include "shell/command_states.h"
+
+#include "menu-c.h"
+#include "project/preferences.h"
+#include "project/records.h"
+#include "shell/commands.h"
+#include "surface/state.h"
+
+#include <set>
+#include <unordered_map>
+#include <vector>
+
+// An entry or button that means one command on a form and another in the code editor.
+struct ModeTwin {
+    int design;
+    int text;
+    const char* designLabel; // once the code editor has had the input
+    const char* designHelp;  // null: the entry has no icon on the Icon Bar
+};
+
+static constexpr ModeTwin TWINS[] = {
+    {CMD_UNDO, CMD_TEXT_UNDO, "Undo Move Resize Widget|Ctrl+Z", nullptr},
+    {CMD_REDO, CMD_TEXT_REDO, "Redo Move Resize Widget|Ctrl+Y", nullptr},
+    {CMD_CUT, CMD_TEXT_CUT, "Cut Widget|Ctrl+X", "Cut Widget from Form to Paste Buffer"},
+    {CMD_COPY, CMD_TEXT_COPY, "Copy Widget|Ctrl+C", "Copy Widget from Form to Paste Buffer"},
+    {CMD_PASTE, CMD_TEXT_PASTE, "Paste Widget|Ctrl+V", "Paste Widget to Form from Paste Buffer"},
+    {CMD_DELETE, CMD_TEXT_DELETE, "Delete Widget|DEL", nullptr},
+};
+
+struct ShownWidget {
+    CommandWidget kind;
+    int handle;
+    int status; // as last given to the toolkit
+};
+
+struct CommandState {
+    int asked = STATUS_ENABLED;
+    std::vector<ShownWidget> widgets; // of a twin, both commands' stand with the design command
+};
+
+static bool textMode = false;
+static bool modeInstalled = false; // false until the first mode has given the entries their labels
+static std::unordered_map<int, CommandState> states;
+
+static CommandState& stateOf(int id) {
+    const auto found = states.find(id);
+    if (found != states.end()) return found->second;
+    const Command* command = findCommand(id);
+    CommandState& state = states[id];
+    if (command && (command->when & STARTS_DISABLED)) state.asked = STATUS_DISABLED;
+    return state;
+}
+
+// The command that the widgets of `id` send at the moment.
+static int targetOf(int id) {
+    for (const ModeTwin& twin : TWINS)
+        if (twin.design == id && textMode) return twin.text;
+    return id;
+}
+
+static int widgetsOwner(int id) {
+    for (const ModeTwin& twin : TWINS)
+        if (twin.text == id) return twin.design;
+    return id;
+}
+
+static bool conditionsHold(const Command& command) {
+    const unsigned when = command.when;
+    return command.handler && !(when & NOT_YET) && (!(when & WHEN_TEXT_MODE) || textMode) &&
+           (!(when & WHEN_WINDOWS) || project.projectPlatform == 'w') &&
+           (!(when & WHEN_PIXELS) || project.gridMode == 0) && (!(when & WHEN_SYNTAX) || preferences.syntaxColours);
+}
+
+int commandStatus(int id) {
+    const Command* command = findCommand(id);
+    return command && conditionsHold(*command) ? stateOf(id).asked : STATUS_DISABLED;
+}
+
+static void showStatus(int owner) {
+    const int status = commandStatus(targetOf(owner));
+    for (ShownWidget& widget : stateOf(owner).widgets)
+        if (widget.status != status) {
+            widget.status = status;
+            owSetWidgetStatus(widget.handle, status);
+        }
+}
+
+void addCommandWidget(int id, CommandWidget kind, int handle) {
+    stateOf(id).widgets.push_back({kind, handle, STATUS_ENABLED});
+    showStatus(id);
+}
+
+void forgetCommandWidgets() {
+    states.clear();
+    textMode = modeInstalled = false;
+}
+
+// Which command a key sends in the mode in force; 0 for none.
+static int keyTarget(int key) {
+    for (const Command& command : commandTable()) {
+        if (command.key != key || !(command.keyModes & (textMode ? IN_TEXT : IN_DESIGN)) || !command.handler) continue;
+        if ((command.keyModes & WHEN_ENABLED) && commandStatus(command.id) == STATUS_DISABLED) continue;
+        if (command.id == CMD_POPUP && design.unadopted) continue;
+        if (command.id == CMD_DELETE && !preferences.delDeletes) continue;
+        if (command.id == CMD_CODE_HELP && project.projectLanguage == 77) return CMD_HELP;
+        return command.id;
+    }
+    return 0;
+}
+
+static void bindKeys() {
+    std::set<int> keys;
+    for (const Command& command : commandTable())
+        if (command.key) keys.insert(command.key);
+    for (const int key : keys) owDefineKeyCallback(key, keyTarget(key));
+    owDefineKeySelectCallback(OKEYRETURN, 0);
+    owDefineKeySelectCallback(controlKey('W'), 0);
+}
+
+void setCommandStatus(int id, int status) {
+    CommandState& state = stateOf(id);
+    if (state.asked == status) return;
+    state.asked = status;
+    showStatus(widgetsOwner(id));
+    const Command* command = findCommand(id);
+    if (command && command->key && (command->keyModes & WHEN_ENABLED))
+        owDefineKeyCallback(command->key, keyTarget(command->key));
+}
+
+void setToolStatus(int tool, int status) {
+    for (const Command& command : commandTable())
+        if (tool != 0 && command.tool == tool) setCommandStatus(command.id, status);
+}
+
+void setCommandLabel(int id, const std::string& label) {
+    for (const ShownWidget& widget : stateOf(id).widgets)
+        if (widget.kind != CommandWidget::Button) owSetWidgetProp(widget.handle, owLabel, label.c_str(), 0);
+}
+
+void setCommandHelp(int id, const std::string& bubbleHelp) {
+    for (const ShownWidget& widget : stateOf(id).widgets)
+        if (widget.kind == CommandWidget::Button) owSetWidgetProp(widget.handle, owHelp, bubbleHelp.c_str(), 0);
+}
+
+void refreshCommands() {
+    for (const Command& command : commandTable()) showStatus(command.id);
+    bindKeys();
+}
+
+static std::string designLabel(const ModeTwin& twin) {
+    const std::string label = twin.designLabel;
+    const bool keyIsFree = twin.design == CMD_DELETE && !preferences.delDeletes;
+    return keyIsFree ? label.substr(0, label.find('|')) : label;
+}
+
+static void retarget(const ModeTwin& twin) {
+    const Command& text = *findCommand(twin.text);
+    setCommandLabel(twin.design, textMode ? text.label : designLabel(twin));
+    if (twin.designHelp) setCommandHelp(twin.design, textMode ? text.bubbleHelp : twin.designHelp);
+    for (const ShownWidget& widget : stateOf(twin.design).widgets)
+        owDefineCallback(widget.handle, targetOf(twin.design));
+}
+
+void setInputMode(bool text) {
+    const bool changed = textMode != text || !modeInstalled;
+    textMode = text;
+    modeInstalled = true;
+    if (changed)
+        for (const ModeTwin& twin : TWINS) retarget(twin);
+    refreshCommands();
+}
+
+bool textModeInForce() { return textMode; }

@@ -1,0 +1,29 @@
+// The state of the commands: enabled, disabled or pressed on every entry and button that offers them, and the key map
+// of the mode in force.
+#pragma once
+
+#include <string>
+
+enum CommandStatus : int { STATUS_HIDDEN = -1, STATUS_DISABLED = 0, STATUS_ENABLED = 1, STATUS_PRESSED = 2 };
+
+// An entry or button, by its toolkit handle, now shows the command's state.
+enum class CommandWidget { MenuEntry, PopupEntry, Button };
+void addCommandWidget(int command, CommandWidget kind, int handle);
+void forgetCommandWidgets(); // when the windows are gone
+
+// The state that the owner of the command asks for. A command whose conditions do not hold stays disabled until they
+// do.
+void setCommandStatus(int command, int status);
+int commandStatus(int command); // as shown
+void setToolStatus(int tool, int status);
+
+void setCommandLabel(int command, const std::string& label);
+void setCommandHelp(int command, const std::string& bubbleHelp);
+
+// Brings all entries, buttons and keys into line after the platform, the grid mode or a preference has changed.
+void refreshCommands();
+
+// Text mode: the code editor has the input. The shared entries of the Edit menu act on text, and the other key map
+// holds.
+void setInputMode(bool text);
+bool textModeInForce();

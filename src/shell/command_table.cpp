@@ -1,0 +1,211 @@
+#include "build/execute.h"
+#include "editing/code_editor.h"
+#include "editing/name_chooser.h"
+#include "editing/source_viewer.h"
+#include "editing/text_commands.h"
+#include "project/records.h"
+#include "properties/sheet.h"
+#include "shell/build_commands.h"
+#include "shell/commands.h"
+#include "shell/control_windows.h"
+#include "shell/help.h"
+#include "shell/menus.h"
+#include "shell/project_commands.h"
+#include "surface/clipboard.h"
+#include "surface/dialogue_keys.h"
+#include "surface/hierarchy.h"
+#include "surface/selection.h"
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
+
+// clang-format off
+static constexpr Command COMMANDS[] = {
+    // File
+    {.id = CMD_NEW_PROJECT, .label = "Project...|Ctrl+N", .mnemonic = 'P', .key = controlKey('N'), .menuIcon = "filenew&", .barIcon = "filenew", .bubbleHelp = "New Project", .handler = newProjectCommand},
+    {.id = CMD_NEW_FORM, .label = "Form|Ctrl+F", .mnemonic = 'F', .key = controlKey('F'), .menuIcon = "newform&", .barIcon = "newform", .bubbleHelp = "New Form", .handler = newFormCommand},
+    {.id = CMD_OPEN_PROJECT, .label = "Open Project...", .mnemonic = 'O', .menuIcon = "fileopen&", .barIcon = "fileopen", .bubbleHelp = "Open Project", .handler = openProjectCommand},
+    {.id = CMD_INSERT_FORM, .label = "Insert Form...", .mnemonic = 'I', .handler = insertFormCommand},
+    {.id = CMD_INSERT_FILE, .label = "Insert File...", .mnemonic = 'N', .menuIcon = "insertcode&", .handler = insertFileCommand},
+    {.id = CMD_SAVE_FORM, .label = "Save Form...", .mnemonic = 'a', .handler = saveFormCommand},
+    {.id = CMD_SAVE_FORM_AS, .label = "Save Form As...", .mnemonic = 'o', .handler = saveFormAsCommand},
+    {.id = CMD_SAVE_PROJECT, .label = "Save Project|Ctrl+S", .mnemonic = 'S', .key = controlKey('S'), .menuIcon = "save&", .barIcon = "save", .bubbleHelp = "Save Project", .handler = saveProjectCommand},
+    {.id = CMD_SAVE_PROJECT_AS, .label = "Save Project As...", .mnemonic = 'A', .handler = saveProjectAsCommand},
+    {.id = CMD_PRINT_CODE, .label = "Print...", .mnemonic = 'P', .when = WHEN_TEXT_MODE, .handler = printCodeCommand},
+    {.id = CMD_PRINT_ERRORS, .label = "Print Errors...", .mnemonic = 'E', .when = STARTS_DISABLED, .handler = printErrorsCommand},
+    {.id = CMD_EXIT, .label = "Exit|Alt+F4", .mnemonic = 'x', .handler = exitCommand},
+    {.id = CMD_RECENT_FIRST, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 1, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 2, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 3, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 4, .handler = openRecentCommand},
+    // Edit
+    {.id = CMD_UNDO, .label = "Undo Move/Resize Widget|Ctrl+Z", .mnemonic = 'd', .key = controlKey('Z'), .menuIcon = "undo&", .when = STARTS_DISABLED, .handler = undoCommand},
+    {.id = CMD_REDO, .label = "Redo Move/Resize Widget|Ctrl+Y", .mnemonic = 'R', .key = controlKey('Y'), .menuIcon = "redo&", .when = STARTS_DISABLED, .handler = redoCommand},
+    {.id = CMD_CUT, .label = "Cut Widget|Ctrl+X", .mnemonic = 't', .key = controlKey('X'), .menuIcon = "cut&", .barIcon = "cut", .bubbleHelp = "Cut Widget from Form to Paste buffer", .handler = cutCommand},
+    {.id = CMD_COPY, .label = "Copy Widget|Ctrl+C", .mnemonic = 'C', .key = controlKey('C'), .menuIcon = "copy&", .barIcon = "copy", .bubbleHelp = "Copy Widget from Form to Paste buffer", .handler = copyCommand},
+    {.id = CMD_DUPLICATE, .label = "Duplicate Widget|Ctrl+D", .mnemonic = 'L', .key = controlKey('D'), .menuIcon = "copy&", .handler = duplicateCommand},
+    {.id = CMD_PASTE, .label = "Paste Widget|Ctrl+V", .mnemonic = 'P', .key = controlKey('V'), .menuIcon = "paste&", .barIcon = "paste", .bubbleHelp = "Paste Widget from Paste buffer to Form", .when = STARTS_DISABLED, .handler = pasteCommand},
+    {.id = CMD_DELETE, .label = "Delete Widget|Del", .mnemonic = 'D', .key = OKEYDEL, .menuIcon = "deletewidg&", .handler = deleteCommand},
+    {.id = CMD_DELETE_MENU_BAR, .label = "Delete Menu Bar", .mnemonic = 'M', .menuIcon = "deletemenu&"},
+    {.id = CMD_FIND, .label = "Find|Ctrl+F", .mnemonic = 'F', .key = controlKey('F'), .keyModes = IN_TEXT, .when = WHEN_TEXT_MODE},
+    {.id = CMD_FIND_NEXT, .label = "Find Next|F3", .mnemonic = 'N', .key = functionKey(3), .keyModes = IN_TEXT | WHEN_ENABLED, .when = WHEN_TEXT_MODE | STARTS_DISABLED},
+    {.id = CMD_REPLACE, .label = "Replace", .mnemonic = 'R', .when = WHEN_TEXT_MODE},
+    {.id = CMD_UNADOPT, .label = "Unadopt Widget|Ctrl+U", .mnemonic = 'U', .key = controlKey('U'), .menuIcon = "unadopt&", .barIcon = "Unadopt", .bubbleHelp = "Unadopt Widget", .handler = unadoptCommand},
+    {.id = CMD_CLEAR_CODE, .label = "Clear code", .mnemonic = 'c', .menuIcon = "delete&", .when = WHEN_TEXT_MODE, .handler = clearCodeCommand},
+    {.id = CMD_CLEAR_ALL_CODE, .label = "Clear all code", .mnemonic = 'a', .menuIcon = "recycle&", .when = WHEN_TEXT_MODE, .handler = clearAllCodeCommand},
+    {.id = CMD_UPPERCASE, .label = "Uppercase", .mnemonic = 'U', .when = WHEN_TEXT_MODE, .handler = uppercaseCommand},
+    {.id = CMD_LOWERCASE, .label = "Lowercase", .mnemonic = 'L', .when = WHEN_TEXT_MODE, .handler = lowercaseCommand},
+    // The same entries while the code editor has the input
+    {.id = CMD_TEXT_UNDO, .label = "Undo Text Edit              |Ctrl+Z", .mnemonic = 'd', .key = controlKey('Z'), .keyModes = IN_TEXT, .when = STARTS_DISABLED, .handler = textUndoCommand},
+    {.id = CMD_TEXT_REDO, .label = "Redo Text Edit|Ctrl+Y", .mnemonic = 'R', .key = controlKey('Y'), .keyModes = IN_TEXT, .when = STARTS_DISABLED, .handler = textRedoCommand},
+    {.id = CMD_TEXT_CUT, .label = "Cut Text|Ctrl+X", .mnemonic = 't', .key = controlKey('X'), .keyModes = IN_TEXT, .bubbleHelp = "Cut Text", .handler = textCutCommand},
+    {.id = CMD_TEXT_COPY, .label = "Copy Text|Ctrl+C", .mnemonic = 'C', .key = controlKey('C'), .keyModes = IN_TEXT, .bubbleHelp = "Copy Text", .handler = textCopyCommand},
+    {.id = CMD_TEXT_PASTE, .label = "Paste Text|Ctrl+V", .mnemonic = 'P', .key = controlKey('V'), .keyModes = IN_TEXT, .bubbleHelp = "Paste Text", .handler = textPasteCommand},
+    {.id = CMD_TEXT_DELETE, .label = "Delete Text|DEL", .mnemonic = 'D', .key = OKEYDEL, .keyModes = IN_TEXT, .handler = textDeleteCommand},
+    // View
+    {.id = CMD_VIEW_ICON_BAR, .label = "Icon Bar", .mnemonic = 'I', .handler = viewBarCommand},
+    {.id = CMD_VIEW_TOOL_BOX, .label = "Tool Box", .mnemonic = 'T', .handler = viewBarCommand},
+    {.id = CMD_VIEW_HIERARCHY, .label = "Hierarchy", .mnemonic = 'H', .handler = viewPaneCommand},
+    {.id = CMD_VIEW_PROPERTIES, .label = "Properties", .mnemonic = 'P', .handler = viewPaneCommand},
+    {.id = CMD_VIEW_CODE_EDITOR, .label = "Code Editor", .mnemonic = 'C', .handler = viewPaneCommand},
+    {.id = CMD_VIEW_COMPILER_LOG, .label = "Compiler Log", .mnemonic = 'L', .handler = viewPaneCommand},
+    {.id = CMD_SHOW_ALL, .label = "View/Hide All|F2", .mnemonic = 'V', .key = functionKey(2), .keyModes = IN_BOTH, .barIcon = "formshow", .bubbleHelp = "Hide All Forms", .handler = showAllCommand},
+    {.id = CMD_RAISE_WINDOWS, .label = "Bring control windows to top|F11", .mnemonic = 'B', .key = functionKey(11), .keyModes = IN_BOTH, .handler = raiseWindowsCommand},
+    {.id = CMD_DEFAULT_POSITIONS, .label = "Default window positions/sizes|F12", .mnemonic = 'D', .key = functionKey(12), .keyModes = IN_BOTH, .handler = defaultPositionsCommand},
+    {.id = CMD_SOURCE_VIEWER, .label = "Source Code", .mnemonic = 'S', .handler = sourceViewerCommand},
+    // Arrange
+    {.id = CMD_TAB_ORDER, .label = "Change Widget Tab Order...", .mnemonic = 'C'},
+    {.id = CMD_ALIGN, .label = "Align Widgets", .mnemonic = 'A', .when = STARTS_DISABLED},
+    // Tools
+    {.id = CMD_MENU_EDITOR, .label = "Menu entries...", .mnemonic = 'M', .menuIcon = "Menu&", .barIcon = "menu", .bubbleHelp = "Create/View Menu Bar"},
+    {.id = CMD_STATUS_BAR_EDITOR, .label = "Status bar...", .mnemonic = 'S', .menuIcon = "Status&", .barIcon = "Status", .bubbleHelp = "Create/View Status Bar", .when = WHEN_WINDOWS},
+    // Project
+    {.id = CMD_GENERATE, .label = "Generate Code", .mnemonic = 'G', .menuIcon = "Generate&", .barIcon = "Generate", .bubbleHelp = "Generate Code", .handler = generateCommand},
+    {.id = CMD_COMPILE, .label = "Compile, Link & Execute|F5", .mnemonic = 'C', .key = functionKey(5), .keyModes = IN_BOTH | WHEN_ENABLED, .menuIcon = "Compile&", .greyIcon = "Compile#", .barIcon = "Compile", .bubbleHelp = "Compile, Link & Execute", .when = STARTS_DISABLED, .handler = compileAndRunCommand},
+    {.id = CMD_COMPILE_AGAIN, .handler = compileAndRunCommand},
+    {.id = CMD_REBUILD, .label = "Rebuild all", .mnemonic = 'R', .when = STARTS_DISABLED, .handler = rebuildCommand},
+    {.id = CMD_EXECUTE, .label = "Execute|F6", .mnemonic = 'E', .key = functionKey(6), .keyModes = IN_BOTH | WHEN_ENABLED, .menuIcon = "forward&", .barIcon = "forward", .bubbleHelp = "Execute", .when = STARTS_DISABLED, .handler = executeCommand},
+    {.id = CMD_ABORT, .label = "Abort Execution", .mnemonic = 'A', .menuIcon = "cancel&", .barIcon = "cancel", .bubbleHelp = "Abort Execution", .when = STARTS_DISABLED, .handler = abortCommand},
+    {.id = CMD_PROJECT_SETTINGS, .label = "Project Settings...", .mnemonic = 'S'},
+    {.id = CMD_CHANGE_PROJECT_TYPE, .label = "Change Project Type...", .mnemonic = 'T'},
+    {.id = CMD_SNAP_DIALOGUE, .label = "Project Snap Grid...", .mnemonic = 'S', .when = WHEN_PIXELS},
+    // Options
+    {.id = CMD_DEFAULTS_RESTORE, .label = "Restore System", .mnemonic = 'R'},
+    {.id = CMD_DEFAULTS_LOAD, .label = "Load User", .mnemonic = 'L'},
+    {.id = CMD_DEFAULTS_CHANGE, .label = "Change Current...", .mnemonic = 'C'},
+    {.id = CMD_PREFERENCES, .label = "Preferences...", .mnemonic = 'P'},
+    {.id = CMD_SYNTAX_ATTRIBUTES, .label = "Edit Syntax Attributes...", .mnemonic = 'E', .when = WHEN_SYNTAX},
+    // Help
+    {.id = CMD_HELP_DESIGNER, .label = "ORBAWIDG Designer Help Topics", .mnemonic = 'S', .handler = helpTopicsCommand},
+    {.id = CMD_HELP_TOOLKIT, .label = "ORBAWIDG Help Topics", .mnemonic = 'M', .handler = helpTopicsCommand},
+    {.id = CMD_HELP_BASE, .label = "ORBA Help Topics", .mnemonic = 'G', .handler = helpTopicsCommand},
+    {.id = CMD_HELP_PLOT, .label = "ORBAPLOT Help Topics", .mnemonic = 'R', .handler = helpTopicsCommand},
+    {.id = CMD_HELP_MESH, .label = "ORBAMESH Help Topics", .mnemonic = 'S', .handler = helpTopicsCommand},
+    {.id = CMD_ABOUT, .label = "About ORBAWIDG Designer", .mnemonic = 'A', .handler = aboutCommand},
+    {.id = CMD_ABOUT_OK, .handler = aboutOkCommand},
+    // Tool Box
+    {.id = 15448, .barIcon = "Pointer", .bubbleHelp = "Selector", .tool = 17000, .handler = toolCommand},
+    {.id = 15454, .barIcon = "tabdia", .bubbleHelp = "Tabbed Dialogue Box", .tool = 17019, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15446, .barIcon = "Panel", .bubbleHelp = "Panel", .tool = 17010, .handler = toolCommand},
+    {.id = 15457, .barIcon = "toolbar", .bubbleHelp = "Tool Bar", .tool = 17017, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15466, .barIcon = "pane", .bubbleHelp = "Docking Pane", .tool = 17027, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15445, .barIcon = "Listbox", .bubbleHelp = "List Box", .tool = 17003, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15442, .barIcon = "Combo", .bubbleHelp = "Combo Box", .tool = 17011, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15440, .barIcon = "Button", .bubbleHelp = "Button", .tool = 17001, .handler = toolCommand},
+    {.id = 15444, .barIcon = "icon", .bubbleHelp = "Icon", .tool = 17007, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15465, .barIcon = "toolsep", .bubbleHelp = "Toolbar Separator", .tool = 17026, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15441, .barIcon = "check", .bubbleHelp = "Check Box", .tool = 17002, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15450, .barIcon = "radiobut", .bubbleHelp = "Radio Button", .tool = 17020, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15452, .barIcon = "stext", .bubbleHelp = "Text Label", .tool = 17008, .handler = toolCommand},
+    {.id = 15455, .barIcon = "text", .bubbleHelp = "Text Entry", .tool = 17005, .handler = toolCommand},
+    {.id = 15456, .barIcon = "textcel", .bubbleHelp = "Text Array", .tool = 17014, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15453, .barIcon = "sval", .bubbleHelp = "Value Label", .tool = 17009, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15458, .barIcon = "val", .bubbleHelp = "Value Entry", .tool = 17006, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15459, .barIcon = "valuecel", .bubbleHelp = "Value Array", .tool = 17015, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15464, .barIcon = "table", .bubbleHelp = "Table Box", .tool = 17025, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15460, .barIcon = "gauge", .bubbleHelp = "Gauge", .tool = 17021, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15461, .barIcon = "progress", .bubbleHelp = "Progress Bar", .tool = 17022, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15463, .barIcon = "treeview", .bubbleHelp = "Treeview", .tool = 17024, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    {.id = 15443, .barIcon = "graph", .bubbleHelp = "Graphics Frame", .tool = 17013, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15451, .barIcon = "sliderh", .bubbleHelp = "Slider", .tool = 17004, .when = NOT_YET, .handler = toolCommand},
+    {.id = 15462, .barIcon = "tty", .bubbleHelp = "TTY Entry", .tool = 17023, .when = WHEN_WINDOWS | NOT_YET, .handler = toolCommand},
+    // Keys and windows
+    {.id = CMD_POPUP, .key = OKEYRIGHTBUTTON, .handler = popupCommand},
+    {.id = CMD_HELP, .key = OKEYF1, .handler = contextHelpCommand},
+    {.id = CMD_CODE_HELP, .key = OKEYF1, .keyModes = IN_TEXT, .handler = codeHelpCommand},
+    {.id = CMD_INSERT_NAME, .key = controlKey('W'), .keyModes = IN_TEXT, .handler = insertNameCommand},
+    {.id = CMD_COMMIT_CODE, .key = controlKey('S'), .keyModes = IN_TEXT, .handler = commitCommand},
+    {.id = CMD_TEXT_TAB, .handler = textTabCommand},
+    {.id = CMD_DIALOGUE_TAB, .handler = dialogueTabCommand},
+    {.id = CMD_MASTER_WINDOW, .handler = masterWindowEvent},
+    {.id = CMD_PANE_PROPERTIES, .handler = controlWindowEvent},
+    {.id = CMD_PANE_HIERARCHY, .handler = controlWindowEvent},
+    {.id = CMD_PANE_CODE_EDITOR, .handler = controlWindowEvent},
+    {.id = CMD_PANE_COMPILER_LOG, .handler = controlWindowEvent},
+    {.id = CMD_BAR_ICON_BAR, .handler = controlWindowEvent},
+    {.id = CMD_BAR_TOOL_BOX, .handler = controlWindowEvent},
+    {.id = CMD_LOG_LINE, .handler = logLineCommand},
+    {.id = CMD_AUTO_BACKUP, .handler = autoBackupCommand},
+    {.id = CMD_WATCH, .handler = watchProgram},
+    // Forms, properties and code
+    {.id = CMD_MOVED, .handler = movedCommand},
+    {.id = CMD_DOUBLE_CLICK, .handler = doubleClickCommand},
+    {.id = CMD_TEXT_EDITED, .handler = textEditedCommand},
+    {.id = CMD_TEXT_SELECTED, .handler = entrySelectedCommand},
+    {.id = CMD_VALUE_SELECTED, .handler = entrySelectedCommand},
+    {.id = CMD_VALUE_EDITED, .handler = valueEditedCommand},
+    {.id = CMD_TOGGLED, .handler = toggledCommand},
+    {.id = CMD_HIERARCHY_ROW, .handler = hierarchyRowCommand},
+    {.id = CMD_PROPERTY_SELECTED, .handler = propertySelectedCommand},
+    {.id = CMD_PROPERTY_BUTTON, .handler = propertyButtonCommand},
+    {.id = CMD_PROPERTY_CHANGED, .handler = propertyChangedCommand},
+    {.id = CMD_FONT_FACE, .handler = fontFaceCommand},
+    {.id = CMD_POINT_SIZE, .handler = pointSizeCommand},
+    {.id = CMD_CODE_BLOCK, .handler = blockChosenCommand},
+    {.id = CMD_WIDGET_LIST, .handler = widgetChosenCommand},
+    {.id = CMD_SELECTOR_TABS, .handler = selectorTabCommand},
+    {.id = CMD_MENU_ENTRY_LIST, .handler = menuEntryChosenCommand},
+    {.id = CMD_TREE_ENTRY_LIST, .handler = treeEntryChosenCommand},
+    {.id = CMD_CODE_CHANGED, .handler = codeChangedCommand},
+    {.id = CMD_CODE_SELECT, .handler = caretMovedCommand},
+    {.id = CMD_INDENT, .handler = indentCommand},
+    {.id = CMD_UNINDENT, .handler = unindentCommand},
+    {.id = CMD_COMMENT, .handler = commentCommand},
+    {.id = CMD_UNCOMMENT, .handler = uncommentCommand},
+};
+// clang-format on
+
+static constexpr bool identifiersAreUnique() {
+    for (const Command* one = std::begin(COMMANDS); one != std::end(COMMANDS); ++one)
+        for (const Command* other = one + 1; other != std::end(COMMANDS); ++other)
+            if (one->id == other->id) return false;
+    return true;
+}
+static_assert(identifiersAreUnique());
+
+std::span<const Command> commandTable() { return COMMANDS; }
+
+const Command* findCommand(int id) {
+    static const std::unordered_map<int, const Command*> index = [] {
+        std::unordered_map<int, const Command*> rows;
+        for (const Command& command : COMMANDS) rows[command.id] = &command;
+        return rows;
+    }();
+    const auto found = index.find(id);
+    return found == index.end() ? nullptr : found->second;
+}
+
+static int running = 0;
+
+int currentCommand() { return running; }
+
+bool runCommand(int id) {
+    running = id;
+    if (const Command* command = findCommand(id)) {
+        if (command->handler) command->handler();
+        return command->handler != nullptr;
+    }
+    return nameCommand(id) || viewerCommand(id);
+}

@@ -1,0 +1,104 @@
+// Every command of the designer: what it is called, where it shows, which key sends it, when it can be had and what it
+// runs. The menus, the Icon Bar, the Tool Box, the popup menu, the key map and the dispatch are made from this table.
+#pragma once
+
+#include "menu-c.h"
+#include "surface/commands.h"
+
+#include <span>
+#include <string>
+
+// Identifiers of the commands and events that the shell itself handles; the others are in surface/commands.h.
+enum ShellCommandId : int {
+    CMD_EXIT = -1, // the toolkit sends it when the master window is closed, too
+    CMD_RECENT_FIRST = 14090,
+    CMD_RECENT_LAST = 14094,
+    CMD_MASTER_WINDOW = 15000,
+    CMD_ABOUT_OK = 15001,
+    CMD_LOG_LINE = 15028,
+    CMD_SYNTAX_ATTRIBUTES = 15039,
+    CMD_HELP_TOOLKIT = 15056,
+    CMD_HELP_BASE = 15085,
+    CMD_HELP_PLOT = 15086,
+    CMD_HELP_MESH = 15087,
+    CMD_CHANGE_PROJECT_TYPE = 15089,
+    CMD_DEFAULTS_LOAD = 15102,
+    CMD_DEFAULTS_RESTORE = 15104,
+    CMD_COMPILE = 15141,
+    CMD_PROJECT_SETTINGS = 15142,
+    CMD_GENERATE = 15143,
+    CMD_OPEN_PROJECT = 15149,
+    CMD_SAVE_PROJECT_AS = 15152,
+    CMD_SAVE_FORM = 15153,
+    CMD_SAVE_FORM_AS = 15154,
+    CMD_INSERT_FORM = 15155,
+    CMD_COMPILE_AGAIN = 15156,
+    CMD_EXECUTE = 15157,
+    CMD_ABORT = 15158,
+    CMD_REBUILD = 15159,
+    CMD_ABOUT = 15220,
+    CMD_DEFAULTS_CHANGE = 15223,
+    CMD_HELP_DESIGNER = 15225,
+    CMD_PREFERENCES = 15228,
+    CMD_DELETE_MENU_BAR = 15247,
+    CMD_TOOL_BUTTON = 15440,
+    CMD_TOOL_SELECTOR = 15448,
+    CMD_MENU_EDITOR = 15472,
+    CMD_STATUS_BAR_EDITOR = 15473,
+    CMD_TAB_ORDER = 15475,
+    CMD_VIEW_ICON_BAR = 15480,
+    CMD_VIEW_TOOL_BOX = 15481,
+    CMD_VIEW_HIERARCHY = 15482,
+    CMD_VIEW_PROPERTIES = 15484,
+    CMD_PANE_PROPERTIES = 15487,
+    CMD_PANE_HIERARCHY = 15488,
+    CMD_BAR_TOOL_BOX = 15491,
+    CMD_BAR_ICON_BAR = 15492,
+    CMD_VIEW_CODE_EDITOR = 15493,
+    CMD_VIEW_COMPILER_LOG = 15494,
+    CMD_PANE_CODE_EDITOR = 15495,
+    CMD_PANE_COMPILER_LOG = 15496,
+    CMD_AUTO_BACKUP = 15712,
+    CMD_PRINT_ERRORS = 15809,
+    CMD_WATCH = 19010,
+};
+
+// Key codes beside those of the toolkit.
+constexpr int controlKey(char letter) { return letter - 'A' + 1; }
+constexpr int functionKey(int number) { return OKEYF1 + number - 1; }
+
+// What has to hold for a command to be enabled, beside having a handler.
+enum CommandCondition : unsigned {
+    WHEN_ALWAYS = 0,
+    WHEN_TEXT_MODE = 1,   // the code editor has the input
+    WHEN_WINDOWS = 2,     // a project of platform 'w'
+    WHEN_PIXELS = 4,      // a project in pixel mode
+    WHEN_SYNTAX = 8,      // syntax colouring is on
+    STARTS_DISABLED = 16, // until someone enables it
+    NOT_YET = 32,         // what it works on is not there yet
+};
+
+// Which key map binds the key of a command.
+enum KeyMode : unsigned { IN_DESIGN = 1, IN_TEXT = 2, IN_BOTH = 3, WHEN_ENABLED = 4 };
+
+struct Command {
+    int id = 0;
+    const char* label = nullptr; // in menus; behind a bar the key as the menu shows it
+    char mnemonic = 0;
+    int key = 0; // KeyCode, 0 for none
+    unsigned keyModes = IN_DESIGN;
+    const char* menuIcon = nullptr;
+    const char* greyIcon = nullptr;
+    const char* barIcon = nullptr;
+    const char* bubbleHelp = nullptr;
+    int tool = 0; // tool code of a Tool Box button
+    unsigned when = WHEN_ALWAYS;
+    void (*handler)() = nullptr; // null: the command is not there yet, and stays disabled
+};
+
+std::span<const Command> commandTable();
+const Command* findCommand(int id); // null for none
+
+// Runs the handler of an identifier. False when no command has it, as with every widget on a form.
+bool runCommand(int id);
+int currentCommand(); // the identifier that is being run

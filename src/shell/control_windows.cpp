@@ -1,0 +1,248 @@
+#include "shell/control_windows.h"
+
+#include "editing/code_editor.h"
+#include "editing/modes.h"
+#include "menu-c.h"
+#include "project/host.h"
+#include "properties/sheet.h"
+#include "settings/recent_projects.h"
+#include "settings/window_states.h"
+#include "shell/build_commands.h"
+#include "shell/command_states.h"
+#include "shell/commands.h"
+#include "shell/environment.h"
+#include "shell/menus.h"
+#include "surface/event.h"
+#include "surface/hierarchy.h"
+#include "surface/hooks.h"
+#include "surface/live.h"
+#include "surface/selection.h"
+#include "surface/state.h"
+#include "surface/window_states.h"
+
+#include <iterator>
+
+struct ControlWindow {
+    int viewCommand;
+    int event; // callback of the window itself
+    WindowRow row;
+    bool bar;
+    const char* title;
+    const char* helpArea;
+    int dockingSide;        // of a pane, when it is created
+    void (*fill)(int pane); // builds what a pane holds
+};
+
+static void fillProperties(int pane) {
+    const WindowState& state = windowStates[WINDOW_PROPERTIES];
+    const int panel = owCreatePanel(pane, 0, 0, state.width, state.height, owType, ONOBOUNDARY, owHpos, OCENTRE, owVpos,
+                                    OMIDDLE, owExpand, 1, 0);
+    buildPropertySheet(pane, panel);
+}
+
+// In the order in which they are built.
+static constexpr ControlWindow CONTROL_WINDOWS[] = {
+    {CMD_VIEW_ICON_BAR, CMD_BAR_ICON_BAR, WINDOW_ICON_BAR, true, "Icon Bar", "Icon Bar", POSITION_TOP, nullptr},
+    {CMD_VIEW_TOOL_BOX, CMD_BAR_TOOL_BOX, WINDOW_TOOL_BOX, true, "Tool Box", "Tool Box", POSITION_TOP, nullptr},
+    {CMD_VIEW_PROPERTIES, CMD_PANE_PROPERTIES, WINDOW_PROPERTIES, false, "Properties", "Properties Box", POSITION_RIGHT,
+     fillProperties},
+    {CMD_VIEW_HIERARCHY, CMD_PANE_HIERARCHY, WINDOW_HIERARCHY, false, "Object Hierarchy", "Object Hierarchy",
+     POSITION_LEFT, createHierarchy},
+    {CMD_VIEW_COMPILER_LOG, CMD_PANE_COMPILER_LOG, WINDOW_COMPILER_LOG, false, "Compiler Log", "Compiler Log",
+     POSITION_BOTTOM, buildCompilerLog},
+    {CMD_VIEW_CODE_EDITOR, CMD_PANE_CODE_EDITOR, WINDOW_CODE_EDITOR, false, "Code Editor", "Code Editor", POSITION_LEFT,
+     buildCodeEditor},
+};
+
+static const ControlWindow& windowOfView(int viewCommand) {
+    for (const ControlWindow& window : CONTROL_WINDOWS)
+        if (window.viewCommand == viewCommand) return window;
+    return CONTROL_WINDOWS[0];
+}
+
+static int handleOf(const ControlWindow& window) { return windowStates[window.row].handle; }
+static bool isShown(const ControlWindow& window) { return commandStatus(window.viewCommand) == STATUS_PRESSED; }
+
+bool controlWindowShown(int viewCommand) { return isShown(windowOfView(viewCommand)); }
+
+// ---- Building -------------------------------------------------------------------------------------------------
+
+static int statusBar = 0;
+static constexpr int STATUS_BAR_PANES = 4;
+static const int STATUS_BAR_SIZES[STATUS_BAR_PANES] = {300, 400, 500, -1}; // right edges; the last takes the rest
+
+void buildMasterWindow() {
+    WindowState& state = windowStates[WINDOW_MASTER];
+    state.handle = owCreateMDIMasterWindow(
+        state.x, state.y, state.width, state.height, OALL, environment.mainTitle.c_str(), owVpos, OTOP, owIconFile,
+        "Light", owIconFormat, ODLLICON, owCallback, CMD_MASTER_WINDOW, owInitState, state.state, 0);
+    buildMenuBar(state.handle);
+    windowStates[WINDOW_ICON_BAR].handle = buildIconBar(state.handle);
+    windowStates[WINDOW_TOOL_BOX].handle = buildToolBox(state.handle);
+    statusBar = owCreateStatusBar(state.handle, owPanes, STATUS_BAR_PANES, owSizes, STATUS_BAR_SIZES, 0);
+    hooks.statusText = [](int pane, const std::string& text) { owSetStatusBarText(statusBar, pane, text.c_str()); };
+    hooks.commandStatus = setCommandStatus;
+    hooks.toolStatus = setToolStatus;
+    hooks.inputMode = setInputMode;
+    hooks.drawControlWindows = [] {
+        owDrawWidget(windowStates[WINDOW_HIERARCHY].handle);
+        owDrawWidget(windowStates[WINDOW_COMPILER_LOG].handle);
+    };
+}
+
+static void placeWindow(const ControlWindow& window) {
+    const WindowState& state = windowStates[window.row];
+    if (window.bar)
+        owSetToolbarPos(state.handle, state.x, state.y, state.width, state.state);
+    else
+        owSetPanePos(state.handle, state.x, state.y, state.width, state.height, state.state);
+}
+
+void buildControlWindows() {
+    for (const ControlWindow& window : CONTROL_WINDOWS) {
+        WindowState& state = windowStates[window.row];
+        if (!window.bar) {
+            state.handle = owCreateDockingPane(MASTER_WINDOW, window.dockingSide, 0, 0, state.width, state.height,
+                                               owTitleFlag, OQUIT, owTitle, window.title, owCallback, window.event);
+            window.fill(state.handle);
+        }
+        placeWindow(window);
+        setCommandStatus(window.viewCommand, state.state != POSITION_HIDDEN ? STATUS_PRESSED : STATUS_ENABLED);
+    }
+    buildWidgetPopup(MASTER_WINDOW);
+}
+
+// ---- Showing and hiding ---------------------------------------------------------------------------------------
+
+static constexpr int KIND_REMOVABLE = 2; // a window of its own: taken from the screen as a whole
+
+static void hideWindow(const ControlWindow& window) {
+    const int handle = handleOf(window);
+    int kind = 0;
+    if (!window.bar) owEnqWidgetProp(handle, owKind, &kind, 0);
+    if (kind == KIND_REMOVABLE)
+        owRemoveWindow(handle);
+    else
+        owSetWidgetStatus(handle, OHIDDEN);
+}
+
+static void toggleView() {
+    const ControlWindow& window = windowOfView(currentCommand());
+    if (!isShown(window)) {
+        setCommandStatus(window.viewCommand, STATUS_PRESSED);
+        owSetWidgetStatus(handleOf(window), OSELECTABLE);
+    } else {
+        setCommandStatus(window.viewCommand, STATUS_ENABLED);
+        hideWindow(window);
+    }
+}
+
+void viewPaneCommand() { toggleView(); }
+void viewBarCommand() { toggleView(); }
+
+void showControlWindow(int viewCommand) {
+    const ControlWindow& window = windowOfView(viewCommand);
+    if (!isShown(window)) {
+        setCommandStatus(viewCommand, STATUS_PRESSED);
+        owSetWidgetStatus(handleOf(window), OSELECTABLE);
+    }
+}
+
+void controlWindowEvent() {
+    for (const ControlWindow& window : CONTROL_WINDOWS) {
+        if (window.event != currentCommand()) continue;
+        if (action.status == OCLOSED)
+            setCommandStatus(window.viewCommand, STATUS_ENABLED);
+        else
+            design.helpContext = window.helpArea;
+    }
+}
+
+void markFormsShown() {
+    design.formsShown = 1;
+    setCommandHelp(CMD_SHOW_ALL, "Hide all Forms");
+}
+
+static void hideForms() {
+    for (WidgetNode* form = project.forms; form; form = form->next) {
+        owRemoveWindow(form->handle);
+        form->formHidden = 1;
+    }
+    enterTextMode();
+    setCommandHelp(CMD_SHOW_ALL, "Show all Forms");
+    design.formsShown = 0;
+}
+
+static void showForms() {
+    commitEditor();
+    for (WidgetNode* form = project.forms; form; form = form->next) {
+        owDrawWindow(form->handle, 1);
+        form->formHidden = 0;
+    }
+    if (project.currentWidget) selectWidget(project.currentWidget);
+    markFormsShown();
+    activateWidget(project.currentWidget);
+}
+
+void showAllCommand() {
+    if (design.formsShown)
+        hideForms();
+    else
+        showForms();
+}
+
+void raiseWindowsCommand() {
+    for (const ControlWindow& window : CONTROL_WINDOWS) {
+        if (!isShown(window)) continue;
+        if (window.bar) {
+            owSetWidgetStatus(handleOf(window), OHIDDEN);
+            owSetWidgetStatus(handleOf(window), OSELECTABLE);
+        } else if (window.row == WINDOW_PROPERTIES || window.row == WINDOW_HIERARCHY) {
+            owDrawWidget(handleOf(window));
+        }
+    }
+}
+
+void defaultPositionsCommand() {
+    deleteWindowStates();
+    int screenWidth = 0, screenHeight = 0;
+    owEnqScreenSize(&screenWidth, &screenHeight);
+    loadWindowStates(screenWidth, screenHeight);
+    const WindowState& master = windowStates[WINDOW_MASTER];
+    owSetWidgetProp(MASTER_WINDOW, owXpos, master.x, owYpos, master.y, owWidth, master.width, owHeight, master.height,
+                    0);
+    owDrawWindow(MASTER_WINDOW, 1);
+    for (const ControlWindow& window : CONTROL_WINDOWS) placeWindow(window);
+    raiseWindowsCommand();
+}
+
+// ---- The master window ----------------------------------------------------------------------------------------
+
+static void storeMasterPosition(WindowState& state) {
+    owEnqWidgetProp(MASTER_WINDOW, owXpos, &state.x, owYpos, &state.y, 0);
+}
+
+static constexpr int STATE_MAXIMIZED = 4;
+
+static void storeMasterSize(WindowState& state) {
+    OWIDGET info = {};
+    owEnqWidgetInfo(MASTER_WINDOW, &info);
+    if (info.width < 1 || info.height < 1) return;
+    state.state = info.state;
+    if (info.state != STATE_MAXIMIZED) {
+        state.width = info.width;
+        state.height = info.height;
+    }
+}
+
+void masterWindowEvent() {
+    static bool sheetPending = false;
+    WindowState& state = windowStates[WINDOW_MASTER];
+    if (action.status == OMOVED) storeMasterPosition(state);
+    if (action.status == ORESIZED) storeMasterSize(state);
+    if (action.status == ORESIZED || action.status == OMINIMIZED) sheetPending = true;
+    if (action.status != OMINIMIZED && sheetPending) {
+        sheetPending = false;
+        showProperties(project.currentWidget);
+    }
+}

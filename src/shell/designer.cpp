@@ -1,0 +1,135 @@
+#include "shell/designer.h"
+
+#include "build/catalogue.h"
+#include "build/execute.h"
+#include "codegen/generate.h"
+#include "menu-c.h"
+#include "project/defaults.h"
+#include "project/host.h"
+#include "project/preferences.h"
+#include "settings/places.h"
+#include "settings/preferences_file.h"
+#include "settings/recent_projects.h"
+#include "settings/window_states.h"
+#include "shell/build_commands.h"
+#include "shell/command_states.h"
+#include "shell/commands.h"
+#include "shell/control_windows.h"
+#include "shell/environment.h"
+#include "shell/menus.h"
+#include "shell/project_commands.h"
+#include "shell/splash.h"
+#include "shell/toolkit_host.h"
+#include "surface/dialogue_keys.h"
+#include "surface/event.h"
+#include "surface/live.h"
+#include "surface/selection.h"
+#include "surface/state.h"
+#include "surface/window_states.h"
+
+// ---- Start-up -------------------------------------------------------------------------------------------------
+
+static void openLibraries() {
+    oOpenOrba();
+    oGuiwin();
+    owInitializeMenu();
+    oMoveTo2D(0, 0);
+}
+
+static void readGrid() {
+    int columns = 0, rows = 0, cellWidth = 0, cellHeight = 0;
+    owEnqGuiGrid(&columns, &rows, &cellWidth, &cellHeight);
+    environment.codePointSize = cellHeight / 2 - 2;
+    project.gridHoriz = 36;
+    project.gridVert = 27;
+    setGridMode(1);
+    host.enquireGrid(project.gridPixelX, project.gridPixelY);
+    owSetSnapGrid(project.snapGrid);
+}
+
+static void readSettings() {
+    int screenWidth = 0, screenHeight = 0;
+    owEnqScreenSize(&screenWidth, &screenHeight);
+    loadWindowStates(screenWidth, screenHeight);
+    loadPreferences(environment.codePointSize);
+    setGridMode(0);
+}
+
+static void buildWindows() {
+    buildMasterWindow();
+    selectTool(TOOL_SELECTOR);
+    buildControlWindows();
+    loadRecentProjects(fileMenu());
+    if (!preferences.delDeletes) setCommandLabel(CMD_DELETE, "Delete Widget");
+}
+
+static void makeFirstProject() {
+    owManage();
+    startNewProject();
+    owSetActiveWindow(MASTER_WINDOW);
+}
+
+void startDesigner(const std::string& commandLine) {
+    project.projectPlatform = 'w';
+    readEnvironment();
+    fillHost();
+    openLibraries();
+    readGrid();
+    noteStartColours();
+    readSettings();
+    buildWindows();
+    setUpCompiler();
+    loadStartupDefaults(settingsPlaces.dataDir);
+    setInputMode(false);
+    showSplash();
+    if (preferences.autoBackupOn) owDefineTimerCallback(preferences.autoBackupMinutes * 60000, CMD_AUTO_BACKUP);
+    makeFirstProject();
+    const FilePlace place = placeFromCommandLine(commandLine);
+    if (!place.name.empty()) {
+        openProjectFile(place.folder, place.name);
+        activateWidget(project.currentWidget);
+    }
+}
+
+// ---- The action loop ------------------------------------------------------------------------------------------
+
+static constexpr int EXPOSE_OFFSET = 3 * OIDENT;
+
+void handleEvent(int callback) {
+    if (callback >= EXPOSE_OFFSET && project.currentWidget && project.currentWidget->type == TYPE_GRAPHICS_FRAME)
+        drawFrameCross(*project.currentWidget);
+    owEnqActionState(&action);
+    if (!dialogueOpen())
+        owDefineKeySelectCallback(OKEYTAB, 0); // the code editor installs it again while it has the input
+    runCommand(callback);
+    designEvent(callback);
+}
+
+void runActionLoop() {
+    while (!design.quitRequested) {
+        int callback = 0;
+        owAction(&callback);
+        handleEvent(callback);
+    }
+}
+
+// ---- The end --------------------------------------------------------------------------------------------------
+
+void endDesigner() {
+    saveWindowStates();
+    closeProject();
+    freeDefaults();
+    forgetProgram();
+    owCloseMenu();
+    oCloseOrba();
+    forgetCommandWidgets();
+    for (WindowState& state : windowStates) state.handle = 0;
+    design = {};
+}
+
+int runDesigner(const std::string& commandLine) {
+    startDesigner(commandLine);
+    runActionLoop();
+    endDesigner();
+    return 0;
+}

@@ -1,0 +1,177 @@
+#include "shell/menus.h"
+
+#include "menu-c.h"
+#include "shell/command_states.h"
+#include "shell/commands.h"
+#include "surface/selection.h"
+
+#include <iterator>
+#include <string>
+#include <vector>
+
+enum MenuRowKind { ROW_MENU, ROW_END, ROW_COMMAND, ROW_RULE };
+
+struct MenuRow {
+    MenuRowKind kind;
+    int command = 0;             // of a command row
+    const char* label = nullptr; // of a pull-down
+    char mnemonic = 0;
+};
+
+static constexpr MenuRow menu(const char* label, char mnemonic) { return {ROW_MENU, 0, label, mnemonic}; }
+static constexpr MenuRow item(int command) { return {ROW_COMMAND, command}; }
+static constexpr MenuRow RULE = {ROW_RULE};
+static constexpr MenuRow END = {ROW_END};
+
+// clang-format off
+static constexpr MenuRow MENU_BAR_ROWS[] = {
+    menu("File", 'F'),
+        menu("New", 'N'),
+            item(CMD_NEW_PROJECT), item(CMD_NEW_FORM),
+        END,
+        RULE,
+        item(CMD_OPEN_PROJECT), item(CMD_INSERT_FORM), item(CMD_INSERT_FILE),
+        RULE,
+        item(CMD_SAVE_FORM), item(CMD_SAVE_FORM_AS), item(CMD_SAVE_PROJECT), item(CMD_SAVE_PROJECT_AS),
+        RULE,
+        item(CMD_PRINT_CODE), item(CMD_PRINT_ERRORS),
+        RULE,
+        item(CMD_EXIT), // the recent projects follow
+    END,
+    menu("Edit", 'E'),
+        item(CMD_UNDO), item(CMD_REDO),
+        RULE,
+        item(CMD_CUT), item(CMD_COPY), item(CMD_DUPLICATE), item(CMD_PASTE), item(CMD_DELETE), item(CMD_DELETE_MENU_BAR),
+        RULE,
+        item(CMD_FIND), item(CMD_FIND_NEXT), item(CMD_REPLACE),
+        RULE,
+        item(CMD_UNADOPT),
+        RULE,
+        item(CMD_CLEAR_CODE), item(CMD_CLEAR_ALL_CODE),
+        menu("Text", 'T'),
+            item(CMD_UPPERCASE), item(CMD_LOWERCASE),
+        END,
+    END,
+    menu("View", 'V'),
+        item(CMD_VIEW_ICON_BAR), item(CMD_VIEW_TOOL_BOX), item(CMD_VIEW_HIERARCHY), item(CMD_VIEW_PROPERTIES),
+        item(CMD_VIEW_CODE_EDITOR), item(CMD_VIEW_COMPILER_LOG),
+        RULE,
+        item(CMD_SHOW_ALL), item(CMD_RAISE_WINDOWS), item(CMD_DEFAULT_POSITIONS),
+        RULE,
+        item(CMD_SOURCE_VIEWER),
+    END,
+    menu("Arrange", 'A'),
+        item(CMD_TAB_ORDER), item(CMD_ALIGN),
+    END,
+    menu("Tools", 'T'),
+        item(CMD_MENU_EDITOR), item(CMD_STATUS_BAR_EDITOR),
+    END,
+    menu("Project", 'P'),
+        item(CMD_GENERATE), item(CMD_COMPILE), item(CMD_REBUILD), item(CMD_EXECUTE), item(CMD_ABORT),
+        RULE,
+        item(CMD_PROJECT_SETTINGS), item(CMD_CHANGE_PROJECT_TYPE), item(CMD_SNAP_DIALOGUE),
+    END,
+    menu("Options", 'O'),
+        menu("Widget Defaults", 'D'),
+            item(CMD_DEFAULTS_RESTORE), item(CMD_DEFAULTS_LOAD), item(CMD_DEFAULTS_CHANGE),
+        END,
+        item(CMD_PREFERENCES), item(CMD_SYNTAX_ATTRIBUTES),
+    END,
+    menu("Help", 'H'),
+        item(CMD_HELP_DESIGNER), item(CMD_HELP_TOOLKIT), item(CMD_HELP_BASE), item(CMD_HELP_PLOT), item(CMD_HELP_MESH),
+        RULE,
+        item(CMD_ABOUT),
+    END,
+};
+
+static constexpr int BAR_RULE = 0; // a separator
+static constexpr int ICON_BAR[] = {
+    CMD_NEW_PROJECT, CMD_OPEN_PROJECT, CMD_SAVE_PROJECT, BAR_RULE,
+    CMD_CUT, CMD_COPY, CMD_PASTE, BAR_RULE,
+    CMD_UNADOPT, BAR_RULE,
+    CMD_MENU_EDITOR, CMD_STATUS_BAR_EDITOR, CMD_SHOW_ALL, BAR_RULE,
+    CMD_GENERATE, CMD_COMPILE, CMD_EXECUTE, CMD_ABORT,
+};
+static constexpr int TOOL_BOX[] = {
+    CMD_TOOL_SELECTOR, BAR_RULE,
+    CMD_NEW_FORM, 15454, 15446, 15457, 15466, BAR_RULE, // windows and containers
+    15445, 15442, BAR_RULE,                             // lists
+    15440, 15444, 15465, 15441, 15450, 15452, 15455, 15456, 15453, 15458, 15459, 15464, BAR_RULE,
+    15460, 15461, 15463, 15443, BAR_RULE,
+    15451, 15462,
+};
+// clang-format on
+static constexpr int POPUP[] = {CMD_CUT, CMD_COPY, CMD_PASTE, CMD_DELETE};
+
+static constexpr int ICON_SIZE = 23;
+static constexpr int SEPARATOR_WIDTH = 5;
+
+static int filePullDown = 0;
+static int popup = 0;
+
+int fileMenu() { return filePullDown; }
+
+static int addEntry(int parent, int id, bool withIcons) {
+    const Command& command = *findCommand(id);
+    if (!withIcons || !command.menuIcon)
+        return owCreateMenuEntry(parent, command.label, owAccel, command.mnemonic, owCallback, id, 0);
+    const int icon = owGetIconResource(command.menuIcon);
+    if (!command.greyIcon)
+        return owCreateMenuEntry(parent, command.label, owAccel, command.mnemonic, owCallback, id, owUncheckIcon, icon,
+                                 0);
+    return owCreateMenuEntry(parent, command.label, owAccel, command.mnemonic, owCallback, id, owUncheckIcon, icon,
+                             owGreyIcon, owGetIconResource(command.greyIcon), 0);
+}
+
+static int addPullDown(int parent, const MenuRow& row) {
+    const int entry = owCreateMenuEntry(parent, row.label, owAccel, row.mnemonic, 0);
+    return owCreatePullDownMenu(entry);
+}
+
+void buildMenuBar(int masterWindow) {
+    std::vector<int> parents = {owCreateMenuBar(masterWindow)};
+    for (const MenuRow& row : MENU_BAR_ROWS) {
+        switch (row.kind) {
+        case ROW_MENU:
+            parents.push_back(addPullDown(parents.back(), row));
+            if (!filePullDown) filePullDown = parents.back();
+            break;
+        case ROW_END: parents.pop_back(); break;
+        case ROW_RULE: owCreateMenuSeparator(parents.back()); break;
+        case ROW_COMMAND:
+            addCommandWidget(row.command, CommandWidget::MenuEntry, addEntry(parents.back(), row.command, true));
+            break;
+        }
+    }
+}
+
+template <std::size_t N> static int buildBar(int masterWindow, const char* title, int callback, const int (&ids)[N]) {
+    const int bar = owCreateToolBar(masterWindow, OTOP, ICON_SIZE, owTitle, title, owCallback, callback);
+    for (const int id : ids) {
+        if (id == BAR_RULE) {
+            owCreateToolBarSeparator(bar, owSeparatorType, SEPARATOR_WIDTH);
+            continue;
+        }
+        const Command& command = *findCommand(id);
+        const int button = owCreateToolBarButton(bar, OICONBUTTON, command.barIcon, owIconType, OMOUSESENSITIVE, owHelp,
+                                                 command.bubbleHelp, owCallback, id);
+        addCommandWidget(id, CommandWidget::Button, button);
+    }
+    return bar;
+}
+
+int buildIconBar(int masterWindow) { return buildBar(masterWindow, "Icon Bar", CMD_BAR_ICON_BAR, ICON_BAR); }
+int buildToolBox(int masterWindow) { return buildBar(masterWindow, "Tool Box", CMD_BAR_TOOL_BOX, TOOL_BOX); }
+
+int buildWidgetPopup(int masterWindow) {
+    popup = owCreatePopupMenu(masterWindow, 0, 0, ONONE, "", 0);
+    for (const int id : POPUP) addCommandWidget(id, CommandWidget::PopupEntry, addEntry(popup, id, false));
+    return popup;
+}
+
+void toolCommand() {
+    selectTool(findCommand(currentCommand())->tool);
+    owAdoptChild(0, 0, 0);
+}
+
+void popupCommand() { owDrawWindow(popup, 1); }

@@ -1,0 +1,222 @@
+#include "shell/project_commands.h"
+
+#include "build/catalogue.h"
+#include "codegen/generate.h"
+#include "editing/code_editor.h"
+#include "editing/modes.h"
+#include "menu-c.h"
+#include "platform/paths.h"
+#include "project/files.h"
+#include "project/host.h"
+#include "project/preferences.h"
+#include "project/tree.h"
+#include "settings/recent_projects.h"
+#include "shell/build_commands.h"
+#include "shell/command_states.h"
+#include "shell/commands.h"
+#include "shell/control_windows.h"
+#include "shell/environment.h"
+#include "shell/menus.h"
+#include "surface/live.h"
+#include "surface/selection.h"
+#include "surface/state.h"
+
+static const char PROJECT_FILTER[] = "*.wdp|ORBAWIDG Designer project files (*.wdp)|*.*|All Files (*.*)";
+static const char FORM_FILTER[] = "*.wdf|ORBAWIDG Designer form files (*.wdf)|*.*|All Files (*.*)";
+
+// Where the form file dialogues were left; the name is also where Save Form goes.
+static FilePlace formFile;
+
+void forgetFormFile() { formFile.name.clear(); }
+
+void showProjectTitle() {
+    std::string title = environment.mainTitle;
+    if (!project.projectName.empty()) title += " - [" + project.projectName + " - " + projectKind() + "]";
+    owSetWidgetProp(MASTER_WINDOW, owTitle, title.c_str(), 0);
+}
+
+// ---- Saving ---------------------------------------------------------------------------------------------------
+
+static bool saveTo(const std::string& folder, const std::string& name) {
+    if (!saveProject(folder, name, false)) return false;
+    showProjectTitle();
+    addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));
+    return true;
+}
+
+static bool chooseProjectName(bool asksOverwrite, FilePlace& place) {
+    place.folder = project.projectDir.empty() ? currentFolder() : project.projectDir;
+    place.name = project.projectTitle;
+    return chooseSaveFile("Save Project As", ".wdp", asksOverwrite, place.folder, place.name);
+}
+
+static bool saveUnderChosenName() {
+    FilePlace place;
+    return chooseProjectName(true, place) && saveTo(place.folder, place.name);
+}
+
+bool saveOpenProject() {
+    if (project.projectName.empty()) return saveUnderChosenName();
+    return saveTo(project.projectDir, project.projectName);
+}
+
+bool saveQuestion(const char* title, bool asksOverwrite) {
+    if (!project.projectModified) return true;
+    switch (host.messageBox(title, "Do you wish to save the current project first?", BOX_QUESTION, BOX_YES_NO_CANCEL)) {
+    case ANSWER_NO: return true;
+    case ANSWER_YES: break;
+    default: return false;
+    }
+    if (!project.projectName.empty()) return saveTo(project.projectDir, project.projectName);
+    FilePlace place;
+    if (!chooseProjectName(asksOverwrite, place)) return true; // no name, no save: the caller goes on
+    return saveTo(place.folder, place.name);
+}
+
+static void saved(bool success) {
+    if (success && preferences.saveGeneratesCode) generateKnownSource();
+}
+
+void saveProjectCommand() {
+    selectTool(TOOL_SELECTOR);
+    saved(saveOpenProject());
+}
+
+void saveProjectAsCommand() {
+    selectTool(TOOL_SELECTOR);
+    saved(saveUnderChosenName());
+}
+
+void autoBackupCommand() { autoBackup(); }
+
+// ---- Opening --------------------------------------------------------------------------------------------------
+
+// What follows from language, platform and grid of the project that has just come in.
+static void adoptProjectSettings() {
+    owSetSnapGrid(project.snapOn ? project.snapGrid : 1);
+    enableCompile(compilerFitsProject(true));
+    refreshCommands();
+    showProjectTitle();
+}
+
+static void showForms(WidgetNode* selected) {
+    markFormsShown();
+    realiseForms(project.forms);
+    if (selected && selected != project.currentWidget) selectWidget(selected);
+}
+
+bool openProjectFile(const std::string& folder, const std::string& name) {
+    if (!loadProject(folder, name)) return false;
+    project.projectModified = 0;
+    adoptProjectSettings();
+    showForms(findSelected(project.forms));
+    addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));
+    enableExecute(executableCurrent());
+    return true;
+}
+
+static void openChosen(const FilePlace& place) {
+    if (!place.name.empty()) {
+        dropSelection();
+        openProjectFile(place.folder, place.name);
+    }
+    activateWidget(project.currentWidget);
+}
+
+void openProjectCommand() {
+    selectTool(TOOL_SELECTOR);
+    if (!saveQuestion("Open New Project", true)) return;
+    FilePlace place = {project.projectDir.empty() ? currentFolder() : project.projectDir, ""};
+    if (!host.fileDialogue("Open Project", PROJECT_FILTER, false, place.folder, place.name)) place.name.clear();
+    openChosen(place);
+}
+
+void openRecentCommand() {
+    selectTool(TOOL_SELECTOR);
+    const std::string path = recentProject(currentCommand() - CMD_RECENT_FIRST);
+    if (!path.empty() && saveQuestion("Open New Project", true)) openChosen({folderOf(path), fileNameOf(path)});
+}
+
+FilePlace placeFromCommandLine(const std::string& commandLine) {
+    const bool quoted = !commandLine.empty() && commandLine.front() == '"';
+    const std::string rest = quoted ? commandLine.substr(1) : commandLine;
+    const std::string path = rest.substr(0, rest.find_first_of(quoted ? "\"" : " \""));
+    const std::string folder = folderOf(path);
+    if (folder.empty() && fileNameOf(path) == path) return {currentFolder(), path};
+    return {folder.empty() ? std::string(1, nativeSeparator()) : folder, fileNameOf(path)};
+}
+
+// ---- New and exit ---------------------------------------------------------------------------------------------
+
+void startNewProject() {
+    resetProject();
+    newForm();
+    project.snapOn = 1;
+    project.snapGrid = project.gridMode ? project.gridPixelX : 10;
+    project.projectModified = 0;
+    project.sourceStale = 1;
+    adoptProjectSettings();
+    enableExecute(false);
+    showForms(nullptr);
+    project.projectModified = 0;
+}
+
+void newProjectCommand() {
+    selectTool(TOOL_SELECTOR);
+    if (!saveQuestion("Start New Project", false)) return;
+    dropSelection();
+    startNewProject();
+    activateWidget(project.currentWidget);
+}
+
+void exitCommand() {
+    if (saveQuestion("Exit ORBAWIDG Designer", false)) design.quitRequested = 1;
+}
+
+// ---- Forms ----------------------------------------------------------------------------------------------------
+
+void insertFormCommand() {
+    selectTool(TOOL_SELECTOR);
+    FilePlace place = {formFile.folder.empty() ? currentFolder() : formFile.folder, formFile.name};
+    if (!host.fileDialogue("Insert Form", FORM_FILTER, false, place.folder, place.name) || place.name.empty()) return;
+    commitEditor();
+    dropSelection();
+    WidgetNode* first = nullptr;
+    if (insertForm(place.folder, place.name, &first) == 0) {
+        if (!project.currentWidget && project.forms) selectWidget(project.forms);
+        return;
+    }
+    realiseForms(first);
+    formFile = place;
+    markChanged();
+}
+
+// The forms from the active one on go into the file.
+static void saveFormTo(const FilePlace& place) {
+    commitEditor();
+    if (saveForm(joinPath(place.folder, place.name))) formFile = place;
+}
+
+void saveFormAsCommand() {
+    selectTool(TOOL_SELECTOR);
+    FilePlace place = {formFile.folder.empty() ? currentFolder() : formFile.folder, formFile.name};
+    if (chooseSaveFile("Save Form As", ".wdf", true, place.folder, place.name)) saveFormTo(place);
+}
+
+void saveFormCommand() {
+    if (formFile.name.empty()) {
+        saveFormAsCommand();
+        return;
+    }
+    selectTool(TOOL_SELECTOR);
+    saveFormTo(formFile);
+}
+
+void closeProject() {
+    dropSelection();
+    eraseForms(project.forms);
+    deleteList(project.forms);
+    project.forms = project.currentWidget = nullptr;
+    deleteList(design.pasteBuffer);
+    design.pasteBuffer = nullptr;
+}

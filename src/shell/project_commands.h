@@ -1,0 +1,39 @@
+// Projects and forms as files: new, open, save, the question before one is left, the backup, the exit.
+#pragma once
+
+#include <string>
+
+// Asks whether to save a changed project first, in a box of that title. False when the caller must stop: the user
+// cancelled, or a save failed. `asksOverwrite`: a name chosen for an untitled project is asked about when it exists.
+bool saveQuestion(const char* title, bool asksOverwrite);
+
+// Saves under the remembered name, or asks for one. False when cancelled or failed.
+bool saveOpenProject();
+
+// Reads a project in place of the open one and shows it. False after a box; the open project then stays.
+bool openProjectFile(const std::string& folder, const std::string& name);
+
+// Folder and file name of a command line: one name, perhaps between double quotes, with either kind of slash.
+struct FilePlace {
+    std::string folder;
+    std::string name; // empty: none
+};
+FilePlace placeFromCommandLine(const std::string& commandLine);
+
+// Throws the open project away and begins one with "Form1", in the language, platform and grid in force.
+void startNewProject();
+
+void showProjectTitle(); // in the title bar
+void closeProject();     // at the end of the program: live forms and records go
+void forgetFormFile();   // the next Save Form asks for a name
+
+void newProjectCommand();    // CMD_NEW_PROJECT
+void openProjectCommand();   // CMD_OPEN_PROJECT
+void openRecentCommand();    // CMD_RECENT_FIRST and the next four
+void saveProjectCommand();   // CMD_SAVE_PROJECT
+void saveProjectAsCommand(); // CMD_SAVE_PROJECT_AS
+void insertFormCommand();    // CMD_INSERT_FORM
+void saveFormCommand();      // CMD_SAVE_FORM
+void saveFormAsCommand();    // CMD_SAVE_FORM_AS
+void autoBackupCommand();    // CMD_AUTO_BACKUP
+void exitCommand();          // CMD_EXIT
