@@ -1,10 +1,10 @@
 // The property list's table: model, drawing of cells, editors and the keyboard.
 #include "toolkit/widgets/property_view.h"
 
+#include <QAbstractSpinBox>
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -14,13 +14,12 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QToolTip>
-#include <cmath>
 
 namespace orba {
 
 class PropertyModel : public QAbstractTableModel {
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit PropertyModel(PropertyView* owner) : QAbstractTableModel(owner), view(owner) {}
 
     int rowCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : static_cast<int>(rows.size());
@@ -29,9 +28,8 @@ public:
 
     QVariant data(const QModelIndex& index, int role) const override {
         const PropertyRow& row = rows[static_cast<size_t>(index.row())];
-        if (role == Qt::DisplayRole || role == Qt::EditRole) return index.column() == 0 ? row.label : row.text;
-        if (role == Qt::AccessibleTextRole) return index.column() == 0 ? row.label : row.text;
-        return {};
+        if (role != Qt::DisplayRole && role != Qt::EditRole && role != Qt::AccessibleTextRole) return {};
+        return index.column() == 0 ? row.label : view->shownText(row);
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
@@ -42,8 +40,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override {
         const PropertyRow& row = rows[static_cast<size_t>(index.row())];
         Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-        if (index.column() == 1 && row.enabled && (row.typed || row.kind == CellKind::choice))
-            flags |= Qt::ItemIsEditable;
+        if (index.column() == 1 && row.enabled && row.typed && !row.widget) flags |= Qt::ItemIsEditable;
         return flags;
     }
 
@@ -64,23 +61,13 @@ public:
     }
     void changed(int at) { emit dataChanged(index(at, 0), index(at, 1)); }
 
+    PropertyView* view;
     std::vector<PropertyRow> rows;
 };
 
 namespace {
 
-// The number editor gives its steps at once, so that the widget on the form follows the arrows.
-class NumberEditor : public QDoubleSpinBox {
-public:
-    using QDoubleSpinBox::QDoubleSpinBox;
-    QString textFromValue(double value) const override {
-        return QLocale::c().toString(value, 'f', decimals()).remove(QLatin1Char(','));
-    }
-};
-
-QString formatted(const PropertyRow& row, double value) { return QString::number(value, 'f', row.decimals); }
-
-double largest(int width) { return std::pow(10.0, qBound(1, width, 15)) - 1; }
+constexpr int longestText = 255; // characters of a text cell
 
 class PropertyDelegate : public QStyledItemDelegate {
 public:
@@ -106,7 +93,7 @@ public:
         else {
             painter->setPen(palette.color(group, lit ? QPalette::HighlightedText : QPalette::Text));
             painter->setFont(option.font);
-            const QString text = isLabel ? row.label : row.text + row.suffix;
+            const QString text = isLabel ? row.label : view_->shownText(row);
             painter->drawText(inner, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                               option.fontMetrics.elidedText(text, Qt::ElideRight, inner.width()));
         }
@@ -116,57 +103,31 @@ public:
         if (isLabel) painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
     }
 
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
-        const PropertyRow& row = model_->rows[static_cast<size_t>(index.row())];
-        QWidget* editor = nullptr;
-        if (row.kind == CellKind::choice)
-            editor = choiceEditor(parent, row);
-        else if (row.kind == CellKind::number)
-            editor = numberEditor(parent, row);
-        else {
-            auto* line = new QLineEdit(parent);
-            line->setFrame(false);
-            line->setMaxLength(row.maximumLength);
-            editor = line;
-        }
-        editor->setAutoFillBackground(true);
-        view_->setActiveEditor(editor);
-        return editor;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
+        auto* line = new QLineEdit(parent);
+        line->setFrame(false);
+        line->setMaxLength(longestText);
+        line->setAutoFillBackground(true);
+        view_->setActiveEditor(line);
+        return line;
     }
 
     void setEditorData(QWidget* editor, const QModelIndex& index) const override {
-        const PropertyRow& row = model_->rows[static_cast<size_t>(index.row())];
-        if (auto* combo = qobject_cast<QComboBox*>(editor)) {
-            combo->setCurrentIndex(combo->findText(row.text));
-            if (combo->isEditable()) combo->setEditText(row.text);
-        } else if (auto* number = qobject_cast<QDoubleSpinBox*>(editor)) {
-            const QSignalBlocker quiet(number);
-            number->setValue(row.text.toDouble());
-        } else if (auto* line = qobject_cast<QLineEdit*>(editor)) {
-            if (line->text() != row.text) line->setText(row.text);
-            if (!line->isModified()) line->selectAll();
-        }
+        auto* line = static_cast<QLineEdit*>(editor);
+        const QString& text = model_->rows[static_cast<size_t>(index.row())].text;
+        if (line->text() != text) line->setText(text);
+        if (!line->isModified()) line->selectAll();
     }
 
     void setModelData(QWidget* editor, QAbstractItemModel*, const QModelIndex& index) const override {
-        const PropertyRow& row = model_->rows[static_cast<size_t>(index.row())];
-        QString text;
-        if (auto* combo = qobject_cast<QComboBox*>(editor))
-            text = combo->currentText();
-        else if (auto* number = qobject_cast<QDoubleSpinBox*>(editor)) {
-            number->interpretText();
-            text = formatted(row, number->value());
-        } else if (auto* line = qobject_cast<QLineEdit*>(editor))
-            text = line->text();
-        view_->userChanged(index.row() + 1, text);
+        view_->userChanged(index.row() + 1, static_cast<QLineEdit*>(editor)->text());
     }
 
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const override {
         QRect rect = option.rect.adjusted(1, 0, 0, -1);
         const QRect button = view_->buttonRect(index);
-        const bool ownButton = qobject_cast<QComboBox*>(editor) != nullptr;
-        if (!button.isEmpty() && !ownButton) rect.setRight(button.left() - 1);
+        if (!button.isEmpty()) rect.setRight(button.left() - 1);
         editor->setGeometry(rect);
     }
 
@@ -175,38 +136,6 @@ public:
     }
 
 private:
-    QWidget* choiceEditor(QWidget* parent, const PropertyRow& row) const {
-        auto* combo = new QComboBox(parent);
-        QStringList entries = row.choices;
-        if (row.sorted) entries.sort(Qt::CaseInsensitive);
-        combo->addItems(entries);
-        combo->setFrame(false);
-        combo->setEditable(row.typed);
-        combo->setInsertPolicy(QComboBox::NoInsert);
-        if (combo->lineEdit()) combo->lineEdit()->setMaxLength(row.maximumLength);
-        combo->setMaxVisibleItems(20);
-        connect(combo, &QComboBox::activated, this, [this, combo] {
-            view_->commitFrom(combo);
-            if (!combo->isEditable()) emit const_cast<PropertyDelegate*>(this)->closeEditor(combo);
-        });
-        return combo;
-    }
-
-    QWidget* numberEditor(QWidget* parent, const PropertyRow& row) const {
-        auto* number = new NumberEditor(parent);
-        number->setFrame(false);
-        number->setLocale(QLocale::c());
-        number->setGroupSeparatorShown(false);
-        number->setDecimals(row.decimals);
-        number->setRange(row.minimum.value_or(-largest(row.width)), row.maximum.value_or(largest(row.width)));
-        number->setSingleStep(row.step);
-        number->setSuffix(row.suffix);
-        number->setKeyboardTracking(false);
-        number->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-        connect(number, &QDoubleSpinBox::valueChanged, this, [this, number] { view_->commitFrom(number); });
-        return number;
-    }
-
     static void paintSwatch(QPainter* painter, QRect rect, const QColor& colour, bool enabled,
                             const QPalette& palette) {
         rect.adjust(-2, 2, 0, -3);
@@ -226,7 +155,7 @@ private:
         button.state.setFlag(QStyle::State_HasFocus, false);
         button.state.setFlag(QStyle::State_MouseOver, false);
         button.state |= QStyle::State_Raised;
-        if (row.kind == CellKind::choice) {
+        if (row.kind == CellKind::combo) {
             button.state.setFlag(QStyle::State_Raised, false);
             button.rect = QRect(rect.center() - QPoint(4, 4), QSize(9, 9));
             view_->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &button, painter, view_);
@@ -277,6 +206,7 @@ PropertyView::PropertyView(QWidget* parent) : QTableView(parent), model_(new Pro
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
     setRowHeight(0);
+    qApp->installEventFilter(this);
 }
 
 PropertyView::~PropertyView() { qApp->removeEventFilter(this); }
@@ -288,6 +218,7 @@ const PropertyRow* PropertyView::row(int number) const {
 }
 
 int PropertyView::addRow(PropertyRow row) {
+    if (row.widget) adoptCellWidget(row);
     model_->insert(rowCount(), std::move(row));
     return rowCount();
 }
@@ -319,19 +250,71 @@ int PropertyView::findRow(const QString& label) const {
 
 void PropertyView::setRow(int number, PropertyRow row) {
     if (!this->row(number)) return;
-    const bool editing = editor_ && currentRow() == number;
+    if (row.widget) adoptCellWidget(row);
     model_->rows[static_cast<size_t>(number) - 1] = std::move(row);
-    const PropertyRow& now = *this->row(number);
-    const QModelIndex cell = model_->index(number - 1, 1);
-    if (editing && !(model_->flags(cell) & Qt::ItemIsEditable))
-        closeEditor(editor_, QAbstractItemDelegate::NoHint);
-    else if (editing && qobject_cast<QDoubleSpinBox*>(editor_.data())) {
-        auto* spin = qobject_cast<QDoubleSpinBox*>(editor_.data());
-        const QSignalBlocker quiet(spin);
-        spin->setDecimals(now.decimals);
-        spin->setRange(now.minimum.value_or(-largest(now.width)), now.maximum.value_or(largest(now.width)));
-    }
+    const bool editing = editor_ && currentRow() == number;
+    if (editing && !editable(number)) closeEditor(editor_, QAbstractItemDelegate::NoHint);
     model_->changed(number - 1);
+    placeCellWidget();
+}
+
+QString PropertyView::shownText(const PropertyRow& row) const {
+    if (const auto* combo = qobject_cast<const QComboBox*>(row.widget.data())) return combo->currentText();
+    if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(row.widget.data())) return spin->text();
+    if (const auto* line = qobject_cast<const QLineEdit*>(row.widget.data())) return line->text();
+    return row.text;
+}
+
+// The widget stays the program's own; the table only gives it a place, without a frame, and follows what it shows.
+void PropertyView::adoptCellWidget(const PropertyRow& row) {
+    QWidget* widget = row.widget;
+    if (widget->parentWidget() == viewport()) return;
+    widget->hide();
+    widget->setParent(viewport());
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        combo->setFrame(false);
+        connect(combo, &QComboBox::currentTextChanged, viewport(), qOverload<>(&QWidget::update));
+    }
+    if (auto* spin = qobject_cast<QAbstractSpinBox*>(widget)) spin->setFrame(false);
+    if (auto* line = qobject_cast<QLineEdit*>(widget)) {
+        line->setFrame(false);
+        connect(line, &QLineEdit::textChanged, viewport(), qOverload<>(&QWidget::update));
+    }
+}
+
+QWidget* PropertyView::cellWidget() const {
+    const PropertyRow* current = row(currentRow());
+    return current && current->enabled && !readOnly_ ? current->widget.data() : nullptr;
+}
+
+void PropertyView::placeCellWidget() {
+    QWidget* shown = cellWidget();
+    if (cellShown_ && cellShown_ != shown) cellShown_->hide();
+    cellShown_ = shown;
+    if (!shown) return;
+    shown->setGeometry(visualRect(model_->index(currentRow() - 1, 1)).adjusted(1, 0, 0, -1));
+    shown->show();
+    shown->raise();
+}
+
+void PropertyView::updateGeometries() {
+    QTableView::updateGeometries();
+    placeCellWidget();
+}
+
+void PropertyView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    placeCellWidget();
+}
+
+void PropertyView::widgetChanged(const QWidget* widget) {
+    for (int number = 1; number <= rowCount(); ++number)
+        if (row(number)->widget == widget) {
+            changedRow_ = number;
+            viewport()->update();
+            emit valueChanged(number);
+            return;
+        }
 }
 
 void PropertyView::selectRow(int number) { makeCurrent(number, false); }
@@ -349,6 +332,7 @@ void PropertyView::makeCurrent(int number, bool byUser) {
 void PropertyView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     viewport()->update();
+    placeCellWidget();
     if (!byProgram_ && current.isValid() && current.row() != previous.row()) emit rowSelected(current.row() + 1);
 }
 
@@ -371,7 +355,7 @@ void PropertyView::changeEvent(QEvent* event) {
 QRect PropertyView::buttonRect(const QModelIndex& index) const {
     const PropertyRow* shown = row(index.row() + 1);
     if (!shown || index.column() != 1) return {};
-    const bool choice = shown->kind == CellKind::choice;
+    const bool choice = shown->kind == CellKind::combo;
     if (shown->kind != CellKind::button && !choice) return {};
     if (choice && !shown->enabled) return {};
     QRect rect = visualRect(model_->index(index.row(), 1));
@@ -386,46 +370,45 @@ bool PropertyView::editable(int number) const {
 void PropertyView::editRow(int number) {
     const PropertyRow* shown = row(number);
     if (!shown || !shown->enabled) return;
+    if (shown->widget) {
+        shown->widget->setFocus(Qt::OtherFocusReason);
+        if (auto* line = qobject_cast<QLineEdit*>(shown->widget.data())) line->selectAll();
+        return;
+    }
     if (!editable(number)) {
         if (shown->kind == CellKind::button) emit buttonPressed(number);
         return;
     }
     const QModelIndex cell = model_->index(number - 1, 1);
-    if (editor_ && currentIndex() == cell) return;
-    edit(cell);
+    if (!editor_ || currentIndex() != cell) edit(cell);
 }
 
-void PropertyView::setActiveEditor(QWidget* editor) {
-    editor_ = editor;
-    qApp->installEventFilter(this);
-}
+void PropertyView::setActiveEditor(QWidget* editor) { editor_ = editor; }
 
 void PropertyView::commitEditor() {
-    if (editor_) commitData(editor_);
-}
-
-void PropertyView::commitFrom(QWidget* editor) {
-    if (editor == editor_) commitEditor();
+    if (editor_)
+        commitData(editor_);
+    else if (cellShown_)
+        emit commitWanted(cellShown_);
 }
 
 void PropertyView::finishEditing() {
     commitEditor();
-    if (editor_) closeEditor(editor_, QAbstractItemDelegate::NoHint);
+    if (editor_)
+        closeEditor(editor_, QAbstractItemDelegate::NoHint);
+    else if (cellShown_ && cellShown_->isAncestorOf(QApplication::focusWidget()))
+        setFocus();
 }
 
 // A closed editor lives until the next turn of the event loop; it is no longer the open one.
 void PropertyView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-    if (editor == editor_) {
-        editor_ = nullptr;
-        qApp->removeEventFilter(this);
-    }
+    if (editor == editor_) editor_ = nullptr;
     QTableView::closeEditor(editor, hint);
 }
 
 void PropertyView::userChanged(int number, const QString& text) {
     const PropertyRow* shown = row(number);
     if (!shown || shown->text == text) return;
-    if (shown->kind == CellKind::choice && !shown->typed && !shown->choices.contains(text)) return;
     model_->rows[static_cast<size_t>(number) - 1].text = text;
     changedRow_ = number;
     model_->changed(number - 1);
@@ -458,10 +441,10 @@ void PropertyView::mousePressEvent(QMouseEvent* event) {
         pressedButton_ = number;
         return;
     }
-    if (!editable(number)) return;
+    if (!editable(number) && !pressed.widget) return;
     editRow(number);
-    auto* combo = qobject_cast<QComboBox*>(editor_.data());
-    const bool wantsList = combo && position.x() > labelWidth() && (onButton || !pressed.typed);
+    auto* combo = qobject_cast<QComboBox*>(cellWidget());
+    const bool wantsList = combo && position.x() > labelWidth() && (onButton || !combo->isEditable());
     if (wantsList) QTimer::singleShot(0, combo, [combo] { combo->showPopup(); });
 }
 
@@ -519,15 +502,16 @@ void PropertyView::keyPressEvent(QKeyEvent* event) {
                        event->key() == Qt::Key_F4 || event->key() == Qt::Key_Down || event->key() == Qt::Key_Space;
     if (opens) {
         editRow(number);
-        if (auto* combo = qobject_cast<QComboBox*>(editor_.data())) combo->showPopup();
+        if (auto* combo = qobject_cast<QComboBox*>(cellWidget())) combo->showPopup();
         return;
     }
     const QString typed = event->text();
     const bool isText =
         !typed.isEmpty() && typed.at(0).isPrint() && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (isText && editable(number)) {
+    if (isText && (editable(number) || cellWidget())) {
         editRow(number);
-        if (editor_) QApplication::sendEvent(editor_, event);
+        QWidget* target = editor_ ? editor_.data() : cellWidget();
+        if (target) QApplication::sendEvent(target, event);
         return;
     }
     event->ignore();
@@ -544,31 +528,31 @@ void PropertyView::focusInEvent(QFocusEvent* event) {
 // While a cell is being edited: a press anywhere else and a key that may be a command take the text over first, so that
 // whoever handles them sees the value; Tab goes on to the next cell.
 bool PropertyView::eventFilter(QObject* watched, QEvent* event) {
-    if (!editor_) return QTableView::eventFilter(watched, event);
+    QWidget* editor = editor_ ? editor_.data() : cellShown_.data();
+    if (!editor) return QTableView::eventFilter(watched, event);
     const auto* widget = qobject_cast<QWidget*>(watched);
-    const bool inside = widget && (widget == editor_ || editor_->isAncestorOf(widget));
-    if (event->type() == QEvent::MouseButtonPress && widget && !inside && !qApp->activePopupWidget() &&
-        widget->window() == window()) {
+    const bool inside = widget && (widget == editor || editor->isAncestorOf(widget));
+    if (event->type() == QEvent::MouseButtonPress && widget && !inside && !QApplication::activePopupWidget() &&
+        widget->window() == window())
         finishEditing();
-        return false;
-    }
     if (event->type() == QEvent::ShortcutOverride && inside && mayBeCommand(static_cast<QKeyEvent*>(event)))
         commitEditor();
-    if (event->type() == QEvent::KeyPress && inside) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
-            finishEditing();
-            moveEditor(key == Qt::Key_Tab ? 1 : -1);
-            return true;
-        }
-        const bool isText = qobject_cast<QLineEdit*>(editor_.data()) != nullptr;
-        if (isText && (key == Qt::Key_Up || key == Qt::Key_Down)) {
-            finishEditing();
-            makeCurrent(currentRow() + (key == Qt::Key_Down ? 1 : -1), true);
-            return true;
-        }
-    }
+    if (event->type() == QEvent::KeyPress && inside && movesOn(static_cast<QKeyEvent*>(event), editor)) return true;
     return QTableView::eventFilter(watched, event);
+}
+
+// Tab and Shift+Tab, and from a line of text the arrows up and down, take the text over and go to another row.
+bool PropertyView::movesOn(const QKeyEvent* event, const QWidget* editor) {
+    const int key = event->key();
+    const bool tab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    const bool arrow = qobject_cast<const QLineEdit*>(editor) && (key == Qt::Key_Up || key == Qt::Key_Down);
+    if (!tab && !arrow) return false;
+    finishEditing();
+    if (tab)
+        moveEditor(key == Qt::Key_Tab ? 1 : -1);
+    else
+        makeCurrent(currentRow() + (key == Qt::Key_Down ? 1 : -1), true);
+    return true;
 }
 
 bool PropertyView::viewportEvent(QEvent* event) {

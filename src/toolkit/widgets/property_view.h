@@ -14,30 +14,23 @@
 namespace orba {
 
 enum class CellKind : int {
-    text = 1,   // free text
-    button = 2, // a text or a colour with a button at the right end
-    choice = 3, // one of a list of entries
-    number = 4, // a number with fixed decimals
+    text = 0,   // free text
+    button = 1, // a text or a colour with a button at the right end
+    combo = 2,  // a combo box of the program
+    value = 3,  // a value entry of the program
 };
 
 // One row of a property list. Rows are numbered from 1.
 struct PropertyRow {
     CellKind kind = CellKind::text;
     QString label;
-    QString text;                 // what the cell shows; of a number the formatted value
+    QString text;                 // what a text or button cell shows
     std::optional<QColor> colour; // shown instead of the text when set
-    QStringList choices;          // entries of a choice
-    bool enabled = true;          // a disabled row is grey and cannot be edited
-    bool typed = true;            // the text can be typed: false for most button cells and for list-only choices
-    bool sorted = false;          // entries of a choice are shown in alphabetical order
-    int width = 10;               // characters of a number
-    int decimals = 0;             // of a number
-    std::optional<double> minimum, maximum;
-    double step = 1;  // of the arrows of a number
-    QString suffix;   // behind a number, for instance "%"
-    QString help;     // shown as bubble help over the row
-    int callback = 0; // identifier of this row's own value event, 0 for the list's
-    int maximumLength = 255;
+    QPointer<QWidget> widget; // the combo box or value entry of the cell; it comes up while its row is the current one
+    int handle = 0;           // of that widget
+    bool enabled = true;      // a disabled row is grey and cannot be edited
+    bool typed = true;        // the text can be typed: false for button cells unless asked for
+    QString help;             // shown as bubble help over the row
 };
 
 class PropertyModel;
@@ -72,16 +65,20 @@ public:
     void commitEditor();
     void editRow(int number); // opens the editor of a row; a button cell that is not typed is pressed instead
 
+    // The widget of a cell was changed by the user: raises valueChanged for its row.
+    void widgetChanged(const QWidget* widget);
+
     // Used by the delegate.
     QRect buttonRect(const QModelIndex& index) const; // empty for cells without a button
     void userChanged(int number, const QString& text);
+    QString shownText(const PropertyRow& row) const; // of a widget cell what its widget shows
     void setActiveEditor(QWidget* editor);
-    void commitFrom(QWidget* editor); // as commitEditor, unless another editor is the open one
 
 signals:
     void rowSelected(int number);
     void buttonPressed(int number);
     void valueChanged(int number);
+    void commitWanted(QWidget* cellWidget); // the widget of a cell shall take over what was typed into it
 
 protected:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
@@ -95,17 +92,24 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     bool viewportEvent(QEvent* event) override;
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
 
 private:
+    void placeCellWidget(); // shows the widget of the current row in its cell and hides the others
+    void adoptCellWidget(const PropertyRow& row);
+    QWidget* cellWidget() const; // of the current row, null when it has none or is disabled
     int clickedRow(const QPoint& position) const;
     bool onSplitter(const QPoint& position) const;
     void makeCurrent(int number, bool byUser);
     bool editable(int number) const;
     void finishEditing(); // takes over and closes the open editor
     void moveEditor(int step);
+    bool movesOn(const QKeyEvent* event, const QWidget* editor);
 
     PropertyModel* model_;
-    QPointer<QWidget> editor_; // the open editor
+    QPointer<QWidget> editor_;    // the open line editor
+    QPointer<QWidget> cellShown_; // the widget of the current row's cell, while it is up
     int changedRow_ = 0;
     int pressedButton_ = 0; // row whose button is held down
     bool dragging_ = false; // the splitter between the columns
