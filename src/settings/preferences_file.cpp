@@ -1,18 +1,15 @@
 #include "settings/preferences_file.h"
 
+#include "platform/text_files.h"
 #include "project/host.h"
 #include "project/preferences.h"
 #include "settings/places.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <fstream>
 #include <string>
 
 static const char FILE_NAME[] = "wdesign.prf";
-static constexpr int SLOT_BYTES = 25;
-using Slot = std::array<char, SLOT_BYTES>;
+static constexpr std::size_t SLOT_BYTES = 25;
 
 // How a field stands in its slot. The file holds "place once" where the program holds "repeat placement".
 enum FieldKind { FIELD_NUMBER, FIELD_NEGATED, FIELD_TEXT };
@@ -61,23 +58,24 @@ static std::string fieldText(const Preferences& values, const PreferenceField& f
 void loadPreferences(int defaultPointSize) {
     preferences = {};
     preferences.codePointSize = defaultPointSize;
-    std::ifstream file(settingsFileToRead(FILE_NAME), std::ios::binary);
-    Slot slot;
+    std::string bytes;
+    readTextFile(settingsFileToRead(FILE_NAME), bytes);
+    std::size_t start = 0;
     for (const PreferenceField& field : FIELDS) {
-        if (!file.read(slot.data(), slot.size())) return;
-        takeField(preferences, field,
-                  std::string(slot.data(), std::find(slot.begin(), slot.end(), '\0') - slot.begin()));
+        if (start + SLOT_BYTES > bytes.size()) return;
+        const std::string slot = bytes.substr(start, SLOT_BYTES);
+        takeField(preferences, field, slot.substr(0, slot.find('\0')));
+        start += SLOT_BYTES;
     }
 }
 
 void savePreferences() {
-    std::ofstream file(settingsFileToWrite(FILE_NAME), std::ios::binary | std::ios::trunc);
+    std::string bytes;
     for (const PreferenceField& field : FIELDS) {
-        Slot slot{};
-        const std::string text = fieldText(preferences, field);
-        std::copy(text.begin(), text.end(), slot.begin());
-        file.write(slot.data(), slot.size());
+        std::string slot = fieldText(preferences, field);
+        slot.resize(SLOT_BYTES, '\0');
+        bytes += slot;
     }
-    file.flush();
-    if (!file) host.infoBox("Save Prefences", "Cannot open wdesign.prf to save preferences");
+    if (!writeTextFile(settingsFileToWrite(FILE_NAME), bytes))
+        host.infoBox("Save Prefences", "Cannot open wdesign.prf to save preferences");
 }

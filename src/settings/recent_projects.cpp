@@ -1,9 +1,10 @@
 #include "settings/recent_projects.h"
 
 #include "menu-c.h"
+#include "platform/text_files.h"
 #include "settings/places.h"
 
-#include <fstream>
+#include <sstream>
 #include <vector>
 
 static const char FILE_NAME[] = "wdesign.lst";
@@ -12,17 +13,15 @@ static constexpr std::size_t LINE_LIMIT = 254; // bytes of a path; a line with i
 static std::vector<std::string> paths; // as the menu shows them
 static std::vector<int> menuHandles;   // the separator and the entries
 
-static std::vector<std::string> readList() {
-    std::vector<std::string> lines;
-    std::ifstream file(settingsFileToWrite(FILE_NAME));
+// False when there is no list.
+static bool readList(std::vector<std::string>& lines) {
+    std::string text;
+    if (settingsPlaces.dataDir.empty() || !readTextFile(settingsFileToWrite(FILE_NAME), text)) return false;
+    std::istringstream stream(text);
     std::string line;
-    while (lines.size() < RECENT_PROJECTS && std::getline(file, line))
+    while (lines.size() < RECENT_PROJECTS && std::getline(stream, line))
         if (!line.empty()) lines.push_back(line.substr(0, LINE_LIMIT));
-    return lines;
-}
-
-static bool listExists() {
-    return !settingsPlaces.dataDir.empty() && std::ifstream(settingsFileToWrite(FILE_NAME)).good();
+    return true;
 }
 
 void loadRecentProjects(int menu) {
@@ -45,12 +44,13 @@ static void eraseEntries() {
 void addRecentProject(int menu, const std::string& path) {
     if (settingsPlaces.dataDir.empty()) return;
     std::vector<std::string> lines = {path.substr(0, LINE_LIMIT)};
-    for (const std::string& old : readList())
+    std::vector<std::string> olds;
+    readList(olds);
+    for (const std::string& old : olds)
         if (old != lines.front() && lines.size() < RECENT_PROJECTS) lines.push_back(old);
-    {
-        std::ofstream file(settingsFileToWrite(FILE_NAME), std::ios::trunc);
-        for (const std::string& line : lines) file << line << '\n';
-    }
+    std::string text;
+    for (const std::string& line : lines) text += line + '\n';
+    writeTextFile(settingsFileToWrite(FILE_NAME), text);
     eraseEntries();
     loadRecentProjects(menu);
 }

@@ -1,6 +1,8 @@
 #include "settings/window_states.h"
 
 #include "menu-c.h"
+#include "platform/paths.h"
+#include "platform/text_files.h"
 #include "project/host.h"
 #include "project/preferences.h"
 #include "settings/places.h"
@@ -8,6 +10,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <string>
 
 static const char FILE_NAME[] = "wdesign.ini";
 
@@ -94,20 +97,22 @@ static void readLiveWindow(WindowState& state, WindowKind kind) {
     }
 }
 
-void saveWindowStates() {
-    for (const WindowRowInfo& info : ROWS) readLiveWindow(windowStates[info.row], info.kind);
-    std::FILE* file = std::fopen(settingsFileToWrite(FILE_NAME).c_str(), "w");
-    if (!file) {
-        host.infoBox("Save Window States", "Cannot open wdesign.ini to save window states");
-        return;
-    }
-    for (const WindowRowInfo& info : ROWS) {
-        const WindowState& state = windowStates[info.row];
-        std::fprintf(file, "%6d %6d %6d %6d %3d", state.x, state.y, state.width, state.height, state.state);
-        if (info.row == WINDOW_CODE_EDITOR) std::fprintf(file, " %3d", preferences.codePointSize);
-        std::fputc('\n', file);
-    }
-    std::fclose(file);
+static std::string rowText(WindowRow row, const WindowState& state) {
+    char line[128];
+    int length = std::snprintf(line, sizeof line, "%6d %6d %6d %6d %3d", state.x, state.y, state.width, state.height,
+                               state.state);
+    if (row == WINDOW_CODE_EDITOR)
+        length += std::snprintf(line + length, sizeof line - static_cast<std::size_t>(length), " %3d",
+                                preferences.codePointSize);
+    return std::string(line, static_cast<std::size_t>(length)) + '\n';
 }
 
-void deleteWindowStates() { std::remove(settingsFileToRead(FILE_NAME).c_str()); }
+void saveWindowStates() {
+    for (const WindowRowInfo& info : ROWS) readLiveWindow(windowStates[info.row], info.kind);
+    std::string text;
+    for (const WindowRowInfo& info : ROWS) text += rowText(info.row, windowStates[info.row]);
+    if (!writeTextFile(settingsFileToWrite(FILE_NAME), text))
+        host.infoBox("Save Window States", "Cannot open wdesign.ini to save window states");
+}
+
+void deleteWindowStates() { removeFile(settingsFileToRead(FILE_NAME)); }

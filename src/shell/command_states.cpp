@@ -38,6 +38,20 @@ struct CommandState {
     std::vector<ShownWidget> widgets; // of a twin, both commands' stand with the design command
 };
 
+// A command that does more while a preference is on, and says so.
+struct PreferenceLabel {
+    int command;
+    int Preferences::*preference;
+    const char* label; // with the preference on; the key behind the bar stays
+};
+
+static constexpr PreferenceLabel PREFERENCE_LABELS[] = {
+    {CMD_GENERATE, &Preferences::generateSavesProject, "Save Project and Generate Code"},
+    {CMD_COMPILE, &Preferences::generateSavesProject, "Save Project, Compile, Link & Execute"},
+    {CMD_SAVE_PROJECT, &Preferences::saveGeneratesCode, "Save Project and Generate Code"},
+    {CMD_SAVE_PROJECT_AS, &Preferences::saveGeneratesCode, "Save Project As... and Generate Code"},
+};
+
 static bool textMode = false;
 static bool modeInstalled = false; // false until the first mode has given the entries their labels
 static std::unordered_map<int, CommandState> states;
@@ -140,6 +154,18 @@ void setCommandLabel(int id, const std::string& label) {
 void setCommandHelp(int id, const std::string& bubbleHelp) {
     for (const ShownWidget& widget : stateOf(id).widgets)
         if (widget.kind == CommandWidget::Button) owSetWidgetProp(widget.handle, owHelp, bubbleHelp.c_str(), 0);
+}
+
+void showPreferenceLabels() {
+    for (const PreferenceLabel& row : PREFERENCE_LABELS) {
+        const Command& command = *findCommand(row.command);
+        const bool on = preferences.*row.preference != 0;
+        const std::string plain = command.label;
+        const std::size_t bar = plain.find('|');
+        const std::string key = bar == std::string::npos ? "" : plain.substr(bar);
+        setCommandLabel(row.command, on ? row.label + key : plain);
+        if (command.bubbleHelp) setCommandHelp(row.command, on ? row.label : command.bubbleHelp);
+    }
 }
 
 void refreshCommands() {

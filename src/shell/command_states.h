@@ -23,6 +23,9 @@ void setCommandHelp(int command, const std::string& bubbleHelp);
 // Brings all entries, buttons and keys into line after the platform, the grid mode or a preference has changed.
 void refreshCommands();
 
+// Labels and bubble helps of the commands that say what a preference adds to them.
+void showPreferenceLabels();
+
 // Text mode: the code editor has the input. The shared entries of the Edit menu act on text, and the other key map
 // holds.
 void setInputMode(bool text);
