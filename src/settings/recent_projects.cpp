@@ -25,8 +25,9 @@ static bool readList(std::vector<std::string>& lines) {
 }
 
 void loadRecentProjects(int menu) {
-    if (!listExists()) return;
-    paths = readList();
+    paths.clear();
+    menuHandles.clear();
+    if (!readList(paths)) return;
     menuHandles.push_back(owCreateMenuSeparator(menu));
     for (std::size_t row = 0; row < paths.size(); row++) {
         const std::string digit = std::to_string(row + 1);
