@@ -12,6 +12,7 @@
 #include "shell/commands.h"
 #include "shell/environment.h"
 #include "shell/menus.h"
+#include "shell/project_commands.h"
 #include "surface/event.h"
 #include "surface/hierarchy.h"
 #include "surface/hooks.h"
@@ -65,6 +66,8 @@ static bool isShown(const ControlWindow& window) { return commandStatus(window.v
 
 bool controlWindowShown(int viewCommand) { return isShown(windowOfView(viewCommand)); }
 
+static constexpr int STATE_MAXIMIZED = 4; // of the master window's row
+
 // ---- Building -------------------------------------------------------------------------------------------------
 
 static int statusBar = 0;
@@ -84,6 +87,7 @@ void buildMasterWindow() {
     hooks.commandStatus = setCommandStatus;
     hooks.toolStatus = setToolStatus;
     hooks.inputMode = setInputMode;
+    hooks.formFileForgotten = forgetFormFile;
     hooks.drawControlWindows = [] {
         owDrawWidget(windowStates[WINDOW_HIERARCHY].handle);
         owDrawWidget(windowStates[WINDOW_COMPILER_LOG].handle);
@@ -221,8 +225,6 @@ void defaultPositionsCommand() {
 static void storeMasterPosition(WindowState& state) {
     owEnqWidgetProp(MASTER_WINDOW, owXpos, &state.x, owYpos, &state.y, 0);
 }
-
-static constexpr int STATE_MAXIMIZED = 4;
 
 static void storeMasterSize(WindowState& state) {
     OWIDGET info = {};

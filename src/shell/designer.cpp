@@ -3,6 +3,7 @@
 #include "build/catalogue.h"
 #include "build/execute.h"
 #include "codegen/generate.h"
+#include "editing/modes.h"
 #include "menu-c.h"
 #include "project/defaults.h"
 #include "project/host.h"
@@ -80,7 +81,7 @@ void startDesigner(const std::string& commandLine) {
     buildWindows();
     setUpCompiler();
     loadStartupDefaults(settingsPlaces.dataDir);
-    setInputMode(false);
+    leaveTextMode();
     showSplash();
     if (preferences.autoBackupOn) owDefineTimerCallback(preferences.autoBackupMinutes * 60000, CMD_AUTO_BACKUP);
     makeFirstProject();
