@@ -1,0 +1,67 @@
+// The routines and the keywords of the toolkit as tables, for the library and for the generators of its bindings. No
+// Qt.
+#pragma once
+
+#include "toolkit/include/menu-c.h"
+
+#include <cstdint>
+
+namespace orba {
+
+// Stands in the rows of owSetWidgetProp and owEnqWidgetProp for every keyword with a property.
+inline constexpr int ANY = -1;
+
+// Fn::owCreatePanel and so on, in the order of functions.def.
+#undef owCreateToolBar
+#undef owCreateToolBarButton
+#undef owCreateToolBarSeparator
+#undef owCreateDockingPane
+#undef owAddTableBoxColumn
+#undef owCreateMenuBar
+#undef owCreatePullDownMenu
+#undef owCreateMenuSeparator
+#undef owDrawWindow
+enum class Fn : int {
+#define ROUTINE(name, result, arguments, ...) name,
+#define BY_REFERENCE(name, result, arguments, ...) name,
+#include "toolkit/keywords/functions.def"
+#undef ROUTINE
+#undef BY_REFERENCE
+    count
+};
+
+enum class Result { NONE, INT, HANDLE };
+
+struct FunctionRow {
+    const char* name;
+    Result result;
+    const char* arguments; // as in functions.def
+    bool byReference;      // keyword values are pointers to results
+    int keywords[48];      // closed by 0
+};
+
+const FunctionRow& functionRow(Fn function);
+// Fn::count when there is none of that name.
+Fn functionByName(const char* name);
+
+// What follows a keyword in a list.
+enum class ValueKind { INT, TEXT, REAL, INTS };
+
+struct KeywordRow {
+    int number;
+    const char* name;
+    ValueKind kind;
+    int property;     // number in the property interface, 0 for none
+    bool enquiryOnly; // owSetWidgetProp does not take it
+    int fallback;     // value when a creation call does not give it; texts are empty and reals 0
+};
+
+// Null for a number that is no keyword.
+const KeywordRow* keywordRow(int number);
+// All keywords by falling number, `count` of them.
+const KeywordRow* keywordRows(int* count);
+
+// A value a routine uses when its keyword is not given: the row's own default where it has one, else the keyword's.
+int keywordDefault(Fn function, int keyword);
+
+} // namespace orba
