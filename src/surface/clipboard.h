@@ -17,3 +17,7 @@ WidgetNode* removeWidget(WidgetNode* node, bool eraseLive, bool wholeList);
 
 // Adds deep copies of `list` to the children of the current widget, live; returns the first new record.
 WidgetNode* insertClones(const WidgetNode* list);
+
+// Moves the selection to the children of `target` through the paste buffer, which is used up by it. With `group` the
+// moved widgets are left without a current one.
+void moveSelectionTo(WidgetNode* target, bool group);

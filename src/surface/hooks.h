@@ -20,13 +20,12 @@ struct SurfaceHooks {
     void (*inputMode)(bool text); // installs the key map of the mode, and gives the shared Edit entries, icons and
                                   // popup their labels and commands of that mode; all from the command table
     void (*drawControlWindows)(); // hierarchy and compiler log
+    bool (*shiftDown)();          // the Shift key at this moment
     void (*formFileForgotten)();  // the remembered form file name is emptied
 
     // Filled by the property sheet.
     void (*showProperties)(WidgetNode* widget);             // null: an empty table
-    void (*propertyNumber)(const char* label, float value); // sets a cell, if the row is there
-    void (*propertyText)(const char* label, const std::string& text);
-    void (*propertyEnabled)(const char* label, bool enabled);
+    void (*refreshProperties)();                // its cells again from the record
 
     // Filled by the code editor.
     void (*commitEditor)();                   // brings the shown text into its block or slot
@@ -36,8 +35,9 @@ struct SurfaceHooks {
     void (*leaveTextMode)();
     void (*nameAdded)(const std::string& name); // the list of all widgets
     void (*nameRemoved)(const std::string& name);
+    void (*namesCleared)();
     void (*nameChanged)(const std::string& from, const std::string& to);
-    void (*menuNameAdded)(const std::string& name);                      // the list of menu entries
+    void (*menuChanged)(WidgetNode& form); // the live menu of a form was built
     int (*renameInCode)(const std::string& from, const std::string& to); // number of places changed
 
     // Filled by the dialogues.

@@ -12,11 +12,20 @@ void groupSelection(WidgetNode* parent, WidgetNode* list);
 void ungroupSelection(WidgetNode* list, WidgetNode* second);
 void buildGroupPanel(WidgetNode& parent, WidgetNode* list, bool keep);
 void dropSelection(); // ends a group, frees the selection list
+void showSelectionCount(); // in the status bar
+void forgetRecords(); // before the records of the project are freed: live forms down, no pointer to a record left
 
 void readGeometry(WidgetNode* node); // null for the group
 
 // The pass over the forms that follows every event. `id` is the identifier of the event.
 void designEvent(int id);
+
+// The part of it that listens to windows and to presses on panels: runs when no widget took the event.
+void formEvent(int id);
+
+// Ends a rubber band at `x`, `y` in pixels of `panel` and selects what lies inside.
+enum class Band { Still, Empty, Caught }; // the pointer didn't move; nothing lay inside; a selection was tried
+Band endRubberBand(WidgetNode& panel, int x, int y);
 
 // Handlers of the commands of the surface. Each runs once for its identifier, before designEvent.
 void newFormCommand();       // CMD_NEW_FORM

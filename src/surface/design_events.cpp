@@ -1,0 +1,228 @@
+// From an event on a form to the record that it means: placing with a tool, selecting, and the bars and panes that dock
+// themselves.
+#include "surface/selection.h"
+
+#include "menu-c.h"
+#include "project/placement.h"
+#include "project/preferences.h"
+#include "project/tree.h"
+#include "surface/clipboard.h"
+#include "surface/commands.h"
+#include "surface/hierarchy.h"
+#include "surface/hooks.h"
+#include "surface/live.h"
+#include "surface/state.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array ANSWERS_TO_SELECT = {TYPE_TEXT_LABEL, TYPE_LIST_BOX,    TYPE_COMBO_BOX,
+                                          TYPE_TEXT_ARRAY, TYPE_VALUE_ARRAY, TYPE_TTY_ENTRY};
+
+// The record that an identifier stands for: its general event, or the select event where that is what it raises.
+WidgetNode* findByCallback(int id) {
+    if (id <= 0 || isCommand(id)) return nullptr;
+    WidgetNode* node = findHandle(id);
+    if (node && node->designCallbackId == id) return node;
+    node = findHandle(id - OBJECT_SELECT_OFFSET);
+    const bool selects =
+        node && std::ranges::find(ANSWERS_TO_SELECT, node->type) != ANSWERS_TO_SELECT.end();
+    return selects && node->designSelectId == id ? node : nullptr;
+}
+
+// ---- Placing.
+
+void showConversion(const Placement& placement) {
+    if (!placement.converted) return;
+    WidgetNode& box = *placement.converted;
+    hooks.nameRemoved(placement.oldName);
+    hooks.nameAdded(box.name);
+    if (box.hierarchyItem) owSetTreeViewLabel(box.hierarchyItem, box.name.c_str());
+    rebuildWidget(box);
+}
+
+WidgetNode* makeLive(WidgetNode& node, WidgetNode& parent) {
+    if (design.placeholderChild && (parent.type == TYPE_TOOL_BAR || parent.type == TYPE_PANE)) {
+        owEraseWidget(design.placeholderChild);
+        design.placeholderChild = 0;
+    }
+    realiseWidget(node, parent.handle, false);
+    buildHierarchyEntry(node);
+    return &node;
+}
+
+WidgetNode& containerOf(WidgetNode& record, WidgetNode& clicked) { return record.parent ? *record.parent : clicked; }
+
+void placeWithTool(WidgetNode& parent, const OACTION& action) {
+    if (design.skipPlacement) {
+        design.skipPlacement = 0;
+        return;
+    }
+    const Placement placement = placeWidget(design.activeTool, &parent, action.xpos, action.ypos);
+    if (!placement.widget) return;
+    showConversion(placement);
+    WidgetNode* widget = placement.widget;
+    if (widget->type == TYPE_TAB_BOX) {
+        makeLive(*widget, containerOf(*widget, parent));
+        if (WidgetNode* page = placeWidget(TOOL_PANEL, widget, 0, 0).widget) widget = page;
+    }
+    WidgetNode& container = containerOf(*widget, parent);
+    if (container.type == TYPE_TAB_BOX) widget->scrollMode = ONOBARS;
+    if (container.type == TYPE_PANE) {
+        widget->expand = 1;
+        widget->vpos = OMIDDLE;
+    }
+    makeLive(*widget, container);
+    selectWidget(widget);
+    if (!preferences.repeatPlacement) selectTool(TOOL_SELECTOR);
+    markChanged();
+}
+
+// ---- Selecting.
+
+bool shiftAdds(const WidgetNode& found) {
+    return hooks.shiftDown() && design.selectionList && design.selectionList->parentHandle != 0 && !found.onToolbar;
+}
+
+void addToSelection(WidgetNode& found) {
+    if (found.parentHandle != design.selectionList->parentHandle) return;
+    WidgetNode* list = copyNode(design.selectionList, true);
+    WidgetNode* last = list;
+    while (last->next) last = last->next;
+    last->next = copyNode(&found, false);
+    ++design.selectionCount;
+    groupSelection(found.parent, list);
+    showSelectionCount();
+}
+
+void restoreValue(const WidgetNode& node) {
+    if (node.type == TYPE_SLIDER) owSetSliderValue(node.handle, static_cast<double>(node.value));
+    if (node.type == TYPE_GAUGE) owSetGaugeValue(node.handle, static_cast<int>(node.value));
+}
+
+void takeValue(WidgetNode& node) {
+    float value = node.value;
+    if (node.type == TYPE_SLIDER) owEnqSliderValue(node.handle, &value);
+    if (node.type == TYPE_GAUGE) {
+        int whole = 0;
+        owEnqGaugeValue(node.handle, &whole);
+        value = static_cast<float>(whole);
+    }
+    if (node.type != TYPE_SLIDER && node.type != TYPE_GAUGE) return;
+    node.value = value;
+    hooks.refreshProperties();
+    markChanged();
+}
+
+void takeDocking(WidgetNode& bar) {
+    int x = 0, y = 0, width = 0, height = 0, floatWidth = 0, floatHeight = 0, position = 0;
+    if (bar.type == TYPE_TOOL_BAR) {
+        owEnqToolbarPos(bar.handle, &x, &y, &width, &position);
+        floatWidth = width;
+    } else {
+        owEnqPanePos(bar.handle, &x, &y, &width, &height, &floatWidth, &floatHeight, &position);
+    }
+    if (position == 0) return; // hidden by its close box: the record keeps where it was
+    bar.initialPosition = position;
+    const bool floating = position == OFLOATING;
+    if (floating) {
+        bar.xpos = x;
+        bar.ypos = y;
+        bar.width = floatWidth;
+        if (bar.type == TYPE_PANE) bar.height = floatHeight;
+    } else if (bar.type == TYPE_PANE) {
+        bar.width = width;
+        bar.height = height;
+    }
+    hooks.refreshProperties();
+    markChanged();
+}
+
+void barEvent(WidgetNode& bar, const OACTION& action) {
+    if (action.status != OCLOSED) return takeDocking(bar);
+    if (!bar.selected) selectWidget(&bar);
+    deleteCommand();
+}
+
+// A page of a tab box stands for its box.
+WidgetNode* standsFor(WidgetNode* found, const OACTION& action) {
+    if (found->type == TYPE_TAB_BOX)
+        if (WidgetNode* page = findHandle(action.status)) found = page;
+    const bool page = found->type == TYPE_PANEL && found->parent && found->parent->type == TYPE_TAB_BOX;
+    return page ? found->parent : found;
+}
+
+// Works the selector on `found`; false when the event is none of its own.
+bool selectorEvent(WidgetNode* found, const OACTION& action) {
+    if (design.panelBandArmed) {
+        design.panelBandArmed = 0;
+        if (found->type != TYPE_PANEL) return false;
+        const Band band = endRubberBand(*found, static_cast<int>(action.xpos), static_cast<int>(action.ypos));
+        if (band != Band::Still) return false;
+    }
+    found = standsFor(found, action);
+    if (!found->selected) {
+        restoreValue(*found);
+        if (shiftAdds(*found)) {
+            addToSelection(*found);
+        } else {
+            design.selectionCount = 1;
+            selectWidget(found);
+        }
+    } else {
+        adoptWidget(*found);
+        takeValue(*found);
+    }
+    if (found->type == TYPE_TOOL_BAR || found->type == TYPE_PANE) barEvent(*found, action);
+    return true;
+}
+
+void showUndoState(const WidgetNode* found) {
+    const bool own = found == design.undoWidget;
+    hooks.commandStatus(CMD_UNDO, own && design.undoAvailable ? OSELECTABLE : OUNSELECTABLE);
+    hooks.commandStatus(CMD_REDO, own && design.redoAvailable ? OSELECTABLE : OUNSELECTABLE);
+}
+
+// A press on a panel drops the selection list; what it leaves selected is the current widget again.
+void restoreSelection() {
+    if (project.currentWidget && !design.selectionList && !design.rubberBandArmed)
+        design.selectionList = copyNode(project.currentWidget, false);
+}
+
+} // namespace
+
+void designEvent(int id) {
+    WidgetNode* found = findByCallback(id);
+    if (!found) {
+        formEvent(id);
+        return restoreSelection();
+    }
+    OACTION action;
+    owEnqActionState(&action);
+    design.helpContext = "Form";
+    hooks.commandStatus(CMD_ALIGN, OUNSELECTABLE);
+    bool handled = false;
+    if (design.activeTool != TOOL_SELECTOR) {
+        placeWithTool(*found, action);
+        handled = true;
+    } else if (found->type != TYPE_FORM && found->type != TYPE_MAIN_PANEL) {
+        handled = selectorEvent(found, action);
+        hooks.leaveTextMode();
+    }
+    if (handled) design.panelBandArmed = 0;
+    showUndoState(findByCallback(id)); // a deletion may have taken the record
+    if (!handled) formEvent(id);
+    restoreSelection();
+    if (design.selectionList && design.selectionList->next) hooks.commandStatus(CMD_ALIGN, OSELECTABLE);
+}
+
+void newFormCommand() {
+    dropSelection();
+    hooks.commitEditor();
+    selectTool(TOOL_SELECTOR);
+    realiseForms(newForm());
+    hooks.formFileForgotten();
+    markChanged();
+}

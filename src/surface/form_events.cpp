@@ -1,0 +1,185 @@
+// Presses and releases on the forms themselves, the rubber band between them, and what happens to the form windows.
+#include "surface/selection.h"
+
+#include "menu-c.h"
+#include "project/host.h"
+#include "project/tree.h"
+#include "surface/commands.h"
+#include "surface/geometry.h"
+#include "surface/hooks.h"
+#include "surface/live.h"
+#include "surface/state.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
+
+void press(const WidgetNode& panel, const OACTION& action) {
+    design.rubberBandArmed = 1;
+    if (panel.type == TYPE_PANEL) design.panelBandArmed = 1;
+    design.bandStartX = static_cast<int>(action.xpos);
+    design.bandStartY = static_cast<int>(action.ypos);
+    dropSelection();
+}
+
+bool insideBand(const WidgetNode& child, const WidgetNode& panel) {
+    const Edges edges = edgesOf(child, panel.width, panel.height);
+    return edges.left >= design.bandStartX && edges.top >= design.bandStartY && edges.right <= design.bandEndX &&
+           edges.bottom <= design.bandEndY;
+}
+
+// Copies of the children of `panel` that lie inside the band, and their number.
+std::pair<WidgetNode*, int> selectInRectangle(const WidgetNode& panel) {
+    WidgetNode* first = nullptr;
+    WidgetNode** end = &first;
+    int count = 0;
+    for (const WidgetNode* child = panel.child; child; child = child->next) {
+        if (child->type == TYPE_TOOL_BAR || child->type == TYPE_PANE || !insideBand(*child, panel)) continue;
+        *end = copyNode(child, false);
+        end = &(*end)->next;
+        ++count;
+    }
+    return {first, count};
+}
+
+void selectForm(WidgetNode& panel) {
+    WidgetNode* form = formOf(&panel, project.forms);
+    if (form && !form->selected) selectWidget(form);
+    hooks.formFileForgotten();
+}
+
+void release(WidgetNode& panel, const OACTION& action) {
+    if (!design.rubberBandArmed) return;
+    const Band band = endRubberBand(panel, static_cast<int>(action.xpos), static_cast<int>(action.ypos));
+    if (panel.type == TYPE_MAIN_PANEL && band != Band::Caught) selectForm(panel);
+}
+
+// What the project's unit makes of a form's window, read as a whole.
+OWIDGET windowInfo(const WidgetNode& form) {
+    OWIDGET info = {};
+    setGridMode(project.gridMode);
+    owEnqWidgetInfo(form.handle, &info);
+    setGridMode(0);
+    return info;
+}
+
+void writeBack(const WidgetNode& form, const OWIDGET& info) {
+    if (project.gridMode != 1) return; // a pixel project has what the window has
+    setGridMode(project.gridMode);
+    owSetWidgetInfo(form.handle, &info);
+    setGridMode(0);
+}
+
+void formMoved(WidgetNode& form) {
+    constexpr int NORMAL = 1;
+    const OWIDGET info = windowInfo(form);
+    const bool same = info.xpos == form.xpos && info.ypos == form.ypos;
+    if (!same && info.state == NORMAL) {
+        form.xpos = info.xpos;
+        form.ypos = info.ypos;
+        writeBack(form, info);
+        if (form.selected) hooks.refreshProperties();
+        markChanged();
+    }
+    hooks.leaveTextMode();
+}
+
+void formResized(WidgetNode& form) {
+    const OWIDGET info = windowInfo(form);
+    if (info.width == form.width && info.height == form.height) return;
+    if (!form.selected) selectWidget(&form);
+    form.width = info.width;
+    form.height = info.height;
+    if (form.child) {
+        form.child->width = info.width;
+        form.child->height = info.height;
+    }
+    writeBack(form, info);
+    hooks.refreshProperties();
+    markChanged();
+}
+
+WidgetNode* formBefore(const WidgetNode& form) {
+    WidgetNode* before = nullptr;
+    for (WidgetNode* one = project.forms; one && one != &form; one = one->next) before = one;
+    return before ? before : form.next;
+}
+
+void formClosed(WidgetNode& form) {
+    if (!form.selected) selectWidget(&form);
+    if (isMaster(form)) {
+        host.infoBox("Cannot hide master form",
+                     form.name + " is the master form in the project and cannot be hidden");
+        return selectWidget(&form);
+    }
+    const int answer = host.messageBox("Confirm Widget Hide",
+                                       "This will hide the Form|It can be redisplayed by clicking on the Form name or "
+                                       "one of its children in the Object Hierarchy or Property Combo.|Do you want to "
+                                       "continue?",
+                                       BOX_QUESTION, BOX_YES_NO);
+    if (answer != ANSWER_YES) return selectWidget(&form);
+    owRemoveWindow(form.handle);
+    form.formHidden = 1;
+    project.projectModified = 1;
+    selectWidget(formBefore(form));
+}
+
+void windowEvent(WidgetNode& form, int status) {
+    switch (status) {
+    case OMOVED: return formMoved(form);
+    case ORESIZED: return formResized(form);
+    case OCLOSED: return formClosed(form);
+    default: return;
+    }
+}
+
+bool takesPresses(const WidgetNode& node) { return node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL; }
+
+} // namespace
+
+Band endRubberBand(WidgetNode& panel, int x, int y) {
+    design.rubberBandArmed = 0;
+    design.bandEndX = x;
+    design.bandEndY = y;
+    if (x == design.bandStartX && y == design.bandStartY) return Band::Still;
+    if (project.gridMode == 1) {
+        for (int* across : {&design.bandStartX, &design.bandEndX}) *across /= std::max(project.gridPixelX, 1);
+        for (int* down : {&design.bandStartY, &design.bandEndY}) *down /= std::max(project.gridPixelY, 1);
+    }
+    ++design.bandEndX;
+    ++design.bandEndY;
+    if (design.bandStartX > design.bandEndX) std::swap(design.bandStartX, design.bandEndX);
+    if (design.bandStartY > design.bandEndY) std::swap(design.bandStartY, design.bandEndY);
+    auto [list, count] = selectInRectangle(panel);
+    if (!list) {
+        showSelectionCount();
+        return Band::Empty;
+    }
+    design.selectionCount = count;
+    groupSelection(&panel, list);
+    showSelectionCount();
+    return Band::Caught;
+}
+
+void formEvent(int id) {
+    if (id <= 0 || isCommand(id)) return;
+    WidgetNode* node = findHandle(id - OBJECT_SELECT_OFFSET);
+    const bool selectEvent = node && node->designSelectId == id;
+    if (!selectEvent) node = findHandle(id);
+    if (!node) return;
+    OACTION action;
+    owEnqActionState(&action);
+    if (selectEvent) {
+        if (takesPresses(*node)) return press(*node, action);
+        if (!node->selected && action.status == 1) selectWidget(node);
+        design.helpContext = "Form";
+        hooks.leaveTextMode();
+    } else if (node->type == TYPE_FORM && node->formCallbackId == id) {
+        windowEvent(*node, action.status);
+    } else if (node->designCallbackId == id && node->type != TYPE_PANEL) {
+        release(*node, action);
+    }
+}

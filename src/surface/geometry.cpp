@@ -1,0 +1,49 @@
+#include "surface/geometry.h"
+
+#include "menu-c.h"
+#include "surface/live.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Span {
+    int from, to;
+};
+
+// `origin` is -1 for the edge that positions count from, 1 for the other one, 0 for the middle.
+Span spanOf(int origin, int position, int extent, int parentExtent, bool expanded) {
+    if (origin < 0) return {position, position + extent};
+    if (origin > 0) return {parentExtent - position - extent, parentExtent - position};
+    const int from = static_cast<int>((parentExtent - extent) * 0.5);
+    return {from, expanded ? parentExtent : from + extent};
+}
+
+} // namespace
+
+Edges edgesOf(const WidgetNode& child, int parentWidth, int parentHeight) {
+    const bool expanded = child.expand >= 1;
+    const Span across = spanOf(child.hpos, child.xpos, child.width, parentWidth, expanded);
+    const Span down = spanOf(-child.vpos, child.ypos, child.height, parentHeight, expanded);
+    return {across.from, down.from, across.to, down.to};
+}
+
+Box readPixels(int handle) {
+    Box box = {};
+    owEnqWidgetProp(handle, owXpos, &box.x, owYpos, &box.y, owWidth, &box.width, owHeight, &box.height, 0);
+    return box;
+}
+
+Box inProjectUnit(const Box& pixels) {
+    if (project.gridMode != 1) return pixels;
+    const int cellX = std::max(project.gridPixelX, 1), cellY = std::max(project.gridPixelY, 1);
+    return {pixels.x / cellX, pixels.y / cellY, pixels.width / cellX, pixels.height / cellY};
+}
+
+void placeLive(int handle, const Box& box) {
+    setGridMode(project.gridMode);
+    owSetWidgetProp(handle, owXpos, box.x, owYpos, box.y, owWidth, box.width, owHeight, box.height, 0);
+    setGridMode(0);
+}
+
+int singleLineHeight() { return project.gridMode == 1 ? 1 : 25; }

@@ -1,0 +1,250 @@
+#include "surface/live.h"
+
+#include "menu-c.h"
+#include "project/colours.h"
+#include "project/tree.h"
+#include "surface/commands.h"
+#include "surface/hierarchy.h"
+#include "surface/hooks.h"
+#include "surface/live_types.h"
+#include "surface/selection.h"
+#include "surface/state.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int DEFAULT_COLUMNS = 36, DEFAULT_ROWS = 27; // the grid while toolkit calls speak in pixels
+constexpr int ROW_PIXELS = 25;                         // height of a single-line widget
+
+struct ScrollBars {
+    int x = 0, y = 0;
+} scrollBars; // of the array that storeArrayGeometry saw last
+
+bool isBarOrPane(const WidgetNode& node) { return node.type == TYPE_TOOL_BAR || node.type == TYPE_PANE; }
+bool isTable(const WidgetNode& node) { return node.type == TYPE_TABLE_BOX; }
+bool isArray(const WidgetNode& node) { return node.type == TYPE_TEXT_ARRAY || node.type == TYPE_VALUE_ARRAY; }
+
+// A bar that was never placed floats beside its form.
+void placeBar(WidgetNode& bar, const WidgetNode& form) {
+    const bool unplaced = bar.type == TYPE_TOOL_BAR ? bar.width == -1 : bar.xpos == -1;
+    if (!unplaced) return;
+    bar.xpos = form.xpos - 50;
+    bar.ypos = form.ypos + 200;
+    if (bar.type == TYPE_TOOL_BAR) bar.width = 1000;
+}
+
+void setFont(const WidgetNode& node) {
+    const bool text = node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL;
+    if (text && node.subType == ORICHEDIT) return; // rich text carries its own
+    owSetFontAttribs(node.handle, owFontFace, node.fontFace.c_str(), owPointSize, node.pointSize, owCharSet,
+                     node.charSet, owBold, node.bold, owItalic, node.italic, owUnderline, node.underline, 0);
+    if (text) owSetFontAttribs(node.handle, owStrikeout, node.strikeout, 0);
+}
+
+// The toolkit handle that the live widget is made under, from the one that the caller names.
+int liveParent(WidgetNode& node, int parent) {
+    if (!isBarOrPane(node)) return parent;
+    const WidgetNode* form = formOf(&node, project.forms);
+    if (form) placeBar(node, *form);
+    if (parent < 0) return -parent;
+    return form ? form->handle : parent;
+}
+
+void realiseOne(WidgetNode& node, int parent) {
+    const LiveType* type = liveType(node.type);
+    if (!type) return;
+    setGridMode(project.gridMode);
+    const int under = liveParent(node, parent);
+    int handle = type->create(node, under);
+    const bool standIn = handle <= 0 && node.type != TYPE_FORM;
+    if (standIn) handle = createStandIn(node, under);
+    setHandle(node, std::max(handle, 0), under);
+    node.designCallbackId = type->generalId || standIn ? handle : 0;
+    node.designSelectId = type->selectId || standIn ? handle + OBJECT_SELECT_OFFSET : 0;
+    if (handle > 0 && !standIn) {
+        if (type->font) setFont(node);
+        if (type->finish && !(parent < 0 && isBarOrPane(node))) type->finish(node);
+    }
+    setGridMode(0);
+}
+
+void eraseLive(WidgetNode& node) {
+    if (node.handle > 0) owEraseWidget(node.handle);
+}
+
+// The window callbacks of a form and the press and release of its main panel.
+void defineFormCallbacks(WidgetNode& form) {
+    owDefineCallback(form.handle, form.handle);
+    owDefineSelectCallback(form.handle, form.handle + OBJECT_SELECT_OFFSET);
+    form.formCallbackId = form.handle;
+    form.designSelectId = form.handle + OBJECT_SELECT_OFFSET;
+    if (WidgetNode* panel = form.child) {
+        owDefineCallback(panel->handle, panel->handle);
+        panel->designCallbackId = panel->handle;
+    }
+}
+
+} // namespace
+
+void setGridMode(int mode) {
+    owSetGuiGridMode(mode);
+    if (mode == 1) owDefineGuiGrid(project.gridHoriz, project.gridVert);
+    else owDefineGuiGrid(DEFAULT_COLUMNS, DEFAULT_ROWS);
+}
+
+void realiseWidget(WidgetNode& node, int parent, bool withSiblings) {
+    for (WidgetNode* one = &node; one; one = one->next) {
+        realiseOne(*one, parent);
+        if (one->child) realiseWidget(*one->child, one->handle, true);
+        if (!withSiblings || one->type == TYPE_FORM) return;
+    }
+}
+
+void rebuildWidget(WidgetNode& node) {
+    if (design.defaultsMode) return;
+    eraseLive(node);
+    const bool isForm = node.type == TYPE_FORM;
+    realiseWidget(node, isForm ? 0 : node.parentHandle, false);
+    if (isForm) defineFormCallbacks(node);
+    redrawWidget(node, isForm);
+}
+
+void redrawWidget(WidgetNode& node, bool front) {
+    if (node.type == TYPE_FORM) {
+        if (!node.formHidden) owDrawWindow(node.handle, front);
+        return;
+    }
+    WidgetNode* parent = parentOf(&node, project.forms);
+    WidgetNode* window = activeForm(project.forms);
+    if (!window) window = formOf(&node, project.forms);
+    const auto drawWindow = [&] {
+        if (window && !window->formHidden) owDrawWindow(window->handle, front);
+    };
+    if (parent && parent->type == TYPE_TAB_BOX) drawWindow();
+    const WidgetNode* bar = isBarOrPane(node) ? &node : parent && isBarOrPane(*parent) ? parent : nullptr;
+    if (!bar) return owDrawWidget(node.handle);
+    int x = 0, y = 0, width = 0, height = 0, floatWidth = 0, floatHeight = 0, position = 0;
+    if (bar->type == TYPE_TOOL_BAR) owEnqToolbarPos(bar->handle, &x, &y, &width, &position);
+    else owEnqPanePos(bar->handle, &x, &y, &width, &height, &floatWidth, &floatHeight, &position);
+    if (position == OFLOATING) owDrawWidget(node.handle);
+    else drawWindow();
+}
+
+void redrawAllForms() {
+    for (WidgetNode* form = project.forms; form; form = form->next) redrawWidget(*form, true);
+}
+
+void realiseForms(WidgetNode* list) {
+    for (WidgetNode* form = list; form; form = form->next) {
+        realiseWidget(*form, 0, true);
+        redrawWidget(*form, true);
+    }
+    buildHierarchy(list);
+    project.currentWidget = nullptr;
+    for (WidgetNode* form = list; form; form = form->next) defineFormCallbacks(*form);
+    if (list) selectWidget(list);
+}
+
+void eraseForms(WidgetNode* list) {
+    owAdoptChild(0, 0, 0);
+    for (WidgetNode* form = list; form; form = form->next) eraseLive(*form);
+    design.placeholderChild = 0;
+    design.groupPanel = 0;
+    clearHierarchy();
+}
+
+void discardForms(WidgetNode* list) {
+    dropSelection();
+    eraseForms(list);
+    realiseForms(list);
+}
+
+void fillListEntries(WidgetNode& node) {
+    for (const ListEntryRec* entry = node.listEntries; entry; entry = entry->next) {
+        if (entry->icon.empty()) owSetListEntry(node.handle, OADD, owString, entry->text.c_str(), 0);
+        else
+            owSetListEntry(node.handle, OADD, owString, entry->text.c_str(), owIcon,
+                           owGetIconResource(entry->icon.c_str()), 0);
+    }
+    if (node.type == TYPE_COMBO_BOX) owSetListEntry(node.handle, OSELECT, owEntry, 1, 0);
+}
+
+void drawFrameCross(const WidgetNode& frame) {
+    constexpr int CROSS_COLOUR = 2;
+    owActivateGraphicsFrame(frame.handle);
+    owClearGraphicsFrame(frame.handle);
+    oSetLineColour(CROSS_COLOUR);
+    oMoveTo2D(static_cast<double>(frame.xMin), static_cast<double>(frame.yMin));
+    oDrawLineTo2D(static_cast<double>(frame.xMax), static_cast<double>(frame.yMax));
+    oMoveTo2D(static_cast<double>(frame.xMax), static_cast<double>(frame.yMin));
+    oDrawLineTo2D(static_cast<double>(frame.xMin), static_cast<double>(frame.yMax));
+    oFlushGraphics();
+}
+
+void storeArrayGeometry(WidgetNode& node) {
+    if (node.handle <= 0 || !(isArray(node) || isTable(node))) return;
+    setGridMode(project.gridMode);
+    node.columnWidths.resize(std::max(node.columns, 0));
+    OARRAYCELL cell = {};
+    for (int column = 0; column < node.columns; ++column) {
+        if (isTable(node)) {
+            owEnqTableBoxAttribs(node.handle, column + 1, &node.columnWidths[column]);
+            continue;
+        }
+        owEnqCellAttribs(node.handle, column + 1, 1, &cell);
+        node.columnWidths[column] = cell.width;
+    }
+    if (isArray(node)) {
+        node.rowHeights.resize(std::max(node.rows, 0));
+        for (int row = 0; row < node.rows; ++row) {
+            owEnqCellAttribs(node.handle, 1, row + 1, &cell);
+            node.rowHeights[row] = cell.height;
+        }
+        owEnqScrollBarPos(node.handle, &scrollBars.x, &scrollBars.y);
+    }
+    setGridMode(0);
+}
+
+void applyArrayGeometry(WidgetNode& node) {
+    if (node.handle <= 0) return;
+    setGridMode(project.gridMode);
+    const int columns = std::min<int>(node.columns, node.columnWidths.size());
+    const int rows = std::min<int>(node.rows, node.rowHeights.size());
+    for (int column = 0; column < columns; ++column) {
+        if (isTable(node)) {
+            owSetTableBoxAttribs(node.handle, column + 1, node.columnWidths[column]);
+            continue;
+        }
+        OARRAYCELL cell = {};
+        owEnqCellAttribs(node.handle, column + 1, 1, &cell);
+        cell.width = node.columnWidths[column];
+        owSetCellAttribs(node.handle, column + 1, 1, &cell);
+    }
+    for (int row = 0; isArray(node) && row < rows; ++row) {
+        OARRAYCELL cell = {};
+        owEnqCellAttribs(node.handle, 1, row + 1, &cell);
+        cell.height = node.rowHeights[row];
+        owSetCellAttribs(node.handle, 1, row + 1, &cell);
+    }
+    if (isArray(node)) owSetScrollBarPos(node.handle, scrollBars.x, scrollBars.y);
+    setGridMode(0);
+}
+
+void activateWidget(WidgetNode* node) {
+    if (!node || design.defaultsMode) return;
+    for (WidgetNode* up = node; up && up->type != TYPE_FORM; up = up->parent)
+        if (up->parent && up->parent->type == TYPE_TAB_BOX) owSetWidgetStatus(up->handle, OCHECKED);
+    const bool takesFocus = node->type != TYPE_TOGGLE && node->type != TYPE_TOOL_SEPARATOR;
+    if (takesFocus && node->handle > 0) owSetActiveWidget(node->handle);
+}
+
+int colourIndex(float red, float green, float blue, bool forceProject) {
+    return design.defaultsMode && !forceProject ? defaultsColourIndex(red, green, blue)
+                                                : projectColourIndex(red, green, blue);
+}
+
+bool isSingleLine(const WidgetNode& node) {
+    if (design.defaultsMode || (node.parent && node.parent->type == TYPE_PANE)) return false;
+    return project.gridMode == 1 ? node.height == 1 : node.height <= ROW_PIXELS;
+}

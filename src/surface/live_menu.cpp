@@ -1,0 +1,101 @@
+// The flat chains of menu and tree entries as live menus and trees, and the status bar of a form.
+#include "surface/live_types.h"
+
+#include "menu-c.h"
+#include "surface/hooks.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+// The live parents of the levels above the entry at hand, from the bar or box itself down.
+struct Levels {
+    std::vector<int> parents;
+
+    int at(int level) const {
+        const size_t last = parents.size() - 1;
+        return parents[level < 0 ? 0 : std::min(static_cast<size_t>(level), last)];
+    }
+    // From now on `parent` holds the entries of `level`.
+    void open(int level, int parent) {
+        if (level >= 0 && static_cast<size_t>(level) < parents.size()) parents.resize(level);
+        parents.push_back(parent);
+    }
+};
+
+// A pull-down hangs on the entry before it and holds the entries of the level that follows.
+int levelBelow(const MenuEntryRec& pullDown, const MenuEntryRec* before) {
+    if (pullDown.next) return pullDown.next->level;
+    return before ? before->level + 1 : 1;
+}
+
+// Icons of one tree entry: those of the box replace its own.
+const char* iconOf(const std::string& ofBox, const std::string& own) { return (ofBox.empty() ? own : ofBox).c_str(); }
+
+int createTreeRow(const WidgetNode& box, const MenuEntryRec& entry, int parent) {
+    if (box.subType != ORESOURCEICONS)
+        return owCreateTreeEntry(parent, OLASTCHILD, entry.label.c_str(), owCallback, box.handle, 0);
+    return owCreateTreeEntry(parent, OLASTCHILD, entry.label.c_str(), owCallback, box.handle, owIcon,
+                             iconOf(box.icon, entry.icon1), owCloseIcon, iconOf(box.closeIcon, entry.icon2), owOpenIcon,
+                             iconOf(box.openIcon, entry.icon3), 0);
+}
+
+} // namespace
+
+void buildLiveMenu(WidgetNode& form) {
+    if (!form.entries) return;
+    Levels levels{{owCreateMenuBar(form.handle)}};
+    const MenuEntryRec* before = nullptr;
+    for (MenuEntryRec* entry = form.entries; entry; entry = entry->next) {
+        switch (entry->kind) {
+        case MENU_BAR: entry->handle = levels.at(0); break;
+        case MENU_PULL_DOWN:
+            if (!before) break;
+            entry->handle = owCreatePullDownMenu(before->handle);
+            levels.open(levelBelow(*entry, before), entry->handle);
+            break;
+        case MENU_ENTRY:
+            entry->handle = owCreateMenuEntry(levels.at(entry->level), entry->label.c_str(), owAccel, entry->accel,
+                                              owHelp, entry->help.c_str(), owUncheckIcon, entry->icon1.c_str(),
+                                              owCheckIcon, entry->icon2.c_str(), owGreyIcon, entry->icon3.c_str(), 0);
+            if (entry->level > 0) {
+                entry->callbackId = entry->handle;
+                owDefineCallback(entry->handle, entry->handle);
+            }
+            before = entry;
+            break;
+        case MENU_SEPARATOR: entry->handle = owCreateMenuSeparator(levels.at(entry->level)); break;
+        default: break;
+        }
+    }
+    hooks.menuChanged(form);
+}
+
+void buildLiveStatusBar(WidgetNode& form) {
+    if (!form.statusBar) return;
+    StatusBarRec& bar = *form.statusBar;
+    bar.handle = owCreateStatusBar(form.handle, owPanes, bar.panes, owSizes, bar.sizes.data(), 0);
+    for (int pane = 0; pane < bar.panes; ++pane) owSetStatusBarText(bar.handle, pane, bar.texts[pane].c_str());
+}
+
+void buildLiveTree(WidgetNode& box) {
+    Levels levels{{box.handle}};
+    const MenuEntryRec* before = nullptr;
+    for (MenuEntryRec* entry = box.entries; entry; entry = entry->next) {
+        if (entry->kind == MENU_PULL_DOWN && before) {
+            entry->handle = before->handle;
+            levels.open(levelBelow(*entry, before), before->handle);
+        } else if (entry->kind == MENU_ENTRY) {
+            const int parent = levels.at(entry->level);
+            entry->handle = createTreeRow(box, *entry, parent);
+            if (box.subType == ORESOURCEICONS && parent != box.handle) {
+                owTreeViewAction(parent, OOPENENTRY);
+                owTreeViewAction(parent, OCLOSEENTRY);
+            }
+            before = entry;
+        } else if (entry->kind == MENU_BAR) {
+            entry->handle = box.handle;
+        }
+    }
+}

@@ -1,0 +1,22 @@
+// How each type of widget comes to life: the creation call, the identifiers it answers to, and what follows the call.
+#pragma once
+
+#include "project/records.h"
+
+struct LiveType {
+    int type;
+    int (*create)(const WidgetNode& node, int parent); // in the project's unit; returns the handle
+    void (*finish)(WidgetNode& node);                  // what the creation call cannot carry; null for nothing
+    bool generalId;                                    // the general event carries the handle...
+    bool selectId;                                     // ...the select event handle + 50000
+    bool font;                                         // takes the font fields
+};
+
+const LiveType* liveType(int type); // null for a type that has no live widget
+
+// A bordered box with the widget's name, for a type that the toolkit refused.
+int createStandIn(const WidgetNode& node, int parent);
+
+void buildLiveMenu(WidgetNode& form);      // menu bar of a form
+void buildLiveStatusBar(WidgetNode& form); // status bar of a form
+void buildLiveTree(WidgetNode& treeView);  // entries of a tree view

@@ -1,0 +1,140 @@
+// Widgets on a form that work while they are selected: text is typed, values are entered, boxes are ticked.
+#include "surface/selection.h"
+
+#include "menu-c.h"
+#include "project/host.h"
+#include "project/tree.h"
+#include "surface/commands.h"
+#include "surface/hooks.h"
+#include "surface/live.h"
+#include "surface/state.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+constexpr int RICH_RESERVE = 24; // characters that rich text needs beyond what shows
+
+OACTION event() {
+    OACTION action;
+    owEnqActionState(&action);
+    return action;
+}
+
+// What a live text widget holds, cut to the length of its field.
+std::string readText(const WidgetNode& node) {
+    std::string text(TEXT_LIMIT + 1, '\0');
+    const bool rich = node.subType == ORICHEDIT;
+    owEnqTextSetting(node.handle, text.data(), static_cast<int>(text.size()), owEntryType, rich ? 1 : 0, 0);
+    text.resize(text.find('\0'));
+    const size_t limit = std::abs(node.fieldWidth);
+    if (text.size() > limit) text.resize(rich ? std::max<size_t>(limit, RICH_RESERVE) - RICH_RESERVE : limit);
+    return text;
+}
+
+bool showsItself(const WidgetNode& node) { return &node == project.currentWidget; }
+
+void switchOff(WidgetNode& radioBox) {
+    for (WidgetNode* button = radioBox.child; button; button = button->next) {
+        if (button->type != TYPE_TOGGLE) continue;
+        button->initialStatus = 0;
+        owSetToggleSwitch(button->handle, 0);
+    }
+}
+
+void refusePlacement(const WidgetNode& toggle) {
+    owSetToggleSwitch(toggle.handle, toggle.initialStatus);
+    host.errorBox("Not a valid parent widget", "This widget cannot support child widgets");
+    owSetActiveWidget(toggle.handle);
+    selectTool(TOOL_SELECTOR);
+}
+
+void takeSwitch(WidgetNode& toggle) {
+    owAdoptChild(0, 0, 0);
+    int status = 0;
+    owEnqToggleSwitch(toggle.handle, &status);
+    if (toggle.parent && toggle.parent->type == TYPE_RADIO_BOX) switchOff(*toggle.parent);
+    toggle.initialStatus = status;
+    owSetToggleSwitch(toggle.handle, status);
+    hooks.refreshProperties();
+    if (!design.unadopted) adoptWidget(toggle);
+    markChanged();
+}
+
+} // namespace
+
+void textEditedCommand() {
+    WidgetNode* node = findHandle(event().widget);
+    if (!node || node->type != TYPE_TEXT_ENTRY || !showsItself(*node)) return;
+    const std::string text = readText(*node);
+    if (text == node->text) return;
+    node->text = text;
+    owSetTextSetting(node->handle, text.c_str(), owEntryType, node->subType == ORICHEDIT ? 1 : 0, 0);
+    const bool lines = !isSingleLine(*node) && node->subType != ORICHEDIT;
+    if (lines && node->justify != OLEFT) owSetParagraphProp(node->handle, owJustify, node->justify, 0);
+    hooks.refreshProperties();
+    markChanged();
+}
+
+void entrySelectedCommand() {
+    WidgetNode* node = findHandle(event().widget);
+    if (!node) return;
+    if (node->type == TYPE_VALUE_ENTRY) design.valueWidget = node->handle;
+    if (design.activeTool != TOOL_SELECTOR || node->selected) return;
+    selectWidget(node);
+}
+
+void valueEditedCommand() {
+    WidgetNode* node = findHandle(design.valueWidget);
+    if (!node || node->type != TYPE_VALUE_ENTRY) return;
+    float value = 0;
+    owEnqValueSetting(node->handle, &value);
+    if (value == node->value) return;
+    node->value = value;
+    owSetValueSetting(node->handle, static_cast<double>(value));
+    if (showsItself(*node)) hooks.refreshProperties();
+    markChanged();
+}
+
+void toggledCommand() {
+    const OACTION action = event();
+    WidgetNode* node = findHandle(action.widget);
+    if (!node || action.status == 1) return;
+    if (design.activeTool != TOOL_SELECTOR) return refusePlacement(*node);
+    if (!node->selected) {
+        owSetToggleSwitch(node->handle, node->initialStatus);
+        return selectWidget(node);
+    }
+    takeSwitch(*node);
+}
+
+void doubleClickCommand() {
+    struct Refusal {
+        int type;
+        const char* text;
+    };
+    constexpr Refusal REFUSALS[] = {
+        {TYPE_TREE_VIEW, "Callbacks are not permitted on Tree Views,|only on their individual entries.||These are "
+                         "accesed through the Tree View editor|by selecting Entries in the Properties window"},
+        {TYPE_PROGRESS_BAR, "Callbacks are not permitted on Progress Bars"},
+        {TYPE_TOOL_SEPARATOR, "Callbacks are not permitted on Toolbar Separators"},
+    };
+    WidgetNode* node = project.currentWidget;
+    if (!node) return;
+    const auto refusal = std::ranges::find(REFUSALS, node->type, &Refusal::type);
+    if (refusal != std::end(REFUSALS)) return host.infoBox("Callback Editor", refusal->text);
+    selectTool(TOOL_SELECTOR);
+    hooks.showCallback(*node);
+}
+
+void unadoptCommand() {
+    selectTool(TOOL_SELECTOR);
+    owAdoptChild(0, 0, 0);
+    design.unadopted = 1;
+    hooks.commandStatus(CMD_UNADOPT, OCHECKED);
+    owDefineKeyCallback(OKEYRIGHTBUTTON, 0);
+    activateWidget(project.currentWidget);
+    markChanged();
+}
