@@ -38,9 +38,6 @@ bool executableCurrent();
 // Header string of the project's language and platform, as the next save writes it.
 std::string headerString();
 
-// Folder, separator and name in one; a name alone for an empty folder.
-std::string joinPath(const std::string& folder, const std::string& name);
-
 // What a reader found, for the batch commands.
 enum ProjectFileKind { FILE_PROJECT, FILE_FORM, FILE_DEFAULTS, FILE_UNKNOWN };
 ProjectFileKind fileKind(const std::string& path); // by the extension, in any case of letters

@@ -134,6 +134,23 @@ struct StatusBarRec {
     std::string name; // in the name space of the widgets
 };
 
+// The status bar of a record: owned, copied deep with it.
+struct StatusBarPtr : std::unique_ptr<StatusBarRec> {
+    using std::unique_ptr<StatusBarRec>::unique_ptr;
+    using std::unique_ptr<StatusBarRec>::operator=;
+    StatusBarPtr() = default;
+    StatusBarPtr(std::unique_ptr<StatusBarRec>&& other) : std::unique_ptr<StatusBarRec>(std::move(other)) {}
+    StatusBarPtr(const StatusBarPtr& other)
+        : std::unique_ptr<StatusBarRec>(other ? std::make_unique<StatusBarRec>(*other) : nullptr) {}
+    StatusBarPtr(StatusBarPtr&&) noexcept = default;
+    StatusBarPtr& operator=(const StatusBarPtr& other) {
+        if (this != &other) reset(other ? new StatusBarRec(*other) : nullptr);
+        return *this;
+    }
+    StatusBarPtr& operator=(StatusBarPtr&&) noexcept = default;
+    ~StatusBarPtr() = default;
+};
+
 // One form or widget. Which generic field means what depends on `type`. A record owns what it points to except the
 // `child` and `next` chains, which belong to the tree.
 struct WidgetNode {
@@ -185,10 +202,14 @@ struct WidgetNode {
     int formCallbackId = 0;
     WidgetNode* child = nullptr;
     WidgetNode* next = nullptr;
-    WidgetNode* parent = nullptr;    // record that holds it; null for forms and detached records. Kept by tree.h
-    WidgetNode* lastChild = nullptr; // where linkChild goes on; a hint of tree.h
-    bool inProject = false;          // hangs in the tree of project.forms. Kept by tree.h
-    int handle = 0;                  // of the live widget; set with setHandle so that the index follows
+    // Kept by tree.h; not for others to write.
+    WidgetNode* parent = nullptr;    // record that holds it; null for forms and detached records
+    WidgetNode* lastChild = nullptr; // where linkChild goes on
+    std::size_t indexedName = 0;     // key under which the index holds it, 0 for none
+    int indexedHandle = 0;           // the same of its handle
+    bool inProject = false;          // hangs in the tree of project.forms
+
+    int handle = 0; // of the live widget; set with setHandle so that the index follows
     std::string icon;
     std::string backgroundImage;
     std::string parentName;
@@ -208,7 +229,7 @@ struct WidgetNode {
     int initialPosition = 0;
     std::vector<int> columnWidths; // arrays, table box: `columns` of them
     std::vector<int> rowHeights;   // arrays: `rows` of them
-    std::unique_ptr<StatusBarRec> statusBar;
+    StatusBarPtr statusBar;
     int initialState = 0;
     int scrollMode = 0;
     int dragMode = 0;

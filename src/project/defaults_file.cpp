@@ -1,0 +1,80 @@
+#include "platform/paths.h"
+#include "project/colours.h"
+#include "project/defaults.h"
+#include "project/header.h"
+#include "project/host.h"
+#include "project/records_io.h"
+#include "project/tree.h"
+
+namespace {
+
+// Records that later versions added to the file.
+int sinceVersion(int type) {
+    switch (type) {
+    case TYPE_TREE_VIEW:
+    case TYPE_TABLE_BOX: return VERSION_40;
+    case TYPE_TOOL_SEPARATOR: return VERSION_50;
+    case TYPE_PANE: return VERSION_70;
+    default: return VERSION_10;
+    }
+}
+
+// One record, without siblings. Of another type than its place asks for, or with nothing left to read: built in.
+WidgetNode* readDefault(RecordSource& source, int type) {
+    if (source.version < sinceVersion(type) || source.reader.ended) return makeDefaultRecord(type);
+    WidgetNode* record = readRecords(source);
+    deleteList(record->next);
+    record->next = nullptr;
+    if (record->type == type) return record;
+    source.reader.damaged = true;
+    deleteNode(record);
+    return makeDefaultRecord(type);
+}
+
+// Files of version 3.0 have no header.
+int versionOf(FileReader& reader) {
+    const FileHeader header = readHeader(reader);
+    if (header.version >= VERSION_40) return header.version;
+    rewindReader(reader);
+    return VERSION_30;
+}
+
+} // namespace
+
+bool loadDefaults(const std::string& path) {
+    FileReader reader;
+    if (!openReader(reader, path)) {
+        host.busyCursor(false);
+        host.errorBox("Error loading widget defaults file", "File to load to could not be opened");
+        return false;
+    }
+    RecordSource source{.reader = reader, .version = versionOf(reader)};
+    freeDefaults();
+    readAllColours(reader);
+    for (std::size_t i = 0; i < defaultOrder.size(); ++i) defaultRecords[i] = readDefault(source, defaultOrder[i]);
+    closeReader(reader);
+    mapDefaultColours();
+    if (reader.damaged) reportIncomplete(path);
+    return true;
+}
+
+void loadStartupDefaults(const std::string& dataDir) {
+    const std::string path = joinPath(dataDir, STARTUP_DEFAULTS);
+    if (dataDir.empty() || !fileReadable(path) || !loadDefaults(path)) makeDefaults();
+}
+
+bool saveDefaults(const std::string& path) {
+    FileWriter writer;
+    bool saved = openWriter(writer, path);
+    if (saved) {
+        writeHeader(writer);
+        writeColours(writer);
+        for (int type : defaultOrder) writeRecord(writer, *defaultRecord(type));
+        saved = closeWriter(writer, false);
+    }
+    if (!saved) {
+        host.busyCursor(false);
+        reportSaveFailed(writer);
+    }
+    return saved;
+}

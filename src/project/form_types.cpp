@@ -1,0 +1,88 @@
+// Masters and children: what a choice of form type asks, and what it changes on other forms.
+#include "project/host.h"
+#include "project/placement.h"
+#include "project/tree.h"
+
+namespace {
+
+bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
+
+bool refuse(const char* title, const char* text) {
+    host.errorBox(title, text);
+    return false;
+}
+
+bool agreed(const char* title, const char* text) {
+    return host.messageBox(title, text, BOX_QUESTION, BOX_YES_NO) == ANSWER_YES;
+}
+
+WidgetNode* formOfType(int formType) {
+    for (WidgetNode* form = project.forms; form; form = form->next)
+        if (form->formType == formType) return form;
+    return nullptr;
+}
+
+bool toChildSdi() {
+    return (project.forms && project.forms->next) ||
+           refuse("Form Type Change", "Cannot change only form to be Child SDI");
+}
+
+bool toChildMdi() {
+    return formOfType(FORM_MASTER_MDI) || refuse("No Master MDI form found", "Cannot set a form to be child MDI");
+}
+
+bool takeOverMaster(const WidgetNode& form) {
+    WidgetNode* other = nullptr;
+    for (WidgetNode* f = project.forms; f && !other; f = f->next)
+        if (f != &form && isMaster(*f)) other = f;
+    if (!other) return true;
+    if (!agreed("Master already set",
+                "A form has already been set as the master.|If you set this form as the master, the current master "
+                "will become a child SDI window form.|Do you wish to continue?"))
+        return false;
+    other->formType = FORM_STATIC_SDI;
+    other->parentName = "NONE";
+    return true;
+}
+
+bool childrenToSdi() {
+    if (!formOfType(FORM_STATIC_MDI) && !formOfType(FORM_DYNAMIC_MDI)) return true;
+    if (!agreed("Master SDI Requested",
+                "All child MDI forms will be reset to child SDI forms|Do you wish to continue?"))
+        return false;
+    for (WidgetNode* form = project.forms; form; form = form->next) {
+        if (form->formType == FORM_STATIC_MDI) form->formType = FORM_STATIC_SDI;
+        if (form->formType == FORM_DYNAMIC_MDI) form->formType = FORM_DYNAMIC_SDI;
+    }
+    return true;
+}
+
+bool fitForMasterMdi(const WidgetNode& form) {
+    const WidgetNode* first = form.child ? form.child->child : nullptr;
+    return !first || first->type == TYPE_TOOL_BAR || first->type == TYPE_PANE ||
+           refuse("Change to Master MDI",
+                  "Form cannot contain any children for it to be master MDI|Remove child widgets before changing");
+}
+
+} // namespace
+
+bool quitModeEnabled(const WidgetNode& form) { return !isMaster(form); }
+
+bool changeFormType(WidgetNode& form, int formType) {
+    if (formType == form.formType) return true;
+    bool accepted = false;
+    switch (formType) {
+    case FORM_STATIC_SDI:
+    case FORM_DYNAMIC_SDI: accepted = toChildSdi(); break;
+    case FORM_STATIC_MDI:
+    case FORM_DYNAMIC_MDI: accepted = toChildMdi(); break;
+    case FORM_MASTER_SDI: accepted = takeOverMaster(form) && childrenToSdi(); break;
+    case FORM_MASTER_MDI: accepted = takeOverMaster(form) && fitForMasterMdi(form); break;
+    default: break;
+    }
+    if (!accepted) return false;
+    form.formType = formType;
+    if (isMaster(form)) form.parentName = "NONE";
+    project.projectModified = project.sourceStale = 1;
+    return true;
+}

@@ -1,0 +1,19 @@
+// Chains of records in a stream: read from any version with all upgrades, written in the current one.
+#pragma once
+
+#include "project/stream.h"
+
+struct RecordSource {
+    FileReader& reader;
+    int version;             // times ten
+    int* gridMode = nullptr; // where a grid mode among the records goes; null: it is passed over
+    int namedRecords = 0;    // read so far, main panels left out
+};
+
+// Reads a chain with all that is below it; the caller owns it. There is always a first record, empty when the data
+// ended ahead of it. Code of versions before 7.1 is left as it stands in the file.
+WidgetNode* readRecords(RecordSource& source);
+
+// Writes a chain. Brings fieldWidth and the sizes of live arrays up to date in the records.
+void writeRecords(FileWriter& writer, WidgetNode* first);
+void writeRecord(FileWriter& writer, WidgetNode& record); // as a chain of one

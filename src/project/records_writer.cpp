@@ -1,0 +1,158 @@
+#include "project/code_stores.h"
+#include "project/host.h"
+#include "project/records_io.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+// fieldWidth of these is a width that the user sets; of the others it is the length of the text.
+bool widthIsUsers(int type) {
+    switch (type) {
+    case TYPE_TEXT_ENTRY:
+    case TYPE_TEXT_LABEL:
+    case TYPE_VALUE_ENTRY:
+    case TYPE_VALUE_LABEL:
+    case TYPE_LIST_BOX:
+    case TYPE_COMBO_BOX: return true;
+    default: return false;
+    }
+}
+
+void writeField(FileWriter& writer, const WidgetNode& node, const FieldRow& row) {
+    if (row.until < CURRENT_VERSION) return;
+    switch (row.kind) {
+    case FIELD_NUMBER:
+    case FIELD_TAB_LIST: writeNumber(writer, node.*row.number); break;
+    case FIELD_REAL_G:
+    case FIELD_REAL_F: writeReal(writer, node.*row.real, row.kind); break;
+    case FIELD_STRING: writeString(writer, node.*row.string); break;
+    case FIELD_TEXT:
+        writeText(writer, node.text,
+                  static_cast<std::size_t>(
+                      std::min<std::int64_t>(std::abs(std::int64_t{node.fieldWidth}) + 1, TEXT_LIMIT + 1)));
+        break;
+    case FIELD_GRID_MODE: break;
+    }
+}
+
+// Code ends at a NUL, whatever stands behind it.
+int codeSize(const std::string& code) { return static_cast<int>(std::min(code.find('\0'), code.size())) + 2; }
+
+void writeSlot(FileWriter& writer, const CallbackSlot& slot) {
+    const int size = codeSize(slot);
+    writeNumber(writer, size);
+    writeText(writer, slot, static_cast<std::size_t>(size));
+}
+
+void writeFields(FileWriter& writer, WidgetNode& node) {
+    if (node.text.size() > TEXT_LIMIT) node.text.resize(TEXT_LIMIT);
+    if (!widthIsUsers(node.type)) node.fieldWidth = static_cast<int>(node.text.size());
+    for (const FieldRow& row : recordFields()) writeField(writer, node, row);
+    for (const SlotPlace& place : slotFileOrder) writeSlot(writer, node.slots[place.slot]);
+}
+
+// Exactly as many numbers as the record counts, for a reader has only that count to go by.
+void writeSizes(FileWriter& writer, const std::vector<int>& sizes, int count) {
+    for (int i = 0; i < count; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        writeNumber(writer, at < sizes.size() ? sizes[at] : (sizes.empty() ? 1 : sizes.back()));
+    }
+}
+
+bool hasArrays(const WidgetNode& node) { return !node.columnWidths.empty(); }
+
+// A damaged file can count far more columns than it holds.
+void limitCount(int& count, std::size_t held) {
+    constexpr int SPARE = 10000;
+    if (count > static_cast<int>(held) + SPARE) count = static_cast<int>(held);
+}
+
+void writeStatusBar(FileWriter& writer, const StatusBarRec& bar) {
+    writeKeyword(writer, KEY_STABAR);
+    writeNumber(writer, bar.handle);
+    for (int size : bar.sizes) writeNumber(writer, size);
+    for (const std::string& text : bar.texts) writeString(writer, text);
+    writeNumber(writer, bar.panes);
+    writeString(writer, bar.name);
+}
+
+void writeEntries(FileWriter& writer, const MenuEntryRec* entry) {
+    writeKeyword(writer, KEY_MENU);
+    for (; entry; entry = entry->next) {
+        for (const EntryStringRow& row : entryStrings) writeString(writer, entry->*row.field);
+        for (const CallbackSlot& slot : entry->slots) {
+            const int size = codeSize(slot);
+            writeEntrySize(writer, size);
+            writeText(writer, slot, static_cast<std::size_t>(size));
+        }
+        for (const EntryNumberRow& row : entryNumbers) writeNumber(writer, entry->*row.field);
+        writeKeyword(writer, entry->next ? KEY_NEXT : KEY_END);
+    }
+}
+
+// An empty last row is not stored.
+bool storedListEntry(const ListEntryRec& entry) { return entry.next || !entry.text.empty() || !entry.icon.empty(); }
+
+void writeListEntries(FileWriter& writer, const ListEntryRec* entry) {
+    if (!entry || !storedListEntry(*entry)) return;
+    writeKeyword(writer, KEY_LIST);
+    for (; entry && storedListEntry(*entry); entry = entry->next) {
+        writeString(writer, entry->text);
+        writeString(writer, entry->icon);
+        writeKeyword(writer, entry->next && storedListEntry(*entry->next) ? KEY_NEXT : KEY_END);
+    }
+}
+
+// A record with the sections ahead of its children.
+void writeOne(FileWriter& writer, WidgetNode& node) {
+    if (hasArrays(node)) {
+        host.storeArrayGeometry(node);
+        limitCount(node.columns, node.columnWidths.size());
+        limitCount(node.rows, node.rowHeights.size());
+    }
+    writeFields(writer, node);
+    if (hasArrays(node)) {
+        writeKeyword(writer, KEY_ARRAY);
+        writeSizes(writer, node.columnWidths, node.columns);
+        writeSizes(writer, node.rowHeights, node.rows);
+    }
+    if (node.statusBar && node.type == TYPE_FORM) writeStatusBar(writer, *node.statusBar);
+    if (node.entries) writeEntries(writer, node.entries);
+    writeListEntries(writer, node.listEntries);
+    if (node.child) writeKeyword(writer, KEY_CHILD);
+}
+
+void writeChainEnd(FileWriter& writer, const WidgetNode& last) {
+    writeKeyword(writer, last.type == TYPE_FORM ? KEY_ENDFIL : KEY_END);
+}
+
+// `first`, what is below it, and with `siblings` what follows it.
+void writeChain(FileWriter& writer, WidgetNode* first, bool siblings) {
+    WidgetNode* node = first;
+    for (;;) {
+        writeOne(writer, *node);
+        if (node->child) {
+            node = node->child;
+            continue;
+        }
+        const WidgetNode* top = first->parent;
+        for (;;) {
+            if (node->next && (siblings || node != first)) break;
+            writeChainEnd(writer, *node);
+            if (node->parent == top) return;
+            node = node->parent;
+        }
+        writeKeyword(writer, KEY_NEXT);
+        node = node->next;
+    }
+}
+
+} // namespace
+
+void writeRecords(FileWriter& writer, WidgetNode* first) {
+    if (first) writeChain(writer, first, true);
+}
+
+void writeRecord(FileWriter& writer, WidgetNode& record) { writeChain(writer, &record, false); }
