@@ -157,11 +157,11 @@ std::string declaration(const FunctionRow& row, const Parameter& parameter) {
     if (type == "text") return "character(*), intent(in) :: " + name;
     if (type == "buffer") return "character(*), intent(inout) :: " + name;
     if (type == "int*") return "integer, intent(inout), target :: " + name;
-    if (type == "real*") return "real, intent(inout), target :: " + name;
-    if (type == "double*") return "double precision, intent(inout), target :: " + name;
+    if (type == "real*") return "real, intent(inout) :: " + name;
+    if (type == "double*") return "real(c_double), intent(inout), target :: " + name;
     if (type == "ints") return "integer, intent(in), target :: " + name + "(*)";
     if (type == "ints*") return "integer, intent(inout), target :: " + name + "(*)";
-    if (type == "reals") return "real, intent(in), target :: " + name + "(*)";
+    if (type == "reals") return "real(c_float), intent(in), target :: " + name + "(*)";
     const bool in = type.rfind("const ", 0) == 0 || type == "ODIM";
     return "type(" + recordName(type) + "), intent(" + (in ? "in" : "inout") + "), target :: " + name +
            (isArray(type) ? "(*)" : "");
@@ -194,7 +194,9 @@ bool goesIn(const FunctionRow& row, int keyword) {
 
 std::string declaration(const FunctionRow& row, const KeywordRow& keyword) {
     const bool in = goesIn(row, keyword.number);
-    const std::string intent = in ? "intent(in), optional" : "intent(inout), optional, target";
+    const std::string intent = in                                 ? "intent(in), optional"
+                               : keyword.kind == ValueKind::REAL ? "intent(inout), optional"
+                                                                 : "intent(inout), optional, target";
     switch (keyword.kind) {
     case ValueKind::INT: return "integer, " + intent + " :: " + keyword.name;
     case ValueKind::REAL: return "real, " + intent + " :: " + keyword.name;
@@ -204,8 +206,10 @@ std::string declaration(const FunctionRow& row, const KeywordRow& keyword) {
     return {};
 }
 
-// Text on its way to or from the toolkit lives in a local variable of its own until the call is over.
+// Text on its way to or from the toolkit lives in a local variable of its own until the call is over; so do reals that
+// come back, since the program's default real may be wider than the toolkit's.
 std::string localText(const std::string& name) { return "text_" + name; }
+std::string localReal(const std::string& name) { return "real_" + name; }
 
 void writeFixedWords(const FunctionRow& row, const std::vector<Parameter>& parameters) {
     for (const Parameter& parameter : parameters) {
@@ -229,6 +233,9 @@ void writeFixedWords(const FunctionRow& row, const std::vector<Parameter>& param
                         text.c_str(), name, name, name, text.c_str());
         } else if (parameter.type == "length") {
             std::printf("      call add(words, n, len(%s) + 1)\n", name);
+        } else if (parameter.type == "real*") {
+            std::printf("      %s = real(%s, c_float)\n      call add(words, n, c_loc(%s))\n",
+                        localReal(parameter.name).c_str(), name, localReal(parameter.name).c_str());
         } else {
             std::printf("      call add(words, n, c_loc(%s%s))\n", name, isArray(parameter.type) ? "(1)" : "");
         }
@@ -249,6 +256,9 @@ void writeKeywordWords(const FunctionRow& row, const KeywordRow& keyword) {
     if (keyword.kind == ValueKind::TEXT) std::printf("         call add(words, n, c_loc(%s))\n", text.c_str());
     else if (keyword.kind == ValueKind::INTS) std::printf("         call add(words, n, c_loc(%s(1)))\n", name);
     else if (goesIn(row, keyword.number)) std::printf("         call add(words, n, %s)\n", name);
+    else if (keyword.kind == ValueKind::REAL)
+        std::printf("         %s = 0\n         call add(words, n, c_loc(%s))\n", localReal(name).c_str(),
+                    localReal(name).c_str());
     else std::printf("         call add(words, n, c_loc(%s))\n", name);
     std::printf("      end if\n");
 }
@@ -274,6 +284,11 @@ void writeRoutine(int number) {
     for (const Parameter& parameter : parameters)
         if (isText(parameter.type) || parameter.type == "buffer")
             std::printf("      character(len=:), allocatable, target :: %s\n", localText(parameter.name).c_str());
+    for (const Parameter& parameter : parameters)
+        if (parameter.type == "real*") std::printf("      real(c_float), target :: %s\n", localReal(parameter.name).c_str());
+    for (const KeywordRow* keyword : keywords)
+        if (keyword->kind == ValueKind::REAL && !goesIn(row, keyword->number))
+            std::printf("      real(c_float), target :: %s\n", localReal(keyword->name).c_str());
     for (const KeywordRow* keyword : keywords)
         if (keyword->kind == ValueKind::TEXT)
             std::printf("      character(len=:), allocatable, target :: %s\n", localText(keyword->name).c_str());
@@ -285,6 +300,12 @@ void writeRoutine(int number) {
     for (const Parameter& parameter : parameters)
         if (parameter.type == "buffer")
             std::printf("      call copy(%s, %s)\n", localText(parameter.name).c_str(), parameter.name.c_str());
+    for (const Parameter& parameter : parameters)
+        if (parameter.type == "real*")
+            std::printf("      %s = %s\n", parameter.name.c_str(), localReal(parameter.name).c_str());
+    for (const KeywordRow* keyword : keywords)
+        if (keyword->kind == ValueKind::REAL && !goesIn(row, keyword->number))
+            std::printf("      if (present(%s)) %s = %s\n", keyword->name, keyword->name, localReal(keyword->name).c_str());
     for (const KeywordRow* keyword : keywords)
         if (keyword->kind == ValueKind::TEXT && !goesIn(row, keyword->number))
             std::printf("      if (present(%s)) call copy(%s, %s)\n", keyword->name, localText(keyword->name).c_str(),
@@ -313,7 +334,7 @@ void writeProperties() {
     std::printf(R"(   ! Sets a property by its number; which of the three values counts follows from the property.
    subroutine owSetProperty(widget, property, whole, wide, text)
       integer, intent(in) :: widget, property, whole
-      double precision, intent(in) :: wide
+      real(c_double), intent(in) :: wide
       character(*), intent(in) :: text
       character(len=:), allocatable, target :: text_in
       integer(c_int64_t) :: words(4)
@@ -338,12 +359,12 @@ void writeProperties() {
    subroutine owEnqProperty(widget, property, whole, wide, text)
       integer, intent(in) :: widget, property
       integer, intent(out), target :: whole
-      double precision, intent(out) :: wide
+      real(c_double), intent(out) :: wide
       character(*), intent(out) :: text
       character(len=:), allocatable, target :: text_out
       integer(c_int64_t) :: words(6)
       integer :: n, keyword, kind, ignored
-      real, target :: narrow
+      real(c_float), target :: narrow
       whole = 0
       narrow = 0
       wide = 0

@@ -4,6 +4,7 @@
 ! a family (BUTTYP, TEXATR, ...) hold until they are set again; WIDSTR is used up by the next window, panel or bar.
 ! Text arguments lose their trailing blanks. The last argument of a creation routine receives the new handle.
 module menu_f77_routines
+   use, intrinsic :: iso_c_binding, only: c_float
    use menu_f90
    implicit none
    private
@@ -180,7 +181,7 @@ end subroutine
 subroutine DRGPOL(widget, points, x, y)
    integer, intent(in) :: widget, points
    real, intent(in) :: x(*), y(*)
-   call owDefineDragShape(widget, points, x, y)
+   call owDefineDragShape(widget, points, real(x(1:points), c_float), real(y(1:points), c_float))
 end subroutine
 subroutine CALLKY(key, callid)
    integer, intent(in) :: key, callid
