@@ -1,10 +1,18 @@
 #include "build/hooks.h"
 
+#include "build/navigation.h"
+#include "codegen/generate.h"
+
+static void generateQuietly() {
+    GeneratedText generated;
+    if (generateSource(sourcePath(), project.sourceName, &generated)) noteGenerated(std::move(generated));
+}
+
 BuildHooks buildHooks = {
     .selectorTool = [] {},
     .saveFirst = [] { return false; },
     .saveProject = [] { return false; },
-    .generateSource = [] {},
+    .generateSource = generateQuietly,
     .commitEditor = [] {},
     .clearLog = [] {},
     .logFont = [] {},

@@ -1,5 +1,5 @@
 // What a build needs of the windows around it. The designer fills the record once at its start; every pointer is always
-// callable, and the defaults do nothing, so that a build runs without a display as well.
+// callable; the defaults generate without a question and show nothing, so that a build runs without a display as well.
 //
 // The list of the Compiler Log is kept by this room (log.h); the hooks only show it.
 #pragma once
@@ -15,7 +15,7 @@ struct BuildHooks {
     bool (*saveFirst)();      // the preference "Code Generation automatically saves Project"
     bool (*saveProject)();    // saves, asking for a name if there is none; false when nothing was saved
     void (*generateSource)(); // generates if it can, asking for a file; leaves project.sourceStale 1 when it did not
-    void (*commitEditor)();
+    void (*commitEditor)();   // before the stores are read
 
     // --- the log
     void (*clearLog)();

@@ -6,32 +6,39 @@
 #include <string>
 #include <vector>
 
+struct GeneratedText;
+
 // What a message says: a line and perhaps a column of a file.
 struct MessagePosition {
     int line = 0;     // 0: none told
     int column = 0;   // from 1; 0: none told
-    std::string file; // empty when the message format of this compiler is not read for one
+    std::string file; // told by the GNU compilers only
 };
 
 // The position in one line of a log, by the patterns of the compiler.
 MessagePosition messagePosition(const std::string& message, int compilerProfile);
 
-// The same for an entry of the log (from 1), looking at the lines around it where the compiler spreads a message over
-// several. `sourcePath` is the main source: for the GNU row a message about another file leads to the line that
-// included it, or nowhere.
+// The same for an entry of the log (from 1), with a look at the lines around it where the compiler spreads a message
+// over several. `sourcePath` is the main source: a message of the GNU compilers about another file leads to the line
+// that includes that file, or nowhere; the messages of the others are taken for the main source whatever they say.
 MessagePosition logPosition(const std::vector<std::string>& lines, int entry, int compilerProfile,
                             const std::string& sourcePath);
 
-// The source of the last build, and what is known of the places of code in it. Loaded at the end of every build.
-void loadBuildSource(const std::string& sourcePath);
-const std::string& buildSourceText();
+// Remembers the map of a generation, for the builds that follow.
+void noteGenerated(GeneratedText generated);
 
-// The user's place for a line and column of the main source. The source map decides where one fits the text; otherwise
-// the markers do.
+// Loads the source of a build and finds out where code stands in it: from the map that was noted last, or from one of
+// a generation in memory, if that text is the file's, the date of its header aside. Without a map the markers do.
+void loadBuildSource(const std::string& sourcePath);
+bool buildSourceMapped();
+
+// The user's place for a line and column of the build's source. Text that no user wrote leads to the widget whose
+// statement it is, and otherwise to the end of the code ahead of it.
 CodeLocation findLocation(int line, int column);
 
-// The search by markers alone, in `source`: the comment lines and branch heads in their fixed order.
+// The search by markers alone in `source`: comment lines and branch heads in their fixed order.
 CodeLocation findByMarkers(const std::string& source, int line, int column);
 
-// Both steps and buildHooks.showLocation. Nothing happens when the message holds no usable line number.
+// Shows the place of a message, or of an entry of `compilerLog`. Nothing happens when it holds no usable line number.
 void goToError(const std::string& message, int compilerProfile);
+void goToLogEntry(int entry, int compilerProfile);

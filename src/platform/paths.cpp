@@ -35,6 +35,13 @@ std::string fileNameOf(std::string_view path) {
     return std::string(slash == std::string_view::npos ? path : path.substr(slash + 1));
 }
 
+std::string nativePath(std::string path) {
+    for (char& c : path) {
+        if (SEPARATORS.find(c) != std::string_view::npos) c = nativeSeparator();
+    }
+    return path;
+}
+
 bool isAbsolutePath(std::string_view path) {
     if (path.empty()) return false;
     return SEPARATORS.find(path[0]) != std::string_view::npos || (path.size() > 1 && path[1] == ':');

@@ -1,0 +1,67 @@
+// How each family of compilers wants to be called: its steps as rows of a table, and a step with its names filled in.
+#pragma once
+
+#include "build/toolkit_places.h"
+
+#include <span>
+#include <string>
+
+enum class StepKind {
+    eachSource,   // once for each listed source that is out of date
+    always,       //
+    withResource, // only when there is a resource script
+    link,         // as always; left out by the GNU row when something did not compile
+    manifest,     // binds the manifest; neither its start nor its end counts
+};
+
+struct BuildStep {
+    StepKind kind;
+    const char* command;              // names in braces are filled in, see commandText
+    const char* moduleDirectory = ""; // what {dirs} writes for each module directory; {dir} is the directory
+};
+
+// Steps of a compiler for a project's language, in their order; empty for a compiler that is not known.
+std::span<const BuildStep> buildSteps(int compilerProfile, int language);
+
+// ".obj" or ".o".
+const char* objectExtension(int compilerProfile);
+
+// What the names of a command stand for. Paths are as the project has them.
+struct CommandScene {
+    int profile = 0;
+    int language = 90;
+    std::string main; // the generated source
+    std::string base; // without its extension
+    std::string exe;
+    std::string rcFile;
+    std::string sourceDir;
+    std::string lib; // the installation folder
+    std::string binDir;
+    bool hasResource = false;
+    bool custom = false; // switches and file lists take part
+    bool wide = false;   // a 64-bit build
+    std::string compilerSwitches;
+    std::string linkerSwitches;
+    ToolkitPlaces toolkit; // GNU row
+    std::string source;    // the listed source of this step
+};
+
+// The names of the open project and of this machine, for the source at `sourcePath`.
+CommandScene commandScene(int compilerProfile, const std::string& sourcePath, int customSwitches);
+
+// The object file of a listed source.
+std::string objectOf(const CommandScene& scene, const std::string& source);
+// The source of a row: the row itself; for the GNU row a relative one that is not there is looked for beside the
+// project's source.
+std::string sourceOfRow(const CommandScene& scene, const std::string& row);
+
+// Whether the compiler runs in double precision.
+bool doublePrecision(int compilerProfile, const std::string& compilerSwitches);
+
+std::string commandText(const BuildStep& step, const CommandScene& scene);
+
+// The toolkit's libraries as the link command names them. For LF95 with the full set this writes wdesign.imp to the
+// current folder.
+std::string libraryWords(const CommandScene& scene);
+
+inline constexpr char IMPORT_LIST[] = "wdesign.imp";

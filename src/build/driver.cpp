@@ -1,0 +1,234 @@
+#include "build/driver.h"
+
+#include "build/catalogue.h"
+#include "build/commands.h"
+#include "build/execute.h"
+#include "build/hooks.h"
+#include "build/log.h"
+#include "build/navigation.h"
+#include "build/run_logged.h"
+#include "codegen/generate.h"
+#include "platform/environment.h"
+#include "platform/file_times.h"
+#include "platform/paths.h"
+#include "project/host.h"
+#include "project/records.h"
+
+namespace {
+
+std::string recordPath() { return joinPath(folders.dataDir, "wdcompzz.bat"); }
+std::string logPath() { return joinPath(folders.dataDir, "wdesign.tmp"); }
+
+// --- the steps
+
+// A build on its way through its steps.
+struct Build {
+    CommandScene scene;
+    LoggedRun run;
+    bool force = false;
+    int result = 1;          // above 0 as long as every step could be started
+    bool gnu = false;        // this row alone looks at how its commands end
+    bool failed = false;     // one of them reported errors or was ended
+    std::string failedWords; // how the last of those ended
+};
+
+// The first word of the command and how it ended, for a log in which the compiler itself said nothing.
+std::string endWords(const std::string& command, const Build& build) {
+    return "wdesign: error: " + command.substr(0, command.find(' ')) + " " + exitWords(build.run.exitCode) + "\n";
+}
+
+// False when the command could not be started.
+bool runStep(Build& build, const BuildStep& step, bool reportFailure) {
+    std::string command = commandText(step, build.scene);
+    if (!runLogged(build.run, command, reportFailure)) return false;
+    if (build.gnu && build.run.exitCode != 0) {
+        build.failed = true;
+        build.failedWords = build.run.cancelled ? std::string() : endWords(command, build);
+    }
+    return true;
+}
+
+// A row without a Fortran extension gets one for good.
+void completeSourceRow(const Build& build, std::string& row) {
+    constexpr const char* EXTENSIONS[] = {".FOR", ".for", ".F90", ".f90", ".FI", ".fi"};
+    constexpr const char* GNU_EXTENSIONS[] = {".f", ".F"}; // with all that begin so: .f95, .ftn, .F03
+    if (build.gnu && build.scene.language == 99) return;
+    for (const char* extension : EXTENSIONS) {
+        if (row.find(extension) != std::string::npos) return;
+    }
+    for (const char* extension : GNU_EXTENSIONS) {
+        if (build.gnu && fileNameOf(row).find(extension) != std::string::npos) return;
+    }
+    row += ".f90";
+}
+
+// Listed C sources are compiled every time, since nothing tells which headers they depend on.
+bool sourceCurrent(const Build& build, const std::string& source, std::int64_t compiledTime) {
+    if (build.force || (build.gnu && build.scene.language == 99)) return false;
+    return fileTime(source) == compiledTime && compiledTime != 0 && pathExists(objectOf(build.scene, source));
+}
+
+void compileListedSources(Build& build, const BuildStep& step) {
+    FileList& rows = project.fileLists[LIST_SOURCES];
+    if (!build.scene.custom) return;
+    project.sourceFileTimes.resize(rows.size());
+    for (size_t i = 0; i < rows.size() && build.result > 0; i++) {
+        if (rows[i].empty()) continue;
+        completeSourceRow(build, rows[i]);
+        build.scene.source = sourceOfRow(build.scene, rows[i]);
+        if (sourceCurrent(build, build.scene.source, project.sourceFileTimes[i])) continue;
+        build.result = runStep(build, step, true) ? 1 : 0;
+        bool compiled = build.result > 0 && !(build.gnu && build.run.exitCode != 0);
+        if (compiled) project.sourceFileTimes[i] = fileTime(build.scene.source);
+    }
+}
+
+void bindManifest(Build& build, const BuildStep& step) {
+    if (runStep(build, step, false)) removeFile(build.scene.base + ".exe.manifest");
+}
+
+void runSteps(Build& build) {
+    for (const BuildStep& step : buildSteps(build.scene.profile, build.scene.language)) {
+        if (build.result <= 0 || build.run.cancelled) return;
+        switch (step.kind) {
+        case StepKind::eachSource: compileListedSources(build, step); break;
+        case StepKind::manifest: bindManifest(build, step); break;
+        case StepKind::withResource:
+            if (build.scene.hasResource) build.result = runStep(build, step, true) ? 1 : 0;
+            break;
+        case StepKind::link:
+            if (build.failed) return;
+            [[fallthrough]];
+        case StepKind::always: build.result = runStep(build, step, true) ? 1 : 0; break;
+        }
+    }
+}
+
+// --- around the steps
+
+// A program left from an earlier build must not stand for one that could not be made.
+void removeOldResults(const Build& build) {
+    if (build.scene.profile == COMPILER_ABSOFT) removeFile(joinPath(build.scene.sourceDir, "wdesign.mod"));
+    if (build.gnu) removeFile(build.scene.exe);
+}
+
+// What the compilers themselves may have left unsaid: each failed build must show why in its log.
+void completeLog(Build& build) {
+    if (!build.gnu || build.result <= 0) return;
+    CompilerLog log;
+    readLog(build.run.logPath, build.scene.profile, log);
+    bool told = scanLogLines(log.lines, build.scene.profile).result > 0;
+    if (build.failed && !told) writeLogFile(build.run.log, "\n" + build.failedWords);
+    if (build.failed && build.scene.toolkit.includeDirs.empty() && build.scene.toolkit.moduleDirs.empty()) {
+        writeLogFile(build.run.log, "wdesign: note: the toolkit's headers and modules were not found; set ORBA to the "
+                                    "folder that it is installed in\n");
+    }
+    if (!build.failed && !told && !pathExists(build.scene.exe)) {
+        writeLogFile(build.run.log, "\nwdesign: error: no program was made: " + build.scene.exe + " is missing\n");
+    }
+}
+
+void removeIntermediates(const Build& build) {
+    if (build.scene.hasResource) removeFile(build.scene.base + "rc.res");
+    removeFile(build.scene.base + objectExtension(build.scene.profile));
+    if (build.scene.profile == COMPILER_LF95) removeFile(IMPORT_LIST);
+}
+
+bool upToDate(const CommandScene& scene, bool force) {
+    return !force && pathExists(scene.exe) && fileTime(scene.exe) == project.exeTime;
+}
+
+// --- the command
+
+bool generateIfStale() {
+    if (project.sourceStale) buildHooks.generateSource();
+    if (!project.sourceStale) return true;
+    host.errorBox("Source not generated", "Compilation aborted.");
+    return false;
+}
+
+void showWholeLog() {
+    readLog(logPath(), compiler.profile, compilerLog);
+    std::vector<std::string> entries;
+    entries.reserve(compilerLog.lines.size());
+    for (const std::string& line : compilerLog.lines) entries.push_back(logEntry(line));
+    buildHooks.setLogLines(entries);
+}
+
+void finishStarted(const std::string& sourcePath) {
+    showWholeLog();
+    host.busyCursor(false);
+    if (scanLog(compiler.profile) > 0) {
+        buildHooks.showLog();
+        buildHooks.enableCompile(true);
+    } else if (!runProgram(executablePath(sourcePath))) {
+        buildHooks.enableCompile(true);
+    }
+    buildHooks.enablePrintErrors(true);
+}
+
+void finishNotStarted() {
+    showWholeLog();
+    host.errorBox("Compile ", "Compile/Link process failed|Can not find compiler/linker in registry|"
+                              "Restart ORBAWIDG Designer in compiler environment command window");
+    host.busyCursor(false);
+    buildHooks.enableCompile(true);
+}
+
+} // namespace
+
+std::string projectSourcePath() { return sourcePath(); }
+
+int buildProject(bool force, int compilerProfile, const std::string& sourcePath, int customSwitches) {
+    Build build;
+    build.force = force;
+    build.gnu = compilerProfile == COMPILER_GNU;
+    build.scene = commandScene(compilerProfile, sourcePath, customSwitches);
+    if (upToDate(build.scene, force)) {
+        loadBuildSource(sourcePath);
+        return 1;
+    }
+    buildHooks.logFont();
+    buildHooks.appendLogLine("Building Project Executable");
+    buildHooks.appendLogLine("Please wait ...");
+    build.run.show = true;
+    build.run.plainMessages = build.gnu;
+    if (!openLoggedRun(build.run, recordPath(), logPath())) {
+        reportSystemError("Compile/Link");
+        loadBuildSource(sourcePath);
+        return 0;
+    }
+    removeOldResults(build);
+    runSteps(build);
+    completeLog(build);
+    closeLoggedRun(build.run);
+    if (build.result > 0) {
+        project.exeTime = fileTime(build.scene.exe);
+        project.projectModified = 1;
+    }
+    removeIntermediates(build);
+    loadBuildSource(sourcePath);
+    return build.result;
+}
+
+void compileCommand(bool force) {
+    if (childProcess.handle != 0) return;
+    buildHooks.selectorTool();
+    buildHooks.commitEditor();
+    if (buildHooks.saveFirst()) buildHooks.saveProject();
+    if (!generateIfStale()) return;
+
+    buildHooks.enableCompile(false);
+    buildHooks.enableExecute(false);
+    buildHooks.enableAbort(false);
+    host.busyCursor(true);
+    buildHooks.clearLog();
+    std::string path = projectSourcePath();
+    if (buildProject(force, compiler.profile, path, project.customSwitches) > 0) {
+        finishStarted(path);
+    } else {
+        finishNotStarted();
+    }
+    removeFile(recordPath());
+    removeFile(logPath());
+}
