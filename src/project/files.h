@@ -21,10 +21,15 @@ std::string backupName(const std::string& name); // "bridge.wdp": "bridge_Backup
 
 // Writes the active form and all forms behind it.
 bool saveForm(const std::string& path);
+bool saveForms(const std::string& path, WidgetNode* first); // the same from `first` on
 
 // Appends the forms of a file. Returns the new value of nextFormNumber, or 0 when nothing was inserted. `first` is the
 // first new form, for the caller to make live.
 int insertForm(const std::string& folder, const std::string& name, WidgetNode** first = nullptr);
+
+// Reads a form file in place of the open project, as a project of its own: language, platform and snap grid are the
+// file's, nothing is asked. False after an error box. For the batch commands.
+bool loadFormAlone(const std::string& path);
 
 // Asks for the name of a file to write. A name without a point gets `extension`. With `askOverwrite` an existing file
 // is asked about, No asks again. False when cancelled.

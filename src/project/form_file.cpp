@@ -17,16 +17,18 @@ bool mayDiffer(const std::string& text) {
 }
 
 bool headerFits(const FileHeader& header) {
-    if (header.version < VERSION_30) {
-        reportUnknownHeader(header, "7.0");
-        return false;
-    }
     if (project.projectPlatform != 'w' && header.text.find("-w") != std::string::npos) {
         host.errorBox("Incompatable form type", "Cannot insert a Windows form into an X project");
         return false;
     }
     return header.language == project.projectLanguage ||
            mayDiffer("Code type does not match project|Callback code blocks may need converting");
+}
+
+bool knownVersion(const FileHeader& header) {
+    if (header.version >= VERSION_30) return true;
+    reportUnknownHeader(header, "7.0");
+    return false;
 }
 
 bool snapFits(FileReader& reader) {
@@ -45,11 +47,7 @@ bool appendForms(WidgetNode* first) {
         host.errorBox("Invalid Form Name", "Form of same name alredy exists in this project");
         return false;
     }
-    while (first) {
-        WidgetNode* next = first->next;
-        appendForm(first);
-        first = next;
-    }
+    adoptForms(first);
     return true;
 }
 
@@ -64,7 +62,7 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
         return 0;
     }
     const FileHeader header = readHeader(reader);
-    if (!headerFits(header) || !snapFits(reader)) {
+    if (!knownVersion(header) || !headerFits(header) || !snapFits(reader)) {
         closeReader(reader);
         return 0;
     }
@@ -86,10 +84,45 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
     return ++project.nextFormNumber;
 }
 
+bool loadFormAlone(const std::string& path) {
+    FileReader reader;
+    if (!openReader(reader, path)) {
+        host.errorBox("Error opening file", "Cannot open Form file :" + fileNameOf(path));
+        return false;
+    }
+    const FileHeader header = readHeader(reader);
+    if (!knownVersion(header)) {
+        closeReader(reader);
+        return false;
+    }
+    resetProject();
+    project.projectPlatform = header.platform;
+    project.projectLanguage = header.language;
+    project.doubleBuffering = 0;
+    project.fileVersion = header.version;
+    int second = 0;
+    readNumber(reader, project.snapGrid);
+    readNumber(reader, second);
+    RecordSource source{.reader = reader, .version = header.version};
+    WidgetNode* forms = readRecords(source);
+    closeReader(reader);
+    if (header.version < VERSION_71) convertOldCode(forms);
+    adoptForms(forms);
+    project.widgetCount = source.namedRecords;
+    if (reader.damaged) {
+        damagedFormFile = path;
+        reportIncomplete(path);
+    }
+    return true;
+}
+
 bool saveForm(const std::string& path) {
-    WidgetNode* form = activeForm(project.forms);
-    if (!form) form = project.forms;
     host.commitEditor();
+    WidgetNode* form = activeForm(project.forms);
+    return saveForms(path, form ? form : project.forms);
+}
+
+bool saveForms(const std::string& path, WidgetNode* form) {
     FileWriter writer;
     bool saved = openWriter(writer, path);
     if (saved) {

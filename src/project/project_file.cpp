@@ -192,15 +192,6 @@ void writeTail(FileWriter& writer) {
     writeString(writer, project.currentBlockName, BLOCK_NAME_BYTES);
 }
 
-// Hangs a chain that was read into the list of forms.
-void adoptForms(WidgetNode* first) {
-    while (first) {
-        WidgetNode* next = first->next;
-        appendForm(first);
-        first = next;
-    }
-}
-
 void convertCodeOfOldFile() {
     for (CodeBlock& block : project.codeBlocks) convertOldCode(block);
     convertOldCode(project.forms);

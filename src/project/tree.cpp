@@ -249,10 +249,18 @@ void clearSelected(WidgetNode* list) {
 void appendForm(WidgetNode* form) {
     form->parent = nullptr;
     form->next = nullptr;
-    WidgetNode* last = lastOf(lastForm, project.forms);
+    WidgetNode* last = project.forms ? lastOf(lastForm, project.forms) : nullptr;
     (last ? last->next : project.forms) = form;
     lastForm = form;
     setInProject(*form, true);
+}
+
+void adoptForms(WidgetNode* first) {
+    while (first) {
+        WidgetNode* next = first->next;
+        appendForm(first);
+        first = next;
+    }
 }
 
 void moveFormToHead(WidgetNode* form) {

@@ -45,6 +45,7 @@ void freeListEntries(ListEntryRec* first);
 
 // Every change of the tree goes through these, so that lookups by name, by handle and of the parent stay current.
 void appendForm(WidgetNode* form);
+void adoptForms(WidgetNode* first);                   // the same with a whole chain
 void moveFormToHead(WidgetNode* form);                // of project.forms
 void linkChild(WidgetNode& parent, WidgetNode* node); // behind the last child
 // Puts `node` right behind `previous` among the children of `parent`, or ahead of them all for null.
