@@ -15,6 +15,8 @@
 #include <string>
 #include <string_view>
 
+class QMouseEvent;
+
 namespace toolkit {
 
 enum class TextKind { Security = -1, Standard = 0, Rich = 1 };
@@ -145,7 +147,7 @@ private:
     void userMoved();
     void focusCame();
     void focusLeft();
-    bool mouseReleased(class QMouseEvent* event);
+    bool mouseReleased(QMouseEvent* event);
     QString linkAt(const QPoint& position) const;
     void limitLength(int position, int added);
     void mergeFormat(const QTextCharFormat& format);
