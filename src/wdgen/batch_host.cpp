@@ -11,9 +11,10 @@ bool functionality = true;
 bool failed = false;
 
 // A bar is a line break in the texts of boxes.
-void say(const std::string& title, std::string text) {
-    std::replace(text.begin(), text.end(), '|', '\n');
-    std::fprintf(stderr, "wdgen: %s: %s\n", title.c_str(), text.c_str());
+void say(const std::string& title, const std::string& text) {
+    std::string lines = text;
+    std::replace(lines.begin(), lines.end(), '|', '\n');
+    std::fprintf(stderr, "wdgen: %s: %s\n", title.c_str(), lines.c_str());
 }
 
 int answer(const std::string& title, const std::string& text, int, int buttons) {
