@@ -159,6 +159,15 @@ ConsoleStatus readConsoleStatus(const std::string& path) {
     return status;
 }
 
+// Whether a terminal that is gone has handed its command over to a server that has not begun with it yet.
+bool awaitsHandedOver(const ChildProcess& child) {
+    constexpr auto LONGEST = std::chrono::seconds(5);
+    if (child.statusFile.empty() || readConsoleStatus(child.statusFile).pid > 0) return false;
+    std::error_code failure;
+    auto made = std::filesystem::last_write_time(child.statusFile, failure);
+    return !failure && std::filesystem::file_time_type::clock::now() - made < LONGEST;
+}
+
 // A shell tells a death by signal as 128 and the signal's number.
 std::uint32_t codeOfShellStatus(int status) {
     if (status > 128) return SIGNAL_BASE + static_cast<std::uint32_t>(status - 128);
@@ -260,7 +269,9 @@ bool processExitCode(ChildProcess& child, std::uint32_t& code) {
             return true;
         }
     }
-    return askChild(static_cast<pid_t>(child.handle), code);
+    if (!askChild(static_cast<pid_t>(child.handle), code)) return false;
+    if (code == 0 && awaitsHandedOver(child)) code = STILL_RUNNING;
+    return true;
 }
 
 bool waitProcess(ChildProcess& child, int milliseconds, std::uint32_t& code) {
