@@ -67,8 +67,10 @@ pid_t spawn(const std::vector<std::string>& command, const std::map<std::string,
 std::string quoted(const std::string& text) {
     std::string out = "'";
     for (char letter : text) {
-        if (letter == '\'') out += "'\\''";
-        else out += letter;
+        if (letter == '\'')
+            out += "'\\''";
+        else
+            out += letter;
     }
     return out + "'";
 }
@@ -81,10 +83,14 @@ void run(const std::string& command) {
 std::string unescaped(const std::string& text) {
     std::string out;
     for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\\' || i + 1 == text.size()) out += text[i];
-        else if (const char mark = text[++i]; mark == 't') out += '\t';
-        else if (mark == 'n') out += '\n';
-        else out += mark;
+        if (text[i] != '\\' || i + 1 == text.size())
+            out += text[i];
+        else if (const char mark = text[++i]; mark == 't')
+            out += '\t';
+        else if (mark == 'n')
+            out += '\n';
+        else
+            out += mark;
     }
     return out;
 }
@@ -94,8 +100,15 @@ Thing parsed(const std::string& line) {
     std::stringstream stream(line);
     for (std::string field; std::getline(stream, field, '\t');) fields.push_back(field);
     fields.resize(9);
-    return {fields[0], std::atoi(fields[1].c_str()), std::atoi(fields[2].c_str()), std::atoi(fields[3].c_str()),
-            std::atoi(fields[4].c_str()), fields[5], unescaped(fields[6]), unescaped(fields[7]), unescaped(fields[8])};
+    return {fields[0],
+            std::atoi(fields[1].c_str()),
+            std::atoi(fields[2].c_str()),
+            std::atoi(fields[3].c_str()),
+            std::atoi(fields[4].c_str()),
+            fields[5],
+            unescaped(fields[6]),
+            unescaped(fields[7]),
+            unescaped(fields[8])};
 }
 
 std::string ask(const std::string& path) {
@@ -148,7 +161,8 @@ bool open(int width, int height) {
     close(number[0]);
     if (got <= 0) return false;
     one.display = ":" + std::to_string(std::atoi(digits));
-    one.manager = spawn({"openbox"}, {{"DISPLAY", one.display}, {"HOME", one.folder}}, one.folder, one.folder + "/openbox.log");
+    one.manager =
+        spawn({"openbox"}, {{"DISPLAY", one.display}, {"HOME", one.folder}}, one.folder, one.folder + "/openbox.log");
     return waitUntil([] {
         return std::system(("DISPLAY=" + one.display + " xdotool get_num_desktops >/dev/null 2>&1").c_str()) == 0;
     });
@@ -158,13 +172,10 @@ std::string scratchFolder() { return one.folder; }
 
 pid_t start(const std::vector<std::string>& command, const std::map<std::string, std::string>& environment,
             const std::string& folder, const std::string& output) {
-    std::map<std::string, std::string> whole = {{"DISPLAY", one.display},
-                                                {"HOME", one.folder},
-                                                {"XDG_CONFIG_HOME", one.folder + "/config"},
-                                                {"XDG_RUNTIME_DIR", one.folder},
-                                                {"QT_QPA_PLATFORM", "xcb"},
-                                                {"ORBA_PROBE_DIR", probeFolder()},
-                                                {"LD_PRELOAD", ORBA_PROBE_LIBRARY}};
+    std::map<std::string, std::string> whole = {
+        {"DISPLAY", one.display},          {"HOME", one.folder},       {"XDG_CONFIG_HOME", one.folder + "/config"},
+        {"XDG_RUNTIME_DIR", one.folder},   {"QT_QPA_PLATFORM", "xcb"}, {"ORBA_PROBE_DIR", probeFolder()},
+        {"LD_PRELOAD", ORBA_PROBE_LIBRARY}};
     for (const auto& [name, value] : environment) whole[name] = value;
     const pid_t program = spawn(command, whole, folder, output);
     if (program > 0) one.programs.push_back(program);

@@ -45,10 +45,10 @@ bool waitUntil(const std::function<bool()>& holds, double seconds = 10);
 Thing waitFor(pid_t program, const std::string& what, const Test& test, double seconds = 10);
 bool shows(pid_t program, const Test& test);
 
-Test withText(const std::string& text);                       // shown text equals; mnemonic marks are passed over
-Test withTip(const std::string& tip);                         // tooltip equals
-Test inWindow(const std::string& window, Test test);          // and its window's title contains
-Test ofKind(const std::string& kind, Test test = {});         // and its class equals
+Test withText(const std::string& text);               // shown text equals; mnemonic marks are passed over
+Test withTip(const std::string& tip);                 // tooltip equals
+Test inWindow(const std::string& window, Test test);  // and its window's title contains
+Test ofKind(const std::string& kind, Test test = {}); // and its class equals
 
 // Mouse and keys, as a user would use them. A click goes to the middle unless an offset in the thing is given.
 void click(const Thing& thing, int button = 1);

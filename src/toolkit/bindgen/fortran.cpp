@@ -2,9 +2,9 @@
 // menu-c.h:
 //     fortran_bindings MENU-C.H > menu_f90.f90
 //
-// Each routine becomes a module procedure with its fixed arguments, then one optional argument for each keyword. It packs
-// them into a list of 64-bit words and makes the one call that runs a routine by its number. Texts go in without their
-// trailing blanks and come back padded with blanks.
+// Each routine becomes a module procedure with its fixed arguments, then one optional argument for each keyword. It
+// packs them into a list of 64-bit words and makes the one call that runs a routine by its number. Texts go in without
+// their trailing blanks and come back padded with blanks.
 #include "toolkit/bindgen/signature.h"
 
 #include <algorithm>
@@ -90,8 +90,11 @@ std::vector<Record> recordsOf(const std::string& header) {
             for (std::string name; std::getline(names, name, ',');) {
                 name = trimmed(name);
                 const std::size_t bracket = name.find('[');
-                if (bracket == std::string::npos) record.members.push_back({name, type, ""});
-                else record.members.push_back({name.substr(0, bracket), type, name.substr(bracket + 1, name.size() - bracket - 2)});
+                if (bracket == std::string::npos)
+                    record.members.push_back({name, type, ""});
+                else
+                    record.members.push_back(
+                        {name.substr(0, bracket), type, name.substr(bracket + 1, name.size() - bracket - 2)});
             }
         }
         records.push_back(record);
@@ -167,7 +170,8 @@ std::string declaration(const FunctionRow& row, const Parameter& parameter) {
            (isArray(type) ? "(*)" : "");
 }
 
-// Keywords of a row as Fortran arguments: ANY stands for all that have a property; owLength goes with each text by itself.
+// Keywords of a row as Fortran arguments: ANY stands for all that have a property; owLength goes with each text by
+// itself.
 std::vector<const KeywordRow*> keywordsOf(const FunctionRow& row) {
     std::vector<const KeywordRow*> out;
     const auto add = [&](const KeywordRow* keyword) {
@@ -194,13 +198,14 @@ bool goesIn(const FunctionRow& row, int keyword) {
 
 std::string declaration(const FunctionRow& row, const KeywordRow& keyword) {
     const bool in = goesIn(row, keyword.number);
-    const std::string intent = in                                 ? "intent(in), optional"
+    const std::string intent = in                                ? "intent(in), optional"
                                : keyword.kind == ValueKind::REAL ? "intent(inout), optional"
                                                                  : "intent(inout), optional, target";
     switch (keyword.kind) {
     case ValueKind::INT: return "integer, " + intent + " :: " + keyword.name;
     case ValueKind::REAL: return "real, " + intent + " :: " + keyword.name;
-    case ValueKind::TEXT: return std::string("character(*), ") + (in ? "intent(in)" : "intent(inout)") + ", optional :: " + keyword.name;
+    case ValueKind::TEXT:
+        return std::string("character(*), ") + (in ? "intent(in)" : "intent(inout)") + ", optional :: " + keyword.name;
     case ValueKind::INTS: return std::string("integer, intent(in), optional, target :: ") + keyword.name + "(*)";
     }
     return {};
@@ -217,8 +222,8 @@ void writeFixedWords(const FunctionRow& row, const std::vector<Parameter>& param
         const std::string text = localText(parameter.name);
         if (parameter.type == "int") {
             if (const char* fallback = defaultOf(row, parameter.name)) {
-                std::printf("      words(n + 1) = %s\n      if (present(%s)) words(n + 1) = %s\n      n = n + 1\n", fallback,
-                            name, name);
+                std::printf("      words(n + 1) = %s\n      if (present(%s)) words(n + 1) = %s\n      n = n + 1\n",
+                            fallback, name, name);
             } else {
                 std::printf("      call add(words, n, %s)\n", name);
             }
@@ -253,13 +258,17 @@ void writeKeywordWords(const FunctionRow& row, const KeywordRow& keyword) {
         std::printf("         call add(words, n, %d)\n         call add(words, n, len(%s) + 1)\n", owLength, name);
     }
     std::printf("         call add(words, n, %d)\n", keyword.number);
-    if (keyword.kind == ValueKind::TEXT) std::printf("         call add(words, n, c_loc(%s))\n", text.c_str());
-    else if (keyword.kind == ValueKind::INTS) std::printf("         call add(words, n, c_loc(%s(1)))\n", name);
-    else if (goesIn(row, keyword.number)) std::printf("         call add(words, n, %s)\n", name);
+    if (keyword.kind == ValueKind::TEXT)
+        std::printf("         call add(words, n, c_loc(%s))\n", text.c_str());
+    else if (keyword.kind == ValueKind::INTS)
+        std::printf("         call add(words, n, c_loc(%s(1)))\n", name);
+    else if (goesIn(row, keyword.number))
+        std::printf("         call add(words, n, %s)\n", name);
     else if (keyword.kind == ValueKind::REAL)
         std::printf("         %s = 0\n         call add(words, n, c_loc(%s))\n", localReal(name).c_str(),
                     localReal(name).c_str());
-    else std::printf("         call add(words, n, c_loc(%s))\n", name);
+    else
+        std::printf("         call add(words, n, c_loc(%s))\n", name);
     std::printf("      end if\n");
 }
 
@@ -275,7 +284,8 @@ void writeRoutine(int number) {
     std::string arguments;
     for (const Parameter& parameter : parameters)
         if (parameter.type != "length") arguments += (arguments.empty() ? "" : ", ") + parameter.name;
-    for (const KeywordRow* keyword : keywords) arguments += (arguments.empty() ? "" : ", ") + std::string(keyword->name);
+    for (const KeywordRow* keyword : keywords)
+        arguments += (arguments.empty() ? "" : ", ") + std::string(keyword->name);
     std::printf("   %s %s(%s)%s\n", function ? "function" : "subroutine", name, arguments.c_str(),
                 function ? " result(result_)" : "");
     for (const Parameter& parameter : parameters)
@@ -285,7 +295,8 @@ void writeRoutine(int number) {
         if (isText(parameter.type) || parameter.type == "buffer")
             std::printf("      character(len=:), allocatable, target :: %s\n", localText(parameter.name).c_str());
     for (const Parameter& parameter : parameters)
-        if (parameter.type == "real*") std::printf("      real(c_float), target :: %s\n", localReal(parameter.name).c_str());
+        if (parameter.type == "real*")
+            std::printf("      real(c_float), target :: %s\n", localReal(parameter.name).c_str());
     for (const KeywordRow* keyword : keywords)
         if (keyword->kind == ValueKind::REAL && !goesIn(row, keyword->number))
             std::printf("      real(c_float), target :: %s\n", localReal(keyword->name).c_str());
@@ -305,7 +316,8 @@ void writeRoutine(int number) {
             std::printf("      %s = %s\n", parameter.name.c_str(), localReal(parameter.name).c_str());
     for (const KeywordRow* keyword : keywords)
         if (keyword->kind == ValueKind::REAL && !goesIn(row, keyword->number))
-            std::printf("      if (present(%s)) %s = %s\n", keyword->name, keyword->name, localReal(keyword->name).c_str());
+            std::printf("      if (present(%s)) %s = %s\n", keyword->name, keyword->name,
+                        localReal(keyword->name).c_str());
     for (const KeywordRow* keyword : keywords)
         if (keyword->kind == ValueKind::TEXT && !goesIn(row, keyword->number))
             std::printf("      if (present(%s)) call copy(%s, %s)\n", keyword->name, localText(keyword->name).c_str(),
@@ -428,21 +440,23 @@ const char* const helpers = R"(   subroutine add_integer(words, n, value)
 )";
 
 void writeModule(const std::vector<Record>& records) {
-    std::printf("module menu_f90\n   use, intrinsic :: iso_c_binding, only: c_int, c_int64_t, c_intptr_t, c_float, c_double, c_char, c_ptr, c_loc, "
+    std::printf("module menu_f90\n   use, intrinsic :: iso_c_binding, only: c_int, c_int64_t, c_intptr_t, c_float, "
+                "c_double, c_char, c_ptr, c_loc, "
                 "c_null_char\n   use menu_constants\n   implicit none\n\n"
                 "   integer, parameter :: OIDENT = %d ! stride of callback identifiers\n\n",
                 OIDENT);
     writeRecords(records);
-    std::printf("\n   interface\n      function owCallWords(number, words) bind(c, name='owCallWords') result(outcome)\n"
-                "         import :: c_int, c_int64_t\n         integer(c_int), value :: number\n"
-                "         integer(c_int64_t), intent(in) :: words(*)\n         integer(c_int64_t) :: outcome\n"
-                "      end function\n   end interface\n\n"
-                "   interface add\n      module procedure add_integer, add_real, add_address\n   end interface\n"
-                "\n"
-                "   private :: add, add_integer, add_real, add_address, copy, owCallWords, "
-                "property_keyword\n"
-                "   private :: c_int, c_int64_t, c_intptr_t, c_float, c_double, c_char, c_ptr, c_loc, c_null_char\n\n"
-                "contains\n\n");
+    std::printf(
+        "\n   interface\n      function owCallWords(number, words) bind(c, name='owCallWords') result(outcome)\n"
+        "         import :: c_int, c_int64_t\n         integer(c_int), value :: number\n"
+        "         integer(c_int64_t), intent(in) :: words(*)\n         integer(c_int64_t) :: outcome\n"
+        "      end function\n   end interface\n\n"
+        "   interface add\n      module procedure add_integer, add_real, add_address\n   end interface\n"
+        "\n"
+        "   private :: add, add_integer, add_real, add_address, copy, owCallWords, "
+        "property_keyword\n"
+        "   private :: c_int, c_int64_t, c_intptr_t, c_float, c_double, c_char, c_ptr, c_loc, c_null_char\n\n"
+        "contains\n\n");
     for (int number = 0; number < static_cast<int>(Fn::count); ++number) writeRoutine(number);
     writeProperties();
     std::printf("%s\nend module menu_f90\n", helpers);

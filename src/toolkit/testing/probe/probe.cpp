@@ -1,11 +1,12 @@
 // A window on a running program for end-to-end tests: loaded ahead of the program (LD_PRELOAD), it answers on a local
-// socket what the program shows and where, so that a test can aim a real mouse at it. It changes nothing in the program.
+// socket what the program shows and where, so that a test can aim a real mouse at it. It changes nothing in the
+// program.
 //
-// The socket is $ORBA_PROBE_DIR/<process id>. Each line sent to it is answered by one line for each thing on the screen,
-// fields parted by tabs, and an empty line at the end:
+// The socket is $ORBA_PROBE_DIR/<process id>. Each line sent to it is answered by one line for each thing on the
+// screen, fields parted by tabs, and an empty line at the end:
 //   kind  x  y  width  height  state  text  tooltip  window
-// x and y are screen pixels of the top left corner; state is a set of letters: e enabled, c checked, f focus, a active window.
-// Tabs, line ends and backslashes in texts are written \t, \n and \\.
+// x and y are screen pixels of the top left corner; state is a set of letters: e enabled, c checked, f focus, a active
+// window. Tabs, line ends and backslashes in texts are written \t, \n and \\.
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -47,10 +48,10 @@ struct Thing {
 };
 
 void writeThing(QByteArray& out, const Thing& thing) {
-    out += thing.kind.toUtf8() + '\t' + QByteArray::number(thing.place.x()) + '\t' + QByteArray::number(thing.place.y()) +
-           '\t' + QByteArray::number(thing.place.width()) + '\t' + QByteArray::number(thing.place.height()) + '\t' +
-           thing.state.toUtf8() + '\t' + escaped(thing.text) + '\t' + escaped(thing.tooltip) + '\t' +
-           escaped(thing.window) + '\n';
+    out += thing.kind.toUtf8() + '\t' + QByteArray::number(thing.place.x()) + '\t' +
+           QByteArray::number(thing.place.y()) + '\t' + QByteArray::number(thing.place.width()) + '\t' +
+           QByteArray::number(thing.place.height()) + '\t' + thing.state.toUtf8() + '\t' + escaped(thing.text) + '\t' +
+           escaped(thing.tooltip) + '\t' + escaped(thing.window) + '\n';
 }
 
 QString shownText(const QWidget* widget) {
@@ -93,8 +94,12 @@ void writeActions(QByteArray& out, const QWidget* bar, const QList<QAction*>& ac
         QString state;
         if (action->isEnabled()) state += 'e';
         if (action->isChecked()) state += 'c';
-        writeThing(out, {"Action", {bar->mapToGlobal(place.topLeft()), place.size()}, state, action->text(),
-                         action->toolTip(), windowOf(bar)});
+        writeThing(out, {"Action",
+                         {bar->mapToGlobal(place.topLeft()), place.size()},
+                         state,
+                         action->text(),
+                         action->toolTip(),
+                         windowOf(bar)});
     }
 }
 
@@ -108,8 +113,12 @@ void writeRows(QByteArray& out, const QAbstractItemView* view, const QModelIndex
             QString state = index.flags() & Qt::ItemIsEnabled ? "e" : "";
             if (view->selectionModel() && view->selectionModel()->isSelected(index)) state += 'c';
             if (!place.isEmpty())
-                writeThing(out, {"Cell", {view->viewport()->mapToGlobal(place.topLeft()), place.size()}, state,
-                                 index.data().toString(), index.data(Qt::ToolTipRole).toString(), windowOf(view)});
+                writeThing(out, {"Cell",
+                                 {view->viewport()->mapToGlobal(place.topLeft()), place.size()},
+                                 state,
+                                 index.data().toString(),
+                                 index.data(Qt::ToolTipRole).toString(),
+                                 windowOf(view)});
         }
         writeRows(out, view, model->index(row, 0, parent));
     }
@@ -118,8 +127,12 @@ void writeRows(QByteArray& out, const QAbstractItemView* view, const QModelIndex
 void writeTabs(QByteArray& out, const QTabBar* bar) {
     for (int tab = 0; tab < bar->count(); ++tab) {
         const QRect place = bar->tabRect(tab);
-        writeThing(out, {"Tab", {bar->mapToGlobal(place.topLeft()), place.size()},
-                         bar->currentIndex() == tab ? "ec" : "e", bar->tabText(tab), bar->tabToolTip(tab), windowOf(bar)});
+        writeThing(out, {"Tab",
+                         {bar->mapToGlobal(place.topLeft()), place.size()},
+                         bar->currentIndex() == tab ? "ec" : "e",
+                         bar->tabText(tab),
+                         bar->tabToolTip(tab),
+                         windowOf(bar)});
     }
 }
 
@@ -129,8 +142,12 @@ QByteArray screen() {
         if (!widget->isVisible()) continue;
         const QRegion seen = widget->visibleRegion();
         if (seen.isEmpty() && !widget->isWindow()) continue;
-        writeThing(out, {widget->metaObject()->className(), {widget->mapToGlobal(QPoint(0, 0)), widget->size()},
-                         stateOf(widget), shownText(widget), widget->toolTip(), windowOf(widget)});
+        writeThing(out, {widget->metaObject()->className(),
+                         {widget->mapToGlobal(QPoint(0, 0)), widget->size()},
+                         stateOf(widget),
+                         shownText(widget),
+                         widget->toolTip(),
+                         windowOf(widget)});
         if (auto* menu = qobject_cast<QMenu*>(widget))
             writeActions(out, menu, menu->actions(), [menu](QAction* action) { return menu->actionGeometry(action); });
         if (auto* bar = qobject_cast<QMenuBar*>(widget))

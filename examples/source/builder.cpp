@@ -1,0 +1,137 @@
+#include "builder.h"
+
+#include "project/defaults.h"
+#include "project/tree.h"
+
+namespace example {
+
+WidgetNode& mainPanelOf(WidgetNode& form) { return *form.child; }
+
+WidgetNode& begin(int language, const std::string& name, const std::string& title, int width, int height) {
+    makeDefaults();
+    deleteList(project.forms);
+    resetProject();
+    project.projectLanguage = language;
+    project.projectPlatform = 'w';
+    WidgetNode& form = *newForm();
+    renameNode(*form.child, name + "_MainPanel");
+    renameNode(form, name);
+    form.text = title;
+    form.xpos = 160;
+    form.ypos = 120;
+    form.width = width;
+    form.height = height;
+    form.child->width = width;
+    form.child->height = height;
+    form.selected = 1;
+    project.currentWidget = &form;
+    return form;
+}
+
+WidgetNode& addForm(const std::string& name, const std::string& title, int formType, int width, int height) {
+    WidgetNode& form = *newForm();
+    renameNode(*form.child, name + "_MainPanel");
+    renameNode(form, name);
+    form.text = title;
+    form.formType = formType;
+    form.xpos = 260;
+    form.ypos = 220;
+    form.width = width;
+    form.height = height;
+    form.child->width = width;
+    form.child->height = height;
+    return form;
+}
+
+WidgetNode& add(WidgetNode& parent, WidgetType type, const std::string& name, int x, int y, int width, int height,
+                const std::string& text) {
+    WidgetNode& home = parent.type == TYPE_FORM && type != TYPE_TOOL_BAR ? mainPanelOf(parent) : parent;
+    WidgetNode* node = createFromDefaults(type, x, y);
+    node->xpos = x;
+    node->ypos = y;
+    node->width = width;
+    node->height = height;
+    node->text = text;
+    node->name.clear();
+    linkChild(home, node);
+    renameNode(*node, name);
+    project.widgetCount++;
+    return *node;
+}
+
+WidgetNode& addLabel(WidgetNode& parent, const std::string& name, int x, int y, int width, const std::string& text) {
+    return add(parent, TYPE_TEXT_LABEL, name, x, y, width, 22, text);
+}
+
+WidgetNode& addRadioBox(WidgetNode& parent, const std::string& name, int x, int y, int width, int height,
+                        const std::string& title, std::initializer_list<const char*> choices) {
+    WidgetNode& box = add(parent, TYPE_PANEL, name, x, y, width, height, title);
+    box.type = TYPE_RADIO_BOX;
+    box.borderType = 5;
+    box.titleFlag = 1;
+    int row = 0;
+    for (const char* choice : choices) {
+        ++row;
+        WidgetNode& button =
+            add(box, TYPE_TOGGLE, name + std::to_string(row), 14, height - 26 - 26 * row, width - 28, 22, choice);
+        button.subType = 6;
+        button.initialStatus = row == 1;
+    }
+    return box;
+}
+
+void addListEntries(WidgetNode& list, std::initializer_list<const char*> texts) {
+    ListEntryRec** end = &list.listEntries;
+    while (*end) end = &(*end)->next;
+    for (const char* text : texts) {
+        *end = new ListEntryRec{text, "", nullptr};
+        end = &(*end)->next;
+    }
+}
+
+void addStatusBar(WidgetNode& form, const std::string& name, std::initializer_list<int> edges,
+                  std::initializer_list<const char*> texts) {
+    form.statusBar = std::make_unique<StatusBarRec>();
+    form.statusBar->name = name;
+    form.statusBar->panes = static_cast<int>(edges.size());
+    int pane = 0;
+    for (int edge : edges) form.statusBar->sizes[pane++] = edge;
+    pane = 0;
+    for (const char* text : texts) form.statusBar->texts[pane++] = text;
+}
+
+void addTreeEntries(WidgetNode& tree, std::initializer_list<Entry> entries) {
+    MenuEntryRec** end = &tree.entries;
+    const auto append = [&](int kind, int level, const std::string& name, const std::string& label) {
+        auto* entry = new MenuEntryRec;
+        entry->kind = kind;
+        entry->level = level;
+        entry->name = name;
+        entry->label = label;
+        *end = entry;
+        end = &entry->next;
+        return entry;
+    };
+    append(MENU_BAR, 0, tree.name + "_Top", "");
+    int level = 0;
+    int branches = 0;
+    for (const Entry& row : entries) {
+        if (row.level > level)
+            append(MENU_PULL_DOWN, row.level, tree.name + "_Branch" + std::to_string(++branches), "");
+        level = row.level;
+        append(MENU_ENTRY, row.level, row.name, row.label)->slots[ENTRY_GENERAL] = row.code;
+    }
+}
+
+std::string code(const char* text) {
+    std::string out;
+    if (*text == '\n') ++text;
+    for (; *text; ++text) {
+        if (*text == '\n' && text[1] == 0) break;
+        if (*text == '\n') out += '\r';
+        out += *text;
+    }
+    return out;
+}
+
+} // namespace example

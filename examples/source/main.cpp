@@ -1,0 +1,24 @@
+// Writes the example projects:
+//     make_examples FOLDER
+// puts FOLDER/heat/heat.wdp and so on there.
+#include "examples.h"
+
+#include "project/files.h"
+
+#include <cstdio>
+#include <filesystem>
+
+int main(int count, char** words) {
+    if (count != 2) {
+        std::fprintf(stderr, "usage: make_examples FOLDER\n");
+        return 1;
+    }
+    for (const example::Row& row : example::examples) {
+        const std::filesystem::path folder = std::filesystem::path(words[1]) / row.name;
+        std::filesystem::create_directories(folder);
+        row.make();
+        if (!saveProject(folder.string(), std::string(row.name) + ".wdp", true)) return 1;
+        std::printf("%s\n", (folder / row.name).string().c_str());
+    }
+    return 0;
+}
