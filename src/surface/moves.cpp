@@ -153,7 +153,7 @@ void readGeometry(WidgetNode* node) {
     node->width = now.width;
     node->height = node->type == TYPE_COMBO_BOX ? before.height : now.height;
     const bool higher = node->height != before.height;
-    if (higher) followHeight(*node, before.ypos);
+    if (higher) followHeight(*node, before.y);
     if ((higher || node->width != before.width) && isRebuiltAfterResize(*node, higher)) {
         rebuildWidget(*node);
         hooks.showProperties(node);

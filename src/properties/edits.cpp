@@ -1,0 +1,65 @@
+// Storing a value and what follows from it, for every row that needs no more.
+#include "properties/edits.h"
+
+#include "menu-c.h"
+#include "project/tree.h"
+#include "surface/live.h"
+#include "surface/state.h"
+
+namespace {
+
+void store(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    if (row.text) target.*row.text = input.text;
+    if (row.real) target.*row.real = static_cast<float>(input.number);
+    if (row.whole)
+        target.*row.whole = row.cell == Cell::Number ? static_cast<int>(input.number) : input.value;
+}
+
+void follow(WidgetNode& target, After after) {
+    const bool text = target.type == TYPE_TEXT_ENTRY || target.type == TYPE_TEXT_LABEL;
+    switch (after) {
+    case After::Nothing: break;
+    case After::Redraw: redrawLive(target); break;
+    case After::Rebuild: rebuildLive(target); break;
+    case After::Font: text ? rebuildLive(target) : redrawLive(target); break;
+    case After::RebuildForm: rebuildFormOf(target); break;
+    }
+}
+
+// A separator, and an icon on a tool bar, come to life with their bar.
+After afterOf(const WidgetNode& target, const PropertyRow& row) {
+    const bool onBar = target.parent && target.parent->type == TYPE_TOOL_BAR;
+    return row.after == After::Rebuild && onBar ? After::RebuildForm : row.after;
+}
+
+} // namespace
+
+void storeAndFollow(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    store(target, row, input);
+    if (row.keyword && row.whole) setLive(target, row.keyword, target.*row.whole);
+    if (row.id == ROW_FORM_TITLE_BAR || row.id == ROW_BAR_TITLE_BAR) activateWidget(&target);
+    follow(target, afterOf(target, row));
+    markEdited();
+}
+
+void setLive(const WidgetNode& node, int keyword, int value) {
+    if (node.handle > 0) owSetWidgetProp(node.handle, keyword, value, 0);
+}
+
+void rebuildLive(WidgetNode& node) {
+    if (!design.defaultsMode) rebuildWidget(node);
+}
+
+void redrawLive(WidgetNode& node) {
+    if (!design.defaultsMode) redrawWidget(node, false);
+}
+
+void rebuildFormOf(WidgetNode& node) {
+    if (design.defaultsMode) return;
+    if (WidgetNode* form = formOf(&node, project.forms)) rebuildWidget(*form);
+    activateWidget(&node);
+}
+
+void markEdited() {
+    if (!design.defaultsMode) markChanged();
+}

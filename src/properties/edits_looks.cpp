@@ -1,0 +1,133 @@
+// Colours, fonts, icons and pictures.
+#include "properties/edits.h"
+
+#include "menu-c.h"
+#include "project/host.h"
+#include "project/tree.h"
+#include "surface/live.h"
+#include "surface/state.h"
+
+#include <cstdlib>
+#include <fstream>
+
+namespace {
+
+constexpr int IMAGE_FILE = 3; // `format` of an icon that is a file of its own
+constexpr char IMAGE_EXTENSION[] = ".bmp";
+
+// The record that holds the picture and colour behind a form: its main panel, but for the default record.
+WidgetNode& behind(WidgetNode& widget) {
+    return widget.type == TYPE_FORM && !design.defaultsMode && widget.child ? *widget.child : widget;
+}
+
+void removeImage(WidgetNode& painted) {
+    painted.icon.clear();
+    painted.backgroundImage.clear();
+    painted.format = 0;
+}
+
+enum class Image { Fine, Missing, Other };
+
+Image checkBitmap(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return Image::Missing;
+    char head[2] = {};
+    file.read(head, sizeof head);
+    return head[0] == 'B' && head[1] == 'M' ? Image::Fine : Image::Other;
+}
+
+bool refusesImage(const std::string& path) {
+    switch (checkBitmap(path)) {
+    case Image::Fine: return false;
+    case Image::Missing: host.errorBox("File not found", "The requested file could not be found"); return true;
+    case Image::Other: host.errorBox("File format not valid", "File is not a BMP format bitmap"); return true;
+    }
+    return true;
+}
+
+const std::string& iconOf(const MenuEntryRec& entry, int position) {
+    return position == 1 ? entry.icon1 : position == 2 ? entry.icon2 : entry.icon3;
+}
+
+// Position of a tree view's icon row among the icons of its entries.
+int iconPosition(RowId row) { return row == ROW_ICON ? 1 : row == ROW_CLOSE_ICON ? 2 : 3; }
+
+void storeIcon(WidgetNode& target, const PropertyRow& row, const std::string& name) {
+    target.*row.text = name;
+    if (row.id != ROW_ICON) return;
+    target.backgroundImage = name.empty() ? "" : resourceName(name);
+    if (name.empty()) target.format = -1;
+    else if (name.find('.') != std::string::npos) target.format = IMAGE_FILE;
+}
+
+} // namespace
+
+bool mayReplaceEntryIcons(const WidgetNode& treeView, int position) {
+    for (const MenuEntryRec* entry = treeView.entries; entry; entry = entry->next) {
+        if (entry->kind != MENU_ENTRY || iconOf(*entry, position).empty()) continue;
+        return host.messageBox("Overwriting existing icons",
+                               "The Treeview already has entries containing icons|This will replace all the icons with "
+                               "the icon chosen",
+                               BOX_WARNING, BOX_OK_CANCEL) == ANSWER_OK;
+    }
+    return true;
+}
+
+void editColour(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    WidgetNode& painted = row.id == ROW_FORM_COLOUR ? behind(target) : target;
+    painted.*row.whole = input.value;
+    const bool framesImage = row.id == ROW_FORM_COLOUR || row.id == ROW_FILL_COLOUR;
+    const bool hadImage = framesImage && !painted.icon.empty();
+    if (hadImage) removeImage(painted);
+    if (row.id == ROW_FORM_COLOUR && design.defaultsMode) target.backgroundImage.clear();
+    setLive(painted, row.keyword, input.value);
+    const bool text = target.type == TYPE_TEXT_ENTRY || target.type == TYPE_TEXT_LABEL;
+    const bool lines = text && row.id == ROW_TEXT_COLOUR && !isSingleLine(target);
+    if (hadImage || lines) rebuildLive(target);
+    else redrawLive(target);
+    markEdited();
+}
+
+void editFontFace(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    target.fontFace = input.text.substr(0, NAME_LIMIT);
+    if (target.handle > 0) owSetFontAttribs(target.handle, owFontFace, target.fontFace.c_str(), 0);
+    storeAndFollow(target, row, {.text = target.fontFace});
+}
+
+void editPointSize(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    const int points = std::atoi(input.text.c_str());
+    if (points < 1) return;
+    storeAndFollow(target, row, {.value = points});
+}
+
+void editIcon(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    if (target.type == TYPE_TREE_VIEW && !mayReplaceEntryIcons(target, iconPosition(row.id))) return;
+    storeIcon(target, row, input.text);
+    if (target.onToolbar) rebuildFormOf(target);
+    else rebuildLive(target);
+    markEdited();
+}
+
+void editBackgroundImage(WidgetNode& target, const PropertyRow&, const CellInput& input) {
+    WidgetNode& painted = behind(target);
+    const bool sample = target.type == TYPE_FORM && design.defaultsMode;
+    std::string path = input.text;
+    if (path.empty()) {
+        if (sample) target.backgroundImage.clear();
+        else removeImage(painted);
+        if (!sample && target.type == TYPE_FORM) painted.colour3 = 0;
+    } else {
+        if (path.find('.') == std::string::npos) path += IMAGE_EXTENSION;
+        if (refusesImage(path)) return;
+        if (sample) {
+            target.backgroundImage = path;
+        } else {
+            painted.icon = path;
+            painted.backgroundImage = resourceName(path);
+            painted.format = 1;
+            painted.colour3 = 0;
+        }
+    }
+    rebuildLive(target);
+    markEdited();
+}

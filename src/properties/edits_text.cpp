@@ -1,0 +1,153 @@
+#include "properties/edits.h"
+
+#include "menu-c.h"
+#include "project/host.h"
+#include "project/placement.h"
+#include "project/tree.h"
+#include "surface/hooks.h"
+#include "surface/live.h"
+#include "surface/selection.h"
+#include "surface/state.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+constexpr size_t RICH_RESERVE = 24; // characters that rich text needs beyond what shows
+constexpr size_t CELL_LIMIT = 256;  // a longer text can't be edited in a cell
+
+bool isText(const WidgetNode& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL; }
+
+// `name` with `to` in the place of `from`, where it begins with `from` and an underscore; else as it stands.
+std::string renamed(const std::string& name, const std::string& from, const std::string& to) {
+    return name.starts_with(from + "_") ? to + name.substr(from.size()) : name;
+}
+
+void renameRecord(WidgetNode& node, const std::string& name) {
+    const std::string old = node.name;
+    renameNode(node, name);
+    hooks.nameChanged(old, name);
+    if (node.hierarchyItem) owSetTreeViewLabel(node.hierarchyItem, name.c_str());
+}
+
+// Names that begin with the form's follow it, those of menu and tree entries too.
+void renameFamily(const std::string& from, const std::string& to) {
+    for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
+        const std::string name = renamed(node->name, from, to);
+        if (name != node->name) renameRecord(*node, name);
+        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next)
+            entry->name = renamed(entry->name, from, to);
+    }
+}
+
+void setLiveLabel(const WidgetNode& node) {
+    if (node.handle <= 0) return;
+    OWIDGET info = {};
+    setGridMode(design.defaultsMode ? 0 : project.gridMode);
+    owEnqWidgetInfo(node.handle, &info);
+    info.text[node.text.copy(info.text, sizeof info.text - 1)] = 0;
+    owSetWidgetInfo(node.handle, &info);
+    setGridMode(0);
+}
+
+std::string cutToField(const WidgetNode& node, std::string text) {
+    const size_t limit = std::abs(node.fieldWidth);
+    if (text.size() > limit) text.resize(node.subType == ORICHEDIT ? std::max(limit, RICH_RESERVE) - RICH_RESERVE : limit);
+    return text;
+}
+
+bool acceleratorTaken(const WidgetNode& target, int key) {
+    for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
+        if (node != &target && node->accel == key) return true;
+    return false;
+}
+
+} // namespace
+
+void editName(WidgetNode& target, const PropertyRow&, const CellInput& input) {
+    if (input.text == target.name) return;
+    if (!validName(input.text, true)) {
+        host.infoBox("Invalid Name", input.text + " is an empty, duplicate or invalid Fortran/C variable name");
+        return;
+    }
+    hooks.commitEditor();
+    const std::string old = target.name;
+    renameRecord(target, input.text);
+    if (target.type == TYPE_FORM) renameFamily(old, input.text);
+    hooks.renameInCode(old, input.text);
+    markEdited();
+    selectWidget(&target);
+}
+
+void editText(WidgetNode& target, const PropertyRow&, const CellInput& input) {
+    if (isText(target)) {
+        if (!isSingleLine(target) && target.text.size() >= CELL_LIMIT) {
+            host.infoBox("Edit text property", "Use ... button to edit long strings");
+            return;
+        }
+        target.text = cutToField(target, input.text);
+        owSetTextSetting(target.handle, target.text.c_str(), owEntryType, target.subType == ORICHEDIT ? 1 : 0, 0);
+    } else {
+        target.text = input.text;
+        if (target.type == TYPE_PANEL || target.type == TYPE_RADIO_BOX) target.titleFlag = input.text.empty() ? 0 : 1;
+        if (target.onToolbar) rebuildFormOf(target);
+        else if (target.type == TYPE_ICON) rebuildLive(target);
+        else setLiveLabel(target);
+    }
+    redrawLive(target);
+    markEdited();
+}
+
+void editBarTitle(WidgetNode& target, const PropertyRow&, const CellInput& input) {
+    target.text = input.text;
+    rebuildFormOf(target);
+    markEdited();
+}
+
+void editBubbleHelp(WidgetNode& target, const PropertyRow&, const CellInput& input) {
+    target.bubbleHelp = input.text;
+    if (target.handle > 0)
+        owSetWidgetHelp(target.handle, input.text.c_str(), owHelpJustify, target.helpJustify, 0);
+    redrawLive(target);
+    markEdited();
+}
+
+void editAccelerator(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    const int key = input.text.empty() ? 0 : static_cast<unsigned char>(input.text[0]);
+    const bool shared = project.projectPlatform == 'w';
+    if (!shared && key > ' ' && acceleratorTaken(target, key)) {
+        host.infoBox("Duplicate Accelerator Key", "Accelerator key already in use by another widget");
+        return;
+    }
+    storeAndFollow(target, row, {.value = key});
+}
+
+void editAlign(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    storeAndFollow(target, row, input);
+    if (isText(target) && !isSingleLine(target)) rebuildLive(target);
+}
+
+void editArrayLabels(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
+    target.*row.text = storedArrayLabels(input.text);
+    if (!design.defaultsMode) storeArrayGeometry(target);
+    rebuildLive(target);
+    markEdited();
+}
+
+void editActiveOnInit(WidgetNode& target, const PropertyRow&, const CellInput& input) {
+    WidgetNode* other = findActiveOnInit(project.forms);
+    if (input.value && other && other != &target) {
+        const int answer = host.messageBox("Active Widget already set",
+                                           "A Widget is already set to be intially active |If you set this Widget to "
+                                           "Active it'll reset the other|Do you wish to continue?",
+                                           BOX_QUESTION, BOX_YES_NO);
+        if (answer != ANSWER_YES) {
+            target.activeOnInit = 0;
+            return markEdited();
+        }
+        other->activeOnInit = 0;
+    }
+    target.activeOnInit = input.value;
+    markEdited();
+}
