@@ -11,8 +11,7 @@ namespace {
 void store(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     if (row.text) target.*row.text = input.text;
     if (row.real) target.*row.real = static_cast<float>(input.number);
-    if (row.whole)
-        target.*row.whole = row.cell == Cell::Number ? static_cast<int>(input.number) : input.value;
+    if (row.whole) target.*row.whole = row.cell == Cell::Number ? static_cast<int>(input.number) : input.value;
 }
 
 void follow(WidgetNode& target, After after) {

@@ -26,8 +26,10 @@ void setLiveGeometry(const WidgetNode& node, int keyword, int value) {
 
 void moveBar(const WidgetNode& bar) {
     if (bar.handle <= 0) return;
-    if (bar.type == TYPE_TOOL_BAR) owSetToolbarPos(bar.handle, bar.xpos, bar.ypos, bar.width, bar.initialPosition);
-    else owSetPanePos(bar.handle, bar.xpos, bar.ypos, bar.width, bar.height, bar.initialPosition);
+    if (bar.type == TYPE_TOOL_BAR)
+        owSetToolbarPos(bar.handle, bar.xpos, bar.ypos, bar.width, bar.initialPosition);
+    else
+        owSetPanePos(bar.handle, bar.xpos, bar.ypos, bar.width, bar.height, bar.initialPosition);
 }
 
 // A size of nothing can't be seen or dragged; a panel may have it all the same.
@@ -37,7 +39,7 @@ int visibleSize(const WidgetNode& node, int size) {
     return project.gridMode == 1 ? SMALLEST_CELLS : SMALLEST_PIXELS;
 }
 
-void resizeMainPanel(WidgetNode& form, int WidgetNode::* side) {
+void resizeMainPanel(WidgetNode& form, int WidgetNode::*side) {
     if (form.type == TYPE_FORM && form.child) form.child->*side = form.*side;
 }
 
@@ -70,16 +72,20 @@ bool mayExpand(const WidgetNode& node) {
 
 void editPosition(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     target.*row.whole = static_cast<int>(input.number);
-    if (isBarOrPane(target)) moveBar(target);
-    else setLiveGeometry(target, row.keyword, target.*row.whole);
+    if (isBarOrPane(target))
+        moveBar(target);
+    else
+        setLiveGeometry(target, row.keyword, target.*row.whole);
     redrawLive(target);
     markEdited();
 }
 
 void editWidth(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     target.width = visibleSize(target, static_cast<int>(input.number));
-    if (target.type == TYPE_PANE) moveBar(target);
-    else setLiveGeometry(target, row.keyword, target.width);
+    if (target.type == TYPE_PANE)
+        moveBar(target);
+    else
+        setLiveGeometry(target, row.keyword, target.width);
     resizeMainPanel(target, &WidgetNode::width);
     const bool rebuilt = target.type == TYPE_PROGRESS_BAR || target.type == TYPE_PANEL;
     rebuilt ? rebuildLive(target) : redrawLive(target);
@@ -91,8 +97,10 @@ void editHeight(WidgetNode& target, const PropertyRow& row, const CellInput& inp
     if (target.type == TYPE_TEXT_ENTRY && target.subType == OSECURITY)
         target.height = std::min(target.height, singleLineHeight());
     if (isText(target)) fitFieldWidth(target, false);
-    if (target.type == TYPE_PANE) moveBar(target);
-    else setLiveGeometry(target, row.keyword, target.height);
+    if (target.type == TYPE_PANE)
+        moveBar(target);
+    else
+        setLiveGeometry(target, row.keyword, target.height);
     resizeMainPanel(target, &WidgetNode::height);
     const bool rebuilt = isText(target) || target.type == TYPE_PROGRESS_BAR || target.type == TYPE_PANEL;
     markEdited();
@@ -105,8 +113,10 @@ void editOrigin(WidgetNode& target, const PropertyRow& row, const CellInput& inp
     const Extent around = surroundings(target);
     const bool across = row.id == ROW_HORIZONTAL;
     const int height = target.type == TYPE_COMBO_BOX ? 1 : target.height;
-    if (across) target.xpos = around.width - target.xpos - target.width;
-    else target.ypos = around.height - target.ypos - height;
+    if (across)
+        target.xpos = around.width - target.xpos - target.width;
+    else
+        target.ypos = around.height - target.ypos - height;
     target.*row.whole = input.value;
     setLiveGeometry(target, row.keyword, input.value);
     setLiveGeometry(target, across ? owXpos : owYpos, across ? target.xpos : target.ypos);

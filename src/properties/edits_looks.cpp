@@ -56,8 +56,10 @@ void storeIcon(WidgetNode& target, const PropertyRow& row, const std::string& na
     target.*row.text = name;
     if (row.id != ROW_ICON) return;
     target.backgroundImage = name.empty() ? "" : resourceName(name);
-    if (name.empty()) target.format = -1;
-    else if (name.find('.') != std::string::npos) target.format = IMAGE_FILE;
+    if (name.empty())
+        target.format = -1;
+    else if (name.find('.') != std::string::npos)
+        target.format = IMAGE_FILE;
 }
 
 } // namespace
@@ -83,8 +85,10 @@ void editColour(WidgetNode& target, const PropertyRow& row, const CellInput& inp
     setLive(painted, row.keyword, input.value);
     const bool text = target.type == TYPE_TEXT_ENTRY || target.type == TYPE_TEXT_LABEL;
     const bool lines = text && row.id == ROW_TEXT_COLOUR && !isSingleLine(target);
-    if (hadImage || lines) rebuildLive(target);
-    else redrawLive(target);
+    if (hadImage || lines)
+        rebuildLive(target);
+    else
+        redrawLive(target);
     markEdited();
 }
 
@@ -97,14 +101,16 @@ void editFontFace(WidgetNode& target, const PropertyRow& row, const CellInput& i
 void editPointSize(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     const int points = std::atoi(input.text.c_str());
     if (points < 1) return;
-    storeAndFollow(target, row, {.value = points});
+    storeAndFollow(target, row, {.text = {}, .value = points});
 }
 
 void editIcon(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     if (target.type == TYPE_TREE_VIEW && !mayReplaceEntryIcons(target, iconPosition(row.id))) return;
     storeIcon(target, row, input.text);
-    if (target.onToolbar) rebuildFormOf(target);
-    else rebuildLive(target);
+    if (target.onToolbar)
+        rebuildFormOf(target);
+    else
+        rebuildLive(target);
     markEdited();
 }
 
@@ -113,8 +119,10 @@ void editBackgroundImage(WidgetNode& target, const PropertyRow&, const CellInput
     const bool sample = target.type == TYPE_FORM && design.defaultsMode;
     std::string path = input.text;
     if (path.empty()) {
-        if (sample) target.backgroundImage.clear();
-        else removeImage(painted);
+        if (sample)
+            target.backgroundImage.clear();
+        else
+            removeImage(painted);
         if (!sample && target.type == TYPE_FORM) painted.colour3 = 0;
     } else {
         if (path.find('.') == std::string::npos) path += IMAGE_EXTENSION;

@@ -167,8 +167,10 @@ void editCellCount(WidgetNode& target, const PropertyRow& row, const CellInput& 
     const int count = static_cast<int>(input.number);
     if (count == target.*row.whole || count < 1) return;
     const bool grid = project.gridMode == 1 && !design.defaultsMode;
-    if (row.id == ROW_COLUMNS) resizeCells(target, target.columnWidths, count, grid ? 2 : 2 * project.gridPixelX);
-    else resizeCells(target, target.rowHeights, count, grid ? 1 : project.gridPixelY);
+    if (row.id == ROW_COLUMNS)
+        resizeCells(target, target.columnWidths, count, grid ? 2 : 2 * project.gridPixelX);
+    else
+        resizeCells(target, target.rowHeights, count, grid ? 1 : project.gridPixelY);
     target.*row.whole = count;
     rebuildLive(target);
     markEdited();

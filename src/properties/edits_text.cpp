@@ -53,7 +53,8 @@ void setLiveLabel(const WidgetNode& node) {
 
 std::string cutToField(const WidgetNode& node, std::string text) {
     const size_t limit = std::abs(node.fieldWidth);
-    if (text.size() > limit) text.resize(node.subType == ORICHEDIT ? std::max(limit, RICH_RESERVE) - RICH_RESERVE : limit);
+    if (text.size() > limit)
+        text.resize(node.subType == ORICHEDIT ? std::max(limit, RICH_RESERVE) - RICH_RESERVE : limit);
     return text;
 }
 
@@ -91,9 +92,12 @@ void editText(WidgetNode& target, const PropertyRow&, const CellInput& input) {
     } else {
         target.text = input.text;
         if (target.type == TYPE_PANEL || target.type == TYPE_RADIO_BOX) target.titleFlag = input.text.empty() ? 0 : 1;
-        if (target.onToolbar) rebuildFormOf(target);
-        else if (target.type == TYPE_ICON) rebuildLive(target);
-        else setLiveLabel(target);
+        if (target.onToolbar)
+            rebuildFormOf(target);
+        else if (target.type == TYPE_ICON)
+            rebuildLive(target);
+        else
+            setLiveLabel(target);
     }
     redrawLive(target);
     markEdited();
@@ -107,8 +111,7 @@ void editBarTitle(WidgetNode& target, const PropertyRow&, const CellInput& input
 
 void editBubbleHelp(WidgetNode& target, const PropertyRow&, const CellInput& input) {
     target.bubbleHelp = input.text;
-    if (target.handle > 0)
-        owSetWidgetHelp(target.handle, input.text.c_str(), owHelpJustify, target.helpJustify, 0);
+    if (target.handle > 0) owSetWidgetHelp(target.handle, input.text.c_str(), owHelpJustify, target.helpJustify, 0);
     redrawLive(target);
     markEdited();
 }
@@ -120,7 +123,7 @@ void editAccelerator(WidgetNode& target, const PropertyRow& row, const CellInput
         host.infoBox("Duplicate Accelerator Key", "Accelerator key already in use by another widget");
         return;
     }
-    storeAndFollow(target, row, {.value = key});
+    storeAndFollow(target, row, {.text = {}, .value = key});
 }
 
 void editAlign(WidgetNode& target, const PropertyRow& row, const CellInput& input) {

@@ -14,30 +14,56 @@ constexpr NumberFormat WHOLE = {.width = 8};
 constexpr int FACE = 12, TEXT = 16, ENTRY = 18; // fixed colours of the table
 
 // What a row of a menu of choices, a colour and a number has in common.
-constexpr PropertyRow chooser(RowId id, const char* label, Choices choices, int N::* field, int keyword, After after,
+constexpr PropertyRow chooser(RowId id, const char* label, Choices choices, int N::*field, int keyword, After after,
                               bool onlyChanges = false, decltype(PropertyRow::edit) edit = nullptr) {
-    return {.id = id, .label = label, .cell = Cell::Choice, .choices = choices, .whole = field, .keyword = keyword,
-            .after = after, .onlyChanges = onlyChanges, .edit = edit};
+    return {.id = id,
+            .label = label,
+            .cell = Cell::Choice,
+            .choices = choices,
+            .whole = field,
+            .keyword = keyword,
+            .after = after,
+            .onlyChanges = onlyChanges,
+            .edit = edit};
 }
-constexpr PropertyRow colour(RowId id, const char* label, int N::* field, int unset, int keyword,
+constexpr PropertyRow colour(RowId id, const char* label, int N::*field, int unset, int keyword,
                              const char* unsetText = "") {
-    return {.id = id, .label = label, .cell = Cell::Colour, .whole = field, .colour = unset, .unset = unsetText,
-            .keyword = keyword, .after = After::Redraw, .edit = editColour};
+    return {.id = id,
+            .label = label,
+            .cell = Cell::Colour,
+            .whole = field,
+            .colour = unset,
+            .unset = unsetText,
+            .keyword = keyword,
+            .after = After::Redraw,
+            .edit = editColour};
 }
-constexpr PropertyRow number(RowId id, const char* label, int N::* field, NumberFormat format,
+constexpr PropertyRow number(RowId id, const char* label, int N::*field, NumberFormat format,
                              decltype(PropertyRow::edit) edit, int keyword = 0, After after = After::Nothing) {
-    return {.id = id, .label = label, .cell = Cell::Number, .whole = field, .number = format, .keyword = keyword,
-            .after = after, .edit = edit};
+    return {.id = id,
+            .label = label,
+            .cell = Cell::Number,
+            .whole = field,
+            .number = format,
+            .keyword = keyword,
+            .after = after,
+            .edit = edit};
 }
-constexpr PropertyRow real(RowId id, const char* label, float N::* field, NumberFormat format,
+constexpr PropertyRow real(RowId id, const char* label, float N::*field, NumberFormat format,
                            decltype(PropertyRow::edit) edit, int keyword = 0, After after = After::Nothing) {
-    return {.id = id, .label = label, .cell = Cell::Number, .real = field, .number = format, .keyword = keyword,
-            .after = after, .edit = edit};
+    return {.id = id,
+            .label = label,
+            .cell = Cell::Number,
+            .real = field,
+            .number = format,
+            .keyword = keyword,
+            .after = after,
+            .edit = edit};
 }
-constexpr PropertyRow line(RowId id, const char* label, std::string N::* field, decltype(PropertyRow::edit) edit) {
+constexpr PropertyRow line(RowId id, const char* label, std::string N::*field, decltype(PropertyRow::edit) edit) {
     return {.id = id, .label = label, .cell = Cell::Text, .text = field, .edit = edit};
 }
-constexpr PropertyRow button(RowId id, const char* label, std::string N::* field, decltype(PropertyRow::edit) edit) {
+constexpr PropertyRow button(RowId id, const char* label, std::string N::*field, decltype(PropertyRow::edit) edit) {
     return {.id = id, .label = label, .cell = Cell::Button, .text = field, .edit = edit};
 }
 constexpr PropertyRow ofTabBox(PropertyRow row) {
@@ -83,8 +109,13 @@ const PropertyRow ROWS[] = {
     chooser(ROW_FRAME_TYPE, "Type", choices::frameType, &N::subType, 0, After::Rebuild, true),
     chooser(ROW_PROGRESS_TYPE, "Type", choices::progressType, &N::subType, 0, After::Rebuild, true),
     chooser(ROW_SEPARATOR_TYPE, "Type", choices::separatorType, &N::subType, 0, After::RebuildForm, true),
-    {.id = ROW_ACCELERATOR, .label = "Accelerator", .cell = Cell::Text, .whole = &N::accel, .keyword = owAccel,
-     .after = After::Redraw, .edit = editAccelerator},
+    {.id = ROW_ACCELERATOR,
+     .label = "Accelerator",
+     .cell = Cell::Text,
+     .whole = &N::accel,
+     .keyword = owAccel,
+     .after = After::Redraw,
+     .edit = editAccelerator},
     chooser(ROW_ALIGN, "Align", choices::leftCentreRight, &N::justify, owJustify, After::Redraw, true, editAlign),
     line(ROW_BUBBLE_HELP, "Bubble Help", &N::bubbleHelp, editBubbleHelp),
     chooser(ROW_BUBBLE_ALIGN, "Bubble Help Align", choices::leftCentreRight, &N::helpJustify, owHelpJustify,
@@ -95,10 +126,21 @@ const PropertyRow ROWS[] = {
     colour(ROW_INACTIVE_COLOUR, "Inactive Colour", &N::colour1, ENTRY, owOffCol),
     colour(ROW_ACTIVE_COLOUR, "Active Colour", &N::colour2, ENTRY, owOnCol),
     colour(ROW_LIST_ACTIVE_COLOUR, "Active Colour", &N::colour2, FACE, owOnCol),
-    {.id = ROW_FONT_FACE, .label = "Font Face", .cell = Cell::EditableChoice, .text = &N::fontFace,
-     .keyword = owFontFace, .after = After::Font, .edit = editFontFace},
-    {.id = ROW_POINT_SIZE, .label = "Point Size", .cell = Cell::EditableChoice, .choices = choices::pointSize,
-     .whole = &N::pointSize, .keyword = owPointSize, .after = After::Font, .edit = editPointSize},
+    {.id = ROW_FONT_FACE,
+     .label = "Font Face",
+     .cell = Cell::EditableChoice,
+     .text = &N::fontFace,
+     .keyword = owFontFace,
+     .after = After::Font,
+     .edit = editFontFace},
+    {.id = ROW_POINT_SIZE,
+     .label = "Point Size",
+     .cell = Cell::EditableChoice,
+     .choices = choices::pointSize,
+     .whole = &N::pointSize,
+     .keyword = owPointSize,
+     .after = After::Font,
+     .edit = editPointSize},
     chooser(ROW_CHAR_SET, "Character Set", choices::charSet, &N::charSet, owCharSet, After::Font),
     chooser(ROW_BOLD, "Bold", choices::offOn, &N::bold, owBold, After::Font),
     chooser(ROW_ITALIC, "Italic", choices::offOn, &N::italic, owItalic, After::Font),
@@ -131,8 +173,13 @@ const PropertyRow ROWS[] = {
     chooser(ROW_LIST_SORTING, "Sorting", choices::listSorting, &N::sorted, 0, After::Rebuild, true),
     chooser(ROW_COMBO_SORTING, "Sorting", choices::comboSorting, &N::sorted, 0, After::Rebuild, true),
     chooser(ROW_LIST_STYLE, "Style", choices::listStyle, &N::approxSize, 0, After::Rebuild, true),
-    {.id = ROW_DESCRIPTION_WIDTH, .label = "Description Width", .cell = Cell::Number, .whole = &N::fieldWidth,
-     .number = {.width = 4, .minimum = 0, .maximum = 1024}, .after = After::Rebuild, .onlyChanges = true},
+    {.id = ROW_DESCRIPTION_WIDTH,
+     .label = "Description Width",
+     .cell = Cell::Number,
+     .whole = &N::fieldWidth,
+     .number = {.width = 4, .minimum = 0, .maximum = 1024},
+     .after = After::Rebuild,
+     .onlyChanges = true},
     chooser(ROW_DISPLAY_ICONS, "Display Icons", choices::offOn, &N::displayIcons, 0, After::Rebuild),
     chooser(ROW_EDITABLE, "Editable", choices::editable, &N::editMode, 0, After::Rebuild, true),
     real(ROW_SLIDER_VALUE, "Slider Value", &N::value, LIMIT, editClampedValue),
@@ -155,10 +202,18 @@ const PropertyRow ROWS[] = {
     real(ROW_Y_MAXIMUM, "Maximum Y Limit", &N::yMax, LIMIT, nullptr, 0, After::Rebuild),
     number(ROW_COLUMNS, "Columns", &N::columns, COUNT, editCellCount),
     number(ROW_ROWS, "Rows", &N::rows, COUNT, editCellCount),
-    {.id = ROW_X_LABELS, .label = "X Labels", .cell = Cell::EditableChoice, .text = &N::xLabels,
-     .after = After::Rebuild, .edit = editArrayLabels},
-    {.id = ROW_Y_LABELS, .label = "Y Labels", .cell = Cell::EditableChoice, .text = &N::yLabels,
-     .after = After::Rebuild, .edit = editArrayLabels},
+    {.id = ROW_X_LABELS,
+     .label = "X Labels",
+     .cell = Cell::EditableChoice,
+     .text = &N::xLabels,
+     .after = After::Rebuild,
+     .edit = editArrayLabels},
+    {.id = ROW_Y_LABELS,
+     .label = "Y Labels",
+     .cell = Cell::EditableChoice,
+     .text = &N::yLabels,
+     .after = After::Rebuild,
+     .edit = editArrayLabels},
     line(ROW_COLUMN_LABELS, "Column Labels", &N::xLabels, editArrayLabels),
     number(ROW_X_LABELS_HEIGHT, "X Labels Height", &N::xLabelsHeight, COUNT, editLabelsSize),
     number(ROW_Y_LABELS_WIDTH, "Y Labels Width", &N::yLabelsWidth, COUNT, editLabelsSize),

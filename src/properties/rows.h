@@ -138,7 +138,8 @@ enum RowId : int {
     ROW_COUNT
 };
 
-// What follows on the surface once the record holds the new value and, if the row has a keyword, so does the live widget.
+// What follows on the surface once the record holds the new value and, if the row has a keyword, so does the live
+// widget.
 enum class After { Nothing, Redraw, Rebuild, RebuildForm, Font };
 
 struct NumberFormat {
@@ -160,17 +161,18 @@ struct PropertyRow {
     const char* label;
     Cell cell;
     Choices choices = {};
-    int WidgetNode::* whole = nullptr; // the field, one of the three
-    float WidgetNode::* real = nullptr;
-    std::string WidgetNode::* text = nullptr;
+    int WidgetNode::*whole = nullptr; // the field, one of the three
+    float WidgetNode::*real = nullptr;
+    std::string WidgetNode::*text = nullptr;
     NumberFormat number = {};
-    int colour = 0;             // colour index shown while the field holds 0
-    const char* unset = "";     // text of a colour cell while the field holds 0
-    int keyword = 0;            // property of the live widget
+    int colour = 0;         // colour index shown while the field holds 0
+    const char* unset = ""; // text of a colour cell while the field holds 0
+    int keyword = 0;        // property of the live widget
     After after = After::Nothing;
-    bool onlyChanges = false;   // choosing the stored value again does nothing at all
-    bool ofTabBox = false;      // on a panel in a tab box, the box is shown and edited
-    void (*edit)(WidgetNode& target, const PropertyRow& row, const CellInput& input) = nullptr; // null: store and follow
+    bool onlyChanges = false; // choosing the stored value again does nothing at all
+    bool ofTabBox = false;    // on a panel in a tab box, the box is shown and edited
+    void (*edit)(WidgetNode& target, const PropertyRow& row,
+                 const CellInput& input) = nullptr; // null: store and follow
 };
 
 const PropertyRow& propertyRow(RowId id);
@@ -194,9 +196,10 @@ WidgetNode& targetOf(WidgetNode& widget, const PropertyRow& row);
 const WidgetNode& targetOf(const WidgetNode& widget, const PropertyRow& row);
 
 bool isTabPage(const WidgetNode& widget);
-const char* textRowLabel(int type); // "Text", "Title" or "Label"
+const char* textRowLabel(int type);       // "Text", "Title" or "Label"
 int originCode(const WidgetNode& widget); // 0 bottom left, 4 centre, 8 top right
 
-// Labels of arrays: "Digits", "Letters", "Months" and "Days" are stored under names of the library, other texts as typed.
+// Labels of arrays: "Digits", "Letters", "Months" and "Days" are stored under names of the library, other texts as
+// typed.
 std::string shownArrayLabels(const std::string& stored);
 std::string storedArrayLabels(const std::string& shown);

@@ -120,8 +120,8 @@ double shownNumber(const WidgetNode& widget, const PropertyRow& row) {
 }
 
 int shownColour(const WidgetNode& widget, const PropertyRow& row) {
-    const bool tickedOff = row.id == ROW_OFF_COLOUR && widget.type == TYPE_TOGGLE &&
-                           (widget.subType == 3 || widget.subType == 5);
+    const bool tickedOff =
+        row.id == ROW_OFF_COLOUR && widget.type == TYPE_TOGGLE && (widget.subType == 3 || widget.subType == 5);
     if (tickedOff) return row.colour;
     const int index = row.id == ROW_FORM_COLOUR ? painted(widget).colour3 : widget.*row.whole;
     return index != 0 ? index : row.colour;

@@ -73,8 +73,10 @@ bool followParent(WidgetNode& toggle, const WidgetNode& parent) {
     if (toggle.type != TYPE_TOGGLE) return false;
     if (toggle.subType == O3DRADIO && (parent.type == TYPE_PANEL || parent.type == TYPE_MAIN_PANEL))
         toggle.subType = O3DCHECKBOX;
-    else if (toggle.subType == O3DCHECKBOX && parent.type == TYPE_RADIO_BOX) toggle.subType = O3DRADIO;
-    else return false;
+    else if (toggle.subType == O3DCHECKBOX && parent.type == TYPE_RADIO_BOX)
+        toggle.subType = O3DRADIO;
+    else
+        return false;
     return true;
 }
 
@@ -115,8 +117,10 @@ bool confirms(const std::string& text) {
 
 std::string deletionText(const WidgetNode& node) {
     std::string text = "This will permanently erase " + node.name;
-    if (node.type == TYPE_FORM && node.child && node.child->child) text += " and all its child widgets";
-    else if (node.type != TYPE_FORM && node.child) text += " and all it's child widgets";
+    if (node.type == TYPE_FORM && node.child && node.child->child)
+        text += " and all its child widgets";
+    else if (node.type != TYPE_FORM && node.child)
+        text += " and all it's child widgets";
     return text + ".|Do you want to continue?";
 }
 
@@ -162,8 +166,10 @@ WidgetNode* removeWidget(WidgetNode* node, bool eraseLive, bool wholeList) {
     }
     if (result && result->type == TYPE_MAIN_PANEL) result = formOf(result, project.forms);
     const bool bar = type == TYPE_TOOL_BAR || type == TYPE_PANE;
-    if (bar && parent) rebuildWidget(*parent);
-    else if (isBarOrPane(parent)) owDrawWidget(parent->handle);
+    if (bar && parent)
+        rebuildWidget(*parent);
+    else if (isBarOrPane(parent))
+        owDrawWidget(parent->handle);
     return result;
 }
 

@@ -8,6 +8,7 @@
 #include "project/tree.h"
 #include "surface/clipboard.h"
 #include "surface/commands.h"
+#include "surface/event.h"
 #include "surface/hierarchy.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
@@ -27,8 +28,7 @@ WidgetNode* findByCallback(int id) {
     WidgetNode* node = findHandle(id);
     if (node && node->designCallbackId == id) return node;
     node = findHandle(id - OBJECT_SELECT_OFFSET);
-    const bool selects =
-        node && std::ranges::find(ANSWERS_TO_SELECT, node->type) != ANSWERS_TO_SELECT.end();
+    const bool selects = node && std::ranges::find(ANSWERS_TO_SELECT, node->type) != ANSWERS_TO_SELECT.end();
     return selects && node->designSelectId == id ? node : nullptr;
 }
 
@@ -55,7 +55,7 @@ WidgetNode* makeLive(WidgetNode& node, WidgetNode& parent) {
 
 WidgetNode& containerOf(WidgetNode& record, WidgetNode& clicked) { return record.parent ? *record.parent : clicked; }
 
-void placeWithTool(WidgetNode& parent, const OACTION& action) {
+void placeWithTool(WidgetNode& parent) {
     if (design.skipPlacement) {
         design.skipPlacement = 0;
         return;
@@ -140,14 +140,14 @@ void takeDocking(WidgetNode& bar) {
     markChanged();
 }
 
-void barEvent(WidgetNode& bar, const OACTION& action) {
+void barEvent(WidgetNode& bar) {
     if (action.status != OCLOSED) return takeDocking(bar);
     if (!bar.selected) selectWidget(&bar);
     deleteCommand();
 }
 
 // A page of a tab box stands for its box.
-WidgetNode* standsFor(WidgetNode* found, const OACTION& action) {
+WidgetNode* standsFor(WidgetNode* found) {
     if (found->type == TYPE_TAB_BOX)
         if (WidgetNode* page = findHandle(action.status)) found = page;
     const bool page = found->type == TYPE_PANEL && found->parent && found->parent->type == TYPE_TAB_BOX;
@@ -155,14 +155,14 @@ WidgetNode* standsFor(WidgetNode* found, const OACTION& action) {
 }
 
 // Works the selector on `found`; false when the event is none of its own.
-bool selectorEvent(WidgetNode* found, const OACTION& action) {
+bool selectorEvent(WidgetNode* found) {
     if (design.panelBandArmed) {
         design.panelBandArmed = 0;
         if (found->type != TYPE_PANEL) return false;
         const Band band = endRubberBand(*found, static_cast<int>(action.xpos), static_cast<int>(action.ypos));
         if (band != Band::Still) return false;
     }
-    found = standsFor(found, action);
+    found = standsFor(found);
     if (!found->selected) {
         restoreValue(*found);
         if (shiftAdds(*found)) {
@@ -175,7 +175,7 @@ bool selectorEvent(WidgetNode* found, const OACTION& action) {
         adoptWidget(*found);
         takeValue(*found);
     }
-    if (found->type == TYPE_TOOL_BAR || found->type == TYPE_PANE) barEvent(*found, action);
+    if (found->type == TYPE_TOOL_BAR || found->type == TYPE_PANE) barEvent(*found);
     return true;
 }
 
@@ -199,16 +199,14 @@ void designEvent(int id) {
         formEvent(id);
         return restoreSelection();
     }
-    OACTION action;
-    owEnqActionState(&action);
     design.helpContext = "Form";
     hooks.commandStatus(CMD_ALIGN, OUNSELECTABLE);
     bool handled = false;
     if (design.activeTool != TOOL_SELECTOR) {
-        placeWithTool(*found, action);
+        placeWithTool(*found);
         handled = true;
     } else if (found->type != TYPE_FORM && found->type != TYPE_MAIN_PANEL) {
-        handled = selectorEvent(found, action);
+        handled = selectorEvent(found);
         hooks.leaveTextMode();
     }
     if (handled) design.panelBandArmed = 0;

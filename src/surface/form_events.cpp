@@ -5,6 +5,7 @@
 #include "project/host.h"
 #include "project/tree.h"
 #include "surface/commands.h"
+#include "surface/event.h"
 #include "surface/geometry.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
@@ -17,7 +18,7 @@ namespace {
 
 bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
 
-void press(const WidgetNode& panel, const OACTION& action) {
+void press(const WidgetNode& panel) {
     design.rubberBandArmed = 1;
     if (panel.type == TYPE_PANEL) design.panelBandArmed = 1;
     design.bandStartX = static_cast<int>(action.xpos);
@@ -51,7 +52,7 @@ void selectForm(WidgetNode& panel) {
     hooks.formFileForgotten();
 }
 
-void release(WidgetNode& panel, const OACTION& action) {
+void release(WidgetNode& panel) {
     if (!design.rubberBandArmed) return;
     const Band band = endRubberBand(panel, static_cast<int>(action.xpos), static_cast<int>(action.ypos));
     if (panel.type == TYPE_MAIN_PANEL && band != Band::Caught) selectForm(panel);
@@ -111,8 +112,7 @@ WidgetNode* formBefore(const WidgetNode& form) {
 void formClosed(WidgetNode& form) {
     if (!form.selected) selectWidget(&form);
     if (isMaster(form)) {
-        host.infoBox("Cannot hide master form",
-                     form.name + " is the master form in the project and cannot be hidden");
+        host.infoBox("Cannot hide master form", form.name + " is the master form in the project and cannot be hidden");
         return selectWidget(&form);
     }
     const int answer = host.messageBox("Confirm Widget Hide",
@@ -170,16 +170,14 @@ void formEvent(int id) {
     const bool selectEvent = node && node->designSelectId == id;
     if (!selectEvent) node = findHandle(id);
     if (!node) return;
-    OACTION action;
-    owEnqActionState(&action);
     if (selectEvent) {
-        if (takesPresses(*node)) return press(*node, action);
+        if (takesPresses(*node)) return press(*node);
         if (!node->selected && action.status == 1) selectWidget(node);
         design.helpContext = "Form";
         hooks.leaveTextMode();
     } else if (node->type == TYPE_FORM && node->formCallbackId == id) {
         windowEvent(*node, action.status);
     } else if (node->designCallbackId == id && node->type != TYPE_PANEL) {
-        release(*node, action);
+        release(*node);
     }
 }

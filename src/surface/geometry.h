@@ -15,9 +15,9 @@ struct Box {
     bool operator==(const Box&) const = default;
 };
 
-Box readPixels(int handle);                       // position and size of a live widget, in pixels
-Box inProjectUnit(const Box& pixels);             // integer division by the cell in a grid project
-void placeLive(int handle, const Box& box);       // position and size in the project's unit
+Box readPixels(int handle);                 // position and size of a live widget, in pixels
+Box inProjectUnit(const Box& pixels);       // integer division by the cell in a grid project
+void placeLive(int handle, const Box& box); // position and size in the project's unit
 inline Box boxOf(const WidgetNode& n) { return {n.xpos, n.ypos, n.width, n.height}; }
 
 int singleLineHeight(); // of a text widget, in the project's unit

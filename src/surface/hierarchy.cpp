@@ -3,6 +3,7 @@
 #include "menu-c.h"
 #include "project/tree.h"
 #include "surface/commands.h"
+#include "surface/event.h"
 #include "surface/hooks.h"
 #include "surface/selection.h"
 #include "surface/state.h"
@@ -20,18 +21,18 @@ struct RowIcon {
     bool container; // the same picture closed and open
 };
 constexpr RowIcon ROW_ICONS[] = {
-    {TYPE_FORM, "newform", true},         {TYPE_BUTTON, "Button", false},
-    {TYPE_TOGGLE, "Check", false},        {TYPE_TEXT_ENTRY, "Text", false},
-    {TYPE_TEXT_LABEL, "Stext", false},    {TYPE_VALUE_ENTRY, "Val", false},
-    {TYPE_VALUE_LABEL, "Sval", false},    {TYPE_ICON, "icon", false},
-    {TYPE_LIST_BOX, "Listbox", false},    {TYPE_SLIDER, "Sliderh", false},
-    {TYPE_PANEL, "Panel", true},          {TYPE_COMBO_BOX, "Combo", false},
-    {TYPE_RADIO_BOX, "Panel", true},      {TYPE_GRAPHICS_FRAME, "Graph", false},
-    {TYPE_TEXT_ARRAY, "Textcel", false},  {TYPE_VALUE_ARRAY, "Valuecel", false},
-    {TYPE_TOOL_BAR, "Toolbar", true},     {TYPE_TAB_BOX, "Tabdia", true},
-    {TYPE_GAUGE, "gauge", false},         {TYPE_PROGRESS_BAR, "progress", false},
-    {TYPE_TTY_ENTRY, "tty", false},       {TYPE_TREE_VIEW, "treeview", false},
-    {TYPE_TABLE_BOX, "Table", false},     {TYPE_TOOL_SEPARATOR, "Toolsep", false},
+    {TYPE_FORM, "newform", true},        {TYPE_BUTTON, "Button", false},
+    {TYPE_TOGGLE, "Check", false},       {TYPE_TEXT_ENTRY, "Text", false},
+    {TYPE_TEXT_LABEL, "Stext", false},   {TYPE_VALUE_ENTRY, "Val", false},
+    {TYPE_VALUE_LABEL, "Sval", false},   {TYPE_ICON, "icon", false},
+    {TYPE_LIST_BOX, "Listbox", false},   {TYPE_SLIDER, "Sliderh", false},
+    {TYPE_PANEL, "Panel", true},         {TYPE_COMBO_BOX, "Combo", false},
+    {TYPE_RADIO_BOX, "Panel", true},     {TYPE_GRAPHICS_FRAME, "Graph", false},
+    {TYPE_TEXT_ARRAY, "Textcel", false}, {TYPE_VALUE_ARRAY, "Valuecel", false},
+    {TYPE_TOOL_BAR, "Toolbar", true},    {TYPE_TAB_BOX, "Tabdia", true},
+    {TYPE_GAUGE, "gauge", false},        {TYPE_PROGRESS_BAR, "progress", false},
+    {TYPE_TTY_ENTRY, "tty", false},      {TYPE_TREE_VIEW, "treeview", false},
+    {TYPE_TABLE_BOX, "Table", false},    {TYPE_TOOL_SEPARATOR, "Toolsep", false},
     {TYPE_PANE, "Pane", true},
 };
 
@@ -138,8 +139,4 @@ void selectByName(const std::string& name, bool fromTree) {
     hooks.enterTextMode();
 }
 
-void hierarchyRowCommand() {
-    OACTION action;
-    owEnqActionState(&action);
-    selectByName(rowLabel(action.widget), true);
-}
+void hierarchyRowCommand() { selectByName(rowLabel(action.widget), true); }

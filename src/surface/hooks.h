@@ -24,7 +24,7 @@ struct SurfaceHooks {
     void (*formFileForgotten)();  // the remembered form file name is emptied
 
     // Filled by the property sheet.
-    void (*showProperties)(WidgetNode* widget);             // null: an empty table
+    void (*showProperties)(WidgetNode* widget); // null: an empty table
     void (*refreshProperties)();                // its cells again from the record
 
     // Filled by the code editor.
@@ -37,7 +37,7 @@ struct SurfaceHooks {
     void (*nameRemoved)(const std::string& name);
     void (*namesCleared)();
     void (*nameChanged)(const std::string& from, const std::string& to);
-    void (*menuChanged)(WidgetNode& form); // the live menu of a form was built
+    void (*menuChanged)(WidgetNode& form);                               // the live menu of a form was built
     int (*renameInCode)(const std::string& from, const std::string& to); // number of places changed
 
     // Filled by the dialogues.

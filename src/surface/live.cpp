@@ -89,8 +89,10 @@ void defineFormCallbacks(WidgetNode& form) {
 
 void setGridMode(int mode) {
     owSetGuiGridMode(mode);
-    if (mode == 1) owDefineGuiGrid(project.gridHoriz, project.gridVert);
-    else owDefineGuiGrid(DEFAULT_COLUMNS, DEFAULT_ROWS);
+    if (mode == 1)
+        owDefineGuiGrid(project.gridHoriz, project.gridVert);
+    else
+        owDefineGuiGrid(DEFAULT_COLUMNS, DEFAULT_ROWS);
 }
 
 void realiseWidget(WidgetNode& node, int parent, bool withSiblings) {
@@ -125,10 +127,14 @@ void redrawWidget(WidgetNode& node, bool front) {
     const WidgetNode* bar = isBarOrPane(node) ? &node : parent && isBarOrPane(*parent) ? parent : nullptr;
     if (!bar) return owDrawWidget(node.handle);
     int x = 0, y = 0, width = 0, height = 0, floatWidth = 0, floatHeight = 0, position = 0;
-    if (bar->type == TYPE_TOOL_BAR) owEnqToolbarPos(bar->handle, &x, &y, &width, &position);
-    else owEnqPanePos(bar->handle, &x, &y, &width, &height, &floatWidth, &floatHeight, &position);
-    if (position == OFLOATING) owDrawWidget(node.handle);
-    else drawWindow();
+    if (bar->type == TYPE_TOOL_BAR)
+        owEnqToolbarPos(bar->handle, &x, &y, &width, &position);
+    else
+        owEnqPanePos(bar->handle, &x, &y, &width, &height, &floatWidth, &floatHeight, &position);
+    if (position == OFLOATING)
+        owDrawWidget(node.handle);
+    else
+        drawWindow();
 }
 
 void redrawAllForms() {
@@ -162,7 +168,8 @@ void discardForms(WidgetNode* list) {
 
 void fillListEntries(WidgetNode& node) {
     for (const ListEntryRec* entry = node.listEntries; entry; entry = entry->next) {
-        if (entry->icon.empty()) owSetListEntry(node.handle, OADD, owString, entry->text.c_str(), 0);
+        if (entry->icon.empty())
+            owSetListEntry(node.handle, OADD, owString, entry->text.c_str(), 0);
         else
             owSetListEntry(node.handle, OADD, owString, entry->text.c_str(), owIcon,
                            owGetIconResource(entry->icon.c_str()), 0);

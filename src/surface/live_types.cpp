@@ -104,10 +104,10 @@ int createPanel(const WidgetNode& n, int parent) {
     const bool titled = n.titleFlag != 0 && n.scrollMode == -1;
     const int boundary = n.type == TYPE_RADIO_BOX ? n.borderType : n.subType;
     const std::string title = titled || (n.parent && n.parent->type == TYPE_TAB_BOX) ? n.text : "";
-    return owCreatePanel(parent, BOX(n), owTitle, title.c_str(), owBorderType, boundary, owImage, n.icon.c_str(), owIcon,
-                         n.closeIcon.c_str(), owLineCol, n.colour1, owLineBorder, n.colour2, owFillCol, n.colour3,
-                         owFillBorder, n.colour4, owScrollMode, n.scrollMode, owTabList, n.tabList, PLACED(n),
-                         HELPED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
+    return owCreatePanel(parent, BOX(n), owTitle, title.c_str(), owBorderType, boundary, owImage, n.icon.c_str(),
+                         owIcon, n.closeIcon.c_str(), owLineCol, n.colour1, owLineBorder, n.colour2, owFillCol,
+                         n.colour3, owFillBorder, n.colour4, owScrollMode, n.scrollMode, owTabList, n.tabList,
+                         PLACED(n), HELPED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
 }
 
 int createComboBox(const WidgetNode& n, int parent) {
@@ -117,8 +117,8 @@ int createComboBox(const WidgetNode& n, int parent) {
 
 int createFrame(const WidgetNode& n, int parent) {
     const OLIMIT limits = {n.xMin, n.xMax, n.yMin, n.yMax};
-    return owCreateGraphicsFrame(parent, BOX(n), &limits, PLACED(n), HELPED(n), owCallback, AUTOMATIC,
-                                 owExposeCallback, AUTOMATIC, 0);
+    return owCreateGraphicsFrame(parent, BOX(n), &limits, PLACED(n), HELPED(n), owCallback, AUTOMATIC, owExposeCallback,
+                                 AUTOMATIC, 0);
 }
 
 #define ARRAY_KEYWORDS(n)                                                                                              \
@@ -190,8 +190,7 @@ void finishForm(WidgetNode& n) {
 }
 
 void finishButton(WidgetNode& n) {
-    if (n.onToolbar)
-        owSetWidgetProp(n.handle, owOnCol, n.colour1, owOffCol, n.colour2, owTextCol, n.colour3, 0);
+    if (n.onToolbar) owSetWidgetProp(n.handle, owOnCol, n.colour1, owOffCol, n.colour2, owTextCol, n.colour3, 0);
 }
 
 void finishToggle(WidgetNode& n) {

@@ -7,6 +7,7 @@
 #include "project/tree.h"
 #include "surface/clipboard.h"
 #include "surface/commands.h"
+#include "surface/event.h"
 #include "surface/geometry.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
@@ -81,8 +82,10 @@ void putBack(WidgetNode& widget) {
 void refuseDrop(WidgetNode* single, bool known) {
     if (single || !known)
         host.errorBox("Widget placement", "Widgets can only be placed on forms or other container widgets");
-    if (single) putBack(*single);
-    else ungroupSelection(design.selectionList, nullptr);
+    if (single)
+        putBack(*single);
+    else
+        ungroupSelection(design.selectionList, nullptr);
 }
 
 // Whether `node` is `root` or lies below it: a widget can't be dropped into itself.
@@ -170,8 +173,6 @@ void readGeometry(WidgetNode* node) {
 
 void movedCommand() {
     if (!design.selectionList) return;
-    OACTION action;
-    owEnqActionState(&action);
     WidgetNode* single = project.currentWidget;
     hooks.commandStatus(CMD_UNDO, OSELECTABLE);
     hooks.commandStatus(CMD_REDO, OUNSELECTABLE);

@@ -66,8 +66,10 @@ void selectTool(int tool) {
 }
 
 void adoptWidget(const WidgetNode& node) {
-    if (mayBeDragged(node)) owAdoptChild(node.handle, CMD_MOVED, CMD_DOUBLE_CLICK);
-    else release();
+    if (mayBeDragged(node))
+        owAdoptChild(node.handle, CMD_MOVED, CMD_DOUBLE_CLICK);
+    else
+        release();
 }
 
 void selectWidget(WidgetNode* node) {

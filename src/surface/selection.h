@@ -11,9 +11,9 @@ void adoptWidget(const WidgetNode& node);
 void groupSelection(WidgetNode* parent, WidgetNode* list);
 void ungroupSelection(WidgetNode* list, WidgetNode* second);
 void buildGroupPanel(WidgetNode& parent, WidgetNode* list, bool keep);
-void dropSelection(); // ends a group, frees the selection list
+void dropSelection();      // ends a group, frees the selection list
 void showSelectionCount(); // in the status bar
-void forgetRecords(); // before the records of the project are freed: live forms down, no pointer to a record left
+void forgetRecords();      // before the records of the project are freed: live forms down, no pointer to a record left
 
 void readGeometry(WidgetNode* node); // null for the group
 

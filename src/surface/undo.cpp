@@ -39,17 +39,22 @@ void stepBetweenParents(WidgetNode* single) {
     readGeometry(single);
     if (!single) ungroupSelection(design.selectionList, nullptr);
     moveSelectionTo(target, !single);
-    if (project.currentWidget) adoptWidget(*project.currentWidget);
-    else buildGroupPanel(*target, design.selectionList, false);
+    if (project.currentWidget)
+        adoptWidget(*project.currentWidget);
+    else
+        buildGroupPanel(*target, design.selectionList, false);
 }
 
 void step(int& available, int& other, int command, int otherCommand) {
     WidgetNode* single = project.currentWidget;
     if (!available || single != design.undoWidget || !design.selectionList) return;
     owAdoptChild(0, 0, 0);
-    if (design.undoParent) stepBetweenParents(single);
-    else if (single) stepInPlace(*single);
-    else stepGroupInPlace();
+    if (design.undoParent)
+        stepBetweenParents(single);
+    else if (single)
+        stepInPlace(*single);
+    else
+        stepGroupInPlace();
     available = 0;
     other = 1;
     hooks.commandStatus(command, OUNSELECTABLE);

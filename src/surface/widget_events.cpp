@@ -5,6 +5,7 @@
 #include "project/host.h"
 #include "project/tree.h"
 #include "surface/commands.h"
+#include "surface/event.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/state.h"
@@ -16,12 +17,6 @@
 namespace {
 
 constexpr int RICH_RESERVE = 24; // characters that rich text needs beyond what shows
-
-OACTION event() {
-    OACTION action;
-    owEnqActionState(&action);
-    return action;
-}
 
 // What a live text widget holds, cut to the length of its field.
 std::string readText(const WidgetNode& node) {
@@ -66,7 +61,7 @@ void takeSwitch(WidgetNode& toggle) {
 } // namespace
 
 void textEditedCommand() {
-    WidgetNode* node = findHandle(event().widget);
+    WidgetNode* node = findHandle(action.widget);
     if (!node || node->type != TYPE_TEXT_ENTRY || !showsItself(*node)) return;
     const std::string text = readText(*node);
     if (text == node->text) return;
@@ -79,7 +74,7 @@ void textEditedCommand() {
 }
 
 void entrySelectedCommand() {
-    WidgetNode* node = findHandle(event().widget);
+    WidgetNode* node = findHandle(action.widget);
     if (!node) return;
     if (node->type == TYPE_VALUE_ENTRY) design.valueWidget = node->handle;
     if (design.activeTool != TOOL_SELECTOR || node->selected) return;
@@ -99,7 +94,6 @@ void valueEditedCommand() {
 }
 
 void toggledCommand() {
-    const OACTION action = event();
     WidgetNode* node = findHandle(action.widget);
     if (!node || action.status == 1) return;
     if (design.activeTool != TOOL_SELECTOR) return refusePlacement(*node);
