@@ -1,6 +1,7 @@
 #include "shell/project_commands.h"
 
 #include "build/catalogue.h"
+#include "build/execute.h"
 #include "codegen/generate.h"
 #include "editing/code_editor.h"
 #include "editing/modes.h"
@@ -91,10 +92,13 @@ void autoBackupCommand() { autoBackup(); }
 
 // ---- Opening --------------------------------------------------------------------------------------------------
 
+static bool programRunning() { return childProcess.handle != 0; }
+
 // What follows from language, platform and grid of the project that has just come in.
 static void adoptProjectSettings() {
     owSetSnapGrid(project.snapOn ? project.snapGrid : 1);
-    enableCompile(compilerFitsProject(true));
+    const bool fits = compilerFitsProject(true);
+    enableCompile(fits && !programRunning());
     refreshCommands();
     showProjectTitle();
 }
@@ -107,11 +111,10 @@ static void showForms(WidgetNode* selected) {
 
 bool openProjectFile(const std::string& folder, const std::string& name) {
     if (!loadProject(folder, name)) return false;
-    project.projectModified = 0;
     adoptProjectSettings();
     showForms(findSelected(project.forms));
     addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));
-    enableExecute(executableCurrent());
+    enableExecute(executableCurrent() && !programRunning());
     return true;
 }
 
