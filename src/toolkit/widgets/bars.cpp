@@ -18,8 +18,17 @@ QMainWindow* mainWindowOf(Widget* widget) {
 
 namespace {
 
-enum Property : int { titleFlagProperty = 16, offColour = 25, onColour = 26, textColour = 27, kindProperty = 15,
-                      separatorType = 42, iconTypeProperty = 59, iconProperty = 99, iconHandleProperty = 100 };
+enum Property : int {
+    titleFlagProperty = 16,
+    offColour = 25,
+    onColour = 26,
+    textColour = 27,
+    kindProperty = 15,
+    separatorType = 42,
+    iconTypeProperty = 59,
+    iconProperty = 99,
+    iconHandleProperty = 100
+};
 
 DockTitle titleOf(int flag) {
     if (flag == OALL || (flag & OQUIT)) return DockTitle::closable;
@@ -142,7 +151,8 @@ void setButtonStatus(Widget& widget, int status) {
 
 void setButtonIcon(Widget& widget, const QIcon& icon) {
     buttonOf(widget).setIcon(icon);
-    buttonOf(widget).setToolButtonStyle(dataOf<ButtonData>(widget).isText ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    buttonOf(widget).setToolButtonStyle(dataOf<ButtonData>(widget).isText ? Qt::ToolButtonTextBesideIcon
+                                                                          : Qt::ToolButtonIconOnly);
 }
 
 bool setButtonProperty(Widget& widget, int property, const Value& value) {
@@ -170,8 +180,10 @@ QString buttonText(Widget& widget) { return buttonOf(widget).property("label").t
 
 void setButtonText(Widget& widget, const QString& text) {
     buttonOf(widget).setProperty("label", text);
-    if (dataOf<ButtonData>(widget).isText) buttonOf(widget).setText(labelWithMnemonic(text, widget.accel));
-    else setButtonIcon(widget, icons::iconByName(text));
+    if (dataOf<ButtonData>(widget).isText)
+        buttonOf(widget).setText(labelWithMnemonic(text, widget.accel));
+    else
+        setButtonIcon(widget, icons::iconByName(text));
 }
 
 const Family barButtons{.name = "tool bar button",

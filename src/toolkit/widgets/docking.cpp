@@ -1,5 +1,5 @@
-// Bars and panes on Qt's main window. The user's moves are told apart from the program's and from those that follow from a change
-// of the window: only a move by the user is reported, once, when the button of the mouse is let go.
+// Bars and panes on Qt's main window. The user's moves are told apart from the program's and from those that follow
+// from a change of the window: only a move by the user is reported, once, when the button of the mouse is let go.
 #include "toolkit/widgets/docking.h"
 
 #include <QApplication>
@@ -111,8 +111,10 @@ void ToolBar::floatNow() {
 // A floating bar gets the frame of a small tool window, whose close box is there only when asked for.
 void ToolBar::decorate() {
     Qt::WindowFlags flags = Qt::Tool;
-    if (titleBar_ == DockTitle::none) flags |= Qt::FramelessWindowHint;
-    else flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (titleBar_ == DockTitle::none)
+        flags |= Qt::FramelessWindowHint;
+    else
+        flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     if (titleBar_ == DockTitle::closable) flags |= Qt::WindowCloseButtonHint | Qt::WindowSystemMenuHint;
     setWindowFlags(flags);
 }
@@ -230,8 +232,10 @@ void BarSeparator::paintEvent(QPaintEvent*) {
     const QColor light = palette().color(QPalette::Light);
     const auto line = [&](int offset, const QColor& colour) {
         painter.setPen(colour);
-        if (upright()) painter.drawLine(offset, 3, offset, height() - 4);
-        else painter.drawLine(3, offset, width() - 4, offset);
+        if (upright())
+            painter.drawLine(offset, 3, offset, height() - 4);
+        else
+            painter.drawLine(3, offset, width() - 4, offset);
     };
     const int middle = (upright() ? width() : height()) / 2;
     switch (type_) {
@@ -275,9 +279,10 @@ private:
 
 } // namespace
 
-DockPane::DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint position, QSize size, const QString& title, DockTitle titleBar)
-    : QDockWidget(title, window), window_(window), dock_(isSide(dock) ? dock : Dock::left), titleBar_(titleBar), floatPosition_(position),
-      dockedSize_(size), floatSize_(size) {
+DockPane::DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint position, QSize size, const QString& title,
+                   DockTitle titleBar)
+    : QDockWidget(title, window), window_(window), dock_(isSide(dock) ? dock : Dock::left), titleBar_(titleBar),
+      floatPosition_(position), dockedSize_(size), floatSize_(size) {
     auto* frame = new PaneFrame(body);
     frame->wanted = size;
     frame->installEventFilter(this);
@@ -412,8 +417,10 @@ void DockPane::moveEvent(QMoveEvent* event) {
 void DockPane::resizeEvent(QResizeEvent* event) {
     QDockWidget::resizeEvent(event);
     if (isHidden()) return;
-    if (isFloating()) floatSize_ = size();
-    else if (isVisible() && !byProgram_) dockedSize_ = widget()->size();
+    if (isFloating())
+        floatSize_ = size();
+    else if (isVisible() && !byProgram_)
+        dockedSize_ = widget()->size();
     if (!byProgram_ && QGuiApplication::mouseButtons() != Qt::NoButton) tellLater(DockEvent::resized);
 }
 

@@ -22,8 +22,8 @@ using DockReport = std::function<void(DockEvent)>;
 // Title bars: 0 none, 1 a title, 2 a title with a close box.
 enum class DockTitle : int { none = 0, title = 1, closable = 2 };
 
-// A tool bar. Docked it takes as much of its side as its buttons need, with what does not fit behind an arrow; floating it is a
-// small window with a title. Bars of one side stand in rows of their own.
+// A tool bar. Docked it takes as much of its side as its buttons need, with what does not fit behind an arrow; floating
+// it is a small window with a title. Bars of one side stand in rows of their own.
 class ToolBar : public QToolBar {
     Q_OBJECT
 public:
@@ -31,7 +31,7 @@ public:
 
     // Pixels of the screen; they matter for a floating bar only. A width of 0 or less keeps the one it had.
     void place(Dock dock, QPoint position, int width);
-    Dock dock() const;         // hidden while it is hidden
+    Dock dock() const;                      // hidden while it is hidden
     Dock homeDock() const { return dock_; } // where it stands when it is shown
     QPoint floatPosition() const;
     int floatWidth() const { return floatWidth_; }
@@ -107,7 +107,8 @@ class DockPane : public QDockWidget {
     Q_OBJECT
 public:
     // size is that of the body, docked and floating.
-    DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint position, QSize size, const QString& title, DockTitle titleBar);
+    DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint position, QSize size, const QString& title,
+             DockTitle titleBar);
 
     void place(Dock dock, QPoint position, QSize size);
     Dock dock() const;

@@ -53,8 +53,9 @@ Word createDockingPane(const Arguments& call) {
     }
     auto* body = new QWidget;
     const int flag = call.given(owTitleFlag) ? call.keyword(owTitleFlag) : static_cast<int>(OQUIT);
-    auto* view = new DockPane(window, dockOf(call.integer(1)), body, {pixelsAcross(call.integer(2)), pixelsDown(call.integer(3))},
-                              {pixelsAcross(call.integer(4)), pixelsDown(call.integer(5))}, call.keywordText(owTitle), titleOf(flag));
+    auto* view = new DockPane(
+        window, dockOf(call.integer(1)), body, {pixelsAcross(call.integer(2)), pixelsDown(call.integer(3))},
+        {pixelsAcross(call.integer(4)), pixelsDown(call.integer(5))}, call.keywordText(owTitle), titleOf(flag));
     Widget& pane = addWidget(Kind::dockingPane, panes, parent, view);
     pane.client = body;
     pane.titleFlag = flag;

@@ -98,6 +98,7 @@ public:
                               option.fontMetrics.elidedText(text, Qt::ElideRight, inner.width()));
         }
         if (!button.isEmpty()) paintButton(painter, button, row, option);
+        if (!view_->gridLines()) return;
         painter->setPen(palette.color(QPalette::Active, QPalette::Midlight).darker(104));
         painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
         if (isLabel) painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
@@ -346,6 +347,11 @@ void PropertyView::setRowHeight(int pixels) {
     horizontalHeader()->setFixedHeight(height);
 }
 int PropertyView::rowHeight() const { return verticalHeader()->defaultSectionSize(); }
+
+void PropertyView::setGridLines(bool shown) {
+    gridLines_ = shown;
+    viewport()->update();
+}
 
 void PropertyView::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);

@@ -58,6 +58,8 @@ public:
     int labelWidth() const;
     void setRowHeight(int pixels);
     int rowHeight() const;
+    void setGridLines(bool shown);
+    bool gridLines() const { return gridLines_; }
     void setReadOnly(bool readOnly) { readOnly_ = readOnly; }
 
     // Takes over what stands in an open editor, as if the user had pressed Return. Whoever is about to lose the table
@@ -115,6 +117,7 @@ private:
     bool dragging_ = false; // the splitter between the columns
     bool byProgram_ = false;
     bool readOnly_ = false;
+    bool gridLines_ = true;
     int rowHeight_ = 0; // 0 follows the font
 };
 

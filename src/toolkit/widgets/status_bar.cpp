@@ -24,7 +24,9 @@ public:
         update();
     }
     int paneCount() const { return static_cast<int>(edges_.size()); }
-    QString text(int pane) const { return pane >= 0 && pane < paneCount() ? texts_[static_cast<size_t>(pane)] : QString(); }
+    QString text(int pane) const {
+        return pane >= 0 && pane < paneCount() ? texts_[static_cast<size_t>(pane)] : QString();
+    }
     void setText(int pane, const QString& text) {
         texts_[static_cast<size_t>(pane)] = text;
         update(paneRect(pane));
@@ -55,8 +57,9 @@ protected:
             }
             painter.setPen(palette().color(QPalette::WindowText));
             const QRect inner = place.adjusted(7, 0, -5, 0);
-            painter.drawText(inner, Qt::AlignVCenter | Qt::TextSingleLine,
-                             fontMetrics().elidedText(texts_[static_cast<size_t>(pane)], Qt::ElideRight, inner.width()));
+            painter.drawText(
+                inner, Qt::AlignVCenter | Qt::TextSingleLine,
+                fontMetrics().elidedText(texts_[static_cast<size_t>(pane)], Qt::ElideRight, inner.width()));
         }
     }
 
@@ -67,7 +70,8 @@ protected:
         QString whole;
         for (int pane = 0; pane < paneCount(); ++pane) {
             const QRect place = paneRect(pane);
-            if (place.contains(help->pos()) && fontMetrics().horizontalAdvance(text(pane)) > place.width() - 12) whole = text(pane);
+            if (place.contains(help->pos()) && fontMetrics().horizontalAdvance(text(pane)) > place.width() - 12)
+                whole = text(pane);
         }
         QToolTip::showText(help->globalPos(), whole.toHtmlEscaped(), this);
         return true;
