@@ -687,7 +687,9 @@ void owEnqTreeViewLabel(int item, char* buffer, int length);
 /* -------------------------------------------------------------------------------------------- property list */
 
 int owAddPropertyToList(int list, int kind, const char* label, ...); /* owString, owPropertyValue, owPropertyWidget,
-                                                                        owPropertyStatus, owBackCol; returns the row */
+                                                                        owPropertyStatus, owBackCol, owHelp; owReadOnly 0
+                                                                        lets a button cell be typed into; returns the
+                                                                        row */
 void owRemovePropertyFromList(int list, int row);
 int owPropertyItemCount(int list);
 int owPropertyItemNumber(int list, const char* label); /* rows count from 1; 0 for none */

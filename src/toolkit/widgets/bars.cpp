@@ -57,9 +57,14 @@ private:
 
 void barChildAdded(Widget& bar, Widget& child) {
     if (!child.view) return;
-    child.place.placed = false;
     QAction* place = barOf(bar).addWidget(child.view);
     new ChildFollower(child.view, place);
+}
+
+// A widget on a bar keeps the width that the program gave it; its height is the bar's.
+void placeOnBar(Widget&, Widget& child) {
+    if (!child.view) return;
+    if (child.place.width > 0) child.view->setFixedWidth(child.place.width);
 }
 
 void barChildLeaving(Widget& bar, Widget& child) {
@@ -90,7 +95,8 @@ const Family toolBars{.name = "tool bar",
                       .text = barText,
                       .setText = setBarText,
                       .childAdded = barChildAdded,
-                      .childLeaving = barChildLeaving};
+                      .childLeaving = barChildLeaving,
+                      .placeChild = placeOnBar};
 
 Word createToolBar(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));

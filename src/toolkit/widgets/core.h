@@ -145,6 +145,13 @@ struct Family {
     void (*childLeaving)(Widget& widget, Widget& child) = nullptr;
     // Before the view is deleted, children first.
     void (*erased)(Widget& widget) = nullptr;
+    // A parent that places its children itself (bars, tabs, property lists): called once a child has its arguments, with
+    // place.width and height in pixels. The frame then neither places nor shows the child.
+    void (*placeChild)(Widget& widget, Widget& child) = nullptr;
+    // The status of a child is the parent's to show. False leaves it to the child's family.
+    bool (*setChildStatus)(Widget& widget, Widget& child, int status) = nullptr;
+    // An event of a child that has no callback for it.
+    void (*childEvent)(Widget& widget, Widget& child, Slot slot) = nullptr;
 };
 
 // What a family keeps of its own with a widget.
@@ -230,6 +237,8 @@ void addEventValue(float value, int whole);
 // Appends an event by identifier; 0 appends nothing.
 void postIdentifier(int identifier, int handle, int key = 0, int status = 0, QPointF position = {});
 bool hasCallback(const Widget& widget, Slot slot);
+// Status of the event that the program has in hand, if this widget raised it; else 0.
+int statusOfEvent(const Widget& widget);
 // Code of the last key or the mouse button that went to the program's windows, as OACTION.key gives it.
 int lastKey();
 // Runs Qt until a box that was opened is answered: no event of the program is read meanwhile.

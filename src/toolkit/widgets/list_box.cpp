@@ -188,7 +188,8 @@ Word createListBox(const Arguments& call) {
     if (call.given(owDescWidth)) view->descWidth = pixelsAcross(call.keyword(owDescWidth));
     constexpr std::pair<int, int> colours[] = {{owOffCol, offColour}, {owOnCol, onColour}, {owTextCol, textColour}};
     for (const auto& [keyword, property] : colours)
-        if (call.given(keyword)) setListProperty(list, property, {.integer = call.keyword(keyword)});
+        if (call.given(keyword))
+            setListProperty(list, property, {.integer = call.keyword(keyword), .real = 0, .text = {}});
     return handle;
 }
 

@@ -56,6 +56,11 @@ void childLeaving(Widget& list, Widget& child) {
         }
 }
 
+// A child waits, out of sight, until a row takes it as its cell.
+void placeChild(Widget&, Widget& child) {
+    if (child.view) child.view->hide();
+}
+
 void childEvent(Widget& list, Widget& child, Slot slot) {
     if (slot == Slot::general && list.view && child.view) viewOf(list).widgetChanged(child.view);
 }
@@ -64,6 +69,7 @@ const Family propertyLists{.name = "property list",
                            .get = getListProperty,
                            .set = setListProperty,
                            .childLeaving = childLeaving,
+                           .placeChild = placeChild,
                            .childEvent = childEvent};
 
 // What was typed into the widget of a cell is taken over as if the focus had left it.
@@ -96,7 +102,6 @@ Word createPropertyList(const Arguments& call) {
 void setCell(PropertyRow& row, Widget* cell) {
     row.handle = cell ? cell->handle : 0;
     row.widget = cell ? cell->view.data() : nullptr;
-    if (cell) cell->place.placed = false; // the table places it
 }
 
 // The settings that a call gives a row.

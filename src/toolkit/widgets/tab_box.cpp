@@ -18,7 +18,6 @@ Widget* pageAt(Widget& box, int index) {
 
 void pageAdded(Widget& box, Widget& page) {
     if (!page.view) return;
-    page.place.placed = false;
     QTabWidget& tabs = boxOf(box);
     const QSignalBlocker quiet(&tabs);
     QWidget* view = page.view;
@@ -37,14 +36,17 @@ void pageLeaving(Widget& box, Widget& page) {
 }
 
 // A page that is enabled or checked comes up; a hidden one takes its tab along.
-void setPageStatus(Widget& box, Widget& page, int status) {
+bool setPageStatus(Widget& box, Widget& page, int status) {
     QTabWidget& tabs = boxOf(box);
     const QSignalBlocker quiet(&tabs);
     const int index = tabs.indexOf(page.view);
     tabs.setTabVisible(index, status != OHIDDEN);
     tabs.setTabEnabled(index, status != OUNSELECTABLE);
     if (status == OSELECTABLE || status == OCHECKED) tabs.setCurrentIndex(index);
+    return true;
 }
+
+void placePage(Widget&, Widget&) {} // the tab box itself gives its pages their size
 
 // The title of the page in front.
 QString boxText(Widget& box) { return boxOf(box).tabText(boxOf(box).currentIndex()); }
@@ -56,6 +58,7 @@ const Family tabBoxes{.name = "tabbed dialogue box",
                       .naturalSize = boxSize,
                       .childAdded = pageAdded,
                       .childLeaving = pageLeaving,
+                      .placeChild = placePage,
                       .setChildStatus = setPageStatus};
 
 Word createTabDialogueBox(const Arguments& call) {
