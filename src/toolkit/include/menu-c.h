@@ -367,6 +367,10 @@ enum OKEYWORD {
     owDragDropCallback = 32214,
     owPosition = 32216, /* text enquiries: a position or line */
     owDialogueMode = 32218,
+    owRightIndent = 32219,        /* paragraph: twips, 20 to a point */
+    owFirstIndent = 32220,
+    owLeftIndent = 32221,
+    owBullet = 32222,             /* paragraph: 0 none, 1 disc, 2 digits, 3 letters */
     owStrikeout = 32223,
     owUnderline = 32224,
     owItalic = 32225,

@@ -97,10 +97,10 @@ constexpr KeywordRow keywords[] = {
     {KEYWORD(owItalic), I, 65, false, 0},
     {KEYWORD(owUnderline), I, 84, false, 0},
     {KEYWORD(owStrikeout), I, 79, false, 0},
-    {32222, "owKeyword32222", I, 46, false, 0},
-    {32221, "owKeyword32221", I, 62, false, 0},
-    {32220, "owKeyword32220", I, 61, false, 0},
-    {32219, "owKeyword32219", I, 63, false, 0},
+    {KEYWORD(owBullet), I, 46, false, 0},
+    {KEYWORD(owLeftIndent), I, 62, false, 0},
+    {KEYWORD(owFirstIndent), I, 61, false, 0},
+    {KEYWORD(owRightIndent), I, 63, false, 0},
     {KEYWORD(owDialogueMode), I, 50, false, 0},
     {KEYWORD(owPosition), I, 0, false, -1},
     {KEYWORD(owDragDropCallback), I, 23, false, 0},
@@ -211,7 +211,7 @@ struct OwnDefault {
     int value;
 };
 constexpr OwnDefault ownDefaults[] = {
-    {Fn::owCreatePushButton, owJustify, OCENTRE},     {Fn::owCreateValueEntry, owJustify, ORIGHT},
+    {Fn::owCreatePushButton, owJustify, OCENTRE},     {Fn::owCreateValueEntry, owJustify, OLEFT},
     {Fn::owCreatePanel, owScrollMode, ONOBARS},       {Fn::owCreateToolBar, owTitleFlag, OTITLE},
     {Fn::owCreateDockingPane, owTitleFlag, OQUIT},    {Fn::owCreateSlider, owType, OHORIZONTAL},
     {Fn::owCreateSpinner, owType, OVERTICAL},         {Fn::owCreateIcon, owType, OBUTTON},

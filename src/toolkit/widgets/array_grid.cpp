@@ -15,7 +15,7 @@
 #include <optional>
 #include <vector>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 const QColor defaultCellBack(0xFF, 0xFF, 0xF0), defaultCellBorder(0xD4, 0xD0, 0xC8), defaultSelected(0x64, 0x1E, 0x1E);
@@ -568,4 +568,4 @@ void ArrayGrid::mouseDoubleClickEvent(QMouseEvent* event) {
     if (at.isValid() && hooks_.doubleClicked) hooks_.doubleClicked(at.column() + 1, at.row() + 1);
 }
 
-} // namespace toolkit
+} // namespace orba

@@ -10,7 +10,7 @@
 #include <functional>
 #include <string>
 
-namespace toolkit {
+namespace orba {
 
 // Columns and rows count from 1 here as they do for programs.
 
@@ -102,4 +102,4 @@ private:
     int quiet_ = 0;
 };
 
-} // namespace toolkit
+} // namespace orba

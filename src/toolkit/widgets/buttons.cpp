@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <qdrawutil.h>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 constexpr int labelGap = 6;  // pixels between the mark of a toggle and its label
@@ -343,4 +343,4 @@ void IconButton::keyPressEvent(QKeyEvent* event) {
     QAbstractButton::keyPressEvent(event);
 }
 
-} // namespace toolkit
+} // namespace orba

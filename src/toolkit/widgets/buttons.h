@@ -10,7 +10,7 @@
 
 class QStylePainter;
 
-namespace toolkit {
+namespace orba {
 
 // The label with the letter of the accelerator marked for Qt, and every other "&" kept a plain one. A bar in the label
 // of a button is a line break.
@@ -102,4 +102,4 @@ private:
     IconLook look_;
 };
 
-} // namespace toolkit
+} // namespace orba

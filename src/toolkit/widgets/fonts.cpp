@@ -5,55 +5,55 @@
 #include <QHash>
 #include <array>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
-enum class Family { Desktop, Sans, Serif, Fixed };
+enum class FaceKind { Desktop, Sans, Serif, Fixed };
 
 struct FaceRow {
     const char* face;
-    Family family;
+    FaceKind family;
 };
 constexpr std::array<FaceRow, 16> knownFaces{{
-    {"MS Sans Serif", Family::Desktop},
-    {"Microsoft Sans Serif", Family::Desktop},
-    {"MS Shell Dlg", Family::Desktop},
-    {"MS Shell Dlg 2", Family::Desktop},
-    {"System", Family::Desktop},
-    {"Tahoma", Family::Desktop},
-    {"Segoe UI", Family::Desktop},
-    {"Arial", Family::Sans},
-    {"Helvetica", Family::Sans},
-    {"MS Serif", Family::Serif},
-    {"Times New Roman", Family::Serif},
-    {"Times", Family::Serif},
-    {"Courier New", Family::Fixed},
-    {"Courier", Family::Fixed},
-    {"Fixedsys", Family::Fixed},
-    {"Terminal", Family::Fixed},
+    {"MS Sans Serif", FaceKind::Desktop},
+    {"Microsoft Sans Serif", FaceKind::Desktop},
+    {"MS Shell Dlg", FaceKind::Desktop},
+    {"MS Shell Dlg 2", FaceKind::Desktop},
+    {"System", FaceKind::Desktop},
+    {"Tahoma", FaceKind::Desktop},
+    {"Segoe UI", FaceKind::Desktop},
+    {"Arial", FaceKind::Sans},
+    {"Helvetica", FaceKind::Sans},
+    {"MS Serif", FaceKind::Serif},
+    {"Times New Roman", FaceKind::Serif},
+    {"Times", FaceKind::Serif},
+    {"Courier New", FaceKind::Fixed},
+    {"Courier", FaceKind::Fixed},
+    {"Fixedsys", FaceKind::Fixed},
+    {"Terminal", FaceKind::Fixed},
 }};
 
 struct Substitutes {
-    Family family;
+    FaceKind family;
     std::array<const char*, 3> faces;
 };
 constexpr std::array<Substitutes, 3> substitutes{
-    {{Family::Sans, {"Liberation Sans", "Nimbus Sans", "DejaVu Sans"}},
-     {Family::Serif, {"Liberation Serif", "Nimbus Roman", "DejaVu Serif"}},
-     {Family::Fixed, {"Liberation Mono", "DejaVu Sans Mono", "Noto Sans Mono"}}}};
+    {{FaceKind::Sans, {"Liberation Sans", "Nimbus Sans", "DejaVu Sans"}},
+     {FaceKind::Serif, {"Liberation Serif", "Nimbus Roman", "DejaVu Serif"}},
+     {FaceKind::Fixed, {"Liberation Mono", "DejaVu Sans Mono", "Noto Sans Mono"}}}};
 
 bool installed(const QString& face) {
     static const QStringList families = QFontDatabase::families();
     return families.contains(face, Qt::CaseInsensitive);
 }
 
-QString substitute(Family family) {
-    if (family == Family::Desktop) return QApplication::font().family();
+QString substitute(FaceKind family) {
+    if (family == FaceKind::Desktop) return QApplication::font().family();
     for (const Substitutes& row : substitutes)
         if (row.family == family)
             for (const char* face : row.faces)
                 if (installed(QLatin1String(face))) return QLatin1String(face);
-    return QFontDatabase::systemFont(family == Family::Fixed ? QFontDatabase::FixedFont : QFontDatabase::GeneralFont)
+    return QFontDatabase::systemFont(family == FaceKind::Fixed ? QFontDatabase::FixedFont : QFontDatabase::GeneralFont)
         .family();
 }
 
@@ -64,8 +64,8 @@ QStringList lookUp(const QString& face) {
         if (face.compare(QLatin1String(row.face), Qt::CaseInsensitive) == 0) return {face, substitute(row.family)};
     return {face,
             substitute(face.contains(u"mono", Qt::CaseInsensitive) || face.contains(u"courier", Qt::CaseInsensitive)
-                           ? Family::Fixed
-                           : Family::Desktop)};
+                           ? FaceKind::Fixed
+                           : FaceKind::Desktop)};
 }
 
 } // namespace
@@ -99,4 +99,4 @@ QStringList availableFaces() {
     return faces;
 }
 
-} // namespace toolkit
+} // namespace orba

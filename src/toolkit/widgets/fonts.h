@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace toolkit {
+namespace orba {
 
 // The family names to look for, best first: the name itself, so that it can be told again, then what stands for it
 // here. "MS Sans Serif" and its kin are the desktop's own font, "Courier New" and its kin the nearest font of fixed
@@ -20,4 +20,4 @@ QFont namedFont(const QString& face, double points);
 // Faces that a font list offers, sorted.
 QStringList availableFaces();
 
-} // namespace toolkit
+} // namespace orba

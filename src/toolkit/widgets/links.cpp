@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 #include <QSyntaxHighlighter>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 const QRegularExpression& addresses() {
@@ -50,4 +50,4 @@ QString linkInText(const QString& text, int position) {
     return {};
 }
 
-} // namespace toolkit
+} // namespace orba

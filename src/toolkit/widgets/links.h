@@ -4,7 +4,7 @@
 #include <QString>
 #include <QTextDocument>
 
-namespace toolkit {
+namespace orba {
 
 // Shows addresses in the document in the link colour and underlined, or stops doing so. The text itself stays as it is.
 void showLinks(QTextDocument& document, bool on);
@@ -12,4 +12,4 @@ void showLinks(QTextDocument& document, bool on);
 // The address that covers the character position in the text, empty for none.
 QString linkInText(const QString& text, int position);
 
-} // namespace toolkit
+} // namespace orba

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <qdrawutil.h>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 constexpr int titleOffset = 9; // pixels from the left end of the boundary to the title
@@ -106,7 +106,7 @@ void Panel::fitContent() {
                    std::max(room.height(), look_.scrollVertical ? needed.bottom() + 1 : 0));
 }
 
-int Panel::titleHeight() const { return look_.title.isEmpty() ? 0 : fontMetrics().height(); }
+int Panel::titleHeight() const { return look_.title.isEmpty() ? 0 : QFontMetrics(look_.titleFont).height(); }
 
 QRect Panel::boundaryArea() const {
     QRect area = rect();
@@ -127,10 +127,11 @@ void Panel::paintEvent(QPaintEvent*) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawPixmap(line, look_.image);
     }
-    const QString title =
-        fontMetrics().elidedText(look_.title, Qt::ElideRight, line.width() - 2 * (titleOffset + titleGap));
+    const QString title = QFontMetrics(look_.titleFont)
+                              .elidedText(look_.title, Qt::ElideRight, line.width() - 2 * (titleOffset + titleGap));
     const QRect titleArea(line.left() + titleOffset, line.top() - titleHeight() / 2,
-                          fontMetrics().horizontalAdvance(title), titleHeight());
+                          QFontMetrics(look_.titleFont).horizontalAdvance(title), titleHeight());
+    painter.setFont(look_.titleFont);
     painter.save();
     if (!title.isEmpty()) // the line leaves room for the title
         painter.setClipRegion(QRegion(rect()) - titleArea.adjusted(-titleGap, 0, titleGap, 0));
@@ -172,4 +173,4 @@ bool Panel::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-} // namespace toolkit
+} // namespace orba

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPixmap>
 #include <QScrollArea>
 #include <QString>
@@ -9,7 +10,7 @@
 
 class QPainter;
 
-namespace toolkit {
+namespace orba {
 
 enum class Boundary { None, Single, Double, Pressed, Projected, Chisel, InverseChisel };
 
@@ -19,6 +20,7 @@ Boundary boundaryOf(int number);
 struct PanelLook {
     Boundary boundary = Boundary::None;
     QString title;          // stands in the upper line of the boundary
+    QFont titleFont;        // apart from the view's font, which children would inherit
     QColor line;            // of single and double boundaries; not valid: the text colour
     QColor fill;            // not valid: what lies behind shows through
     bool lineInset = false; // the boundary, or the fill, stays `inset` away from the edge
@@ -30,8 +32,7 @@ struct PanelLook {
 };
 
 // Draws any of the seven boundaries along the inner edge of `area`.
-void drawBoundary(QPainter& painter, const QRect& area, Boundary boundary, const QColor& line,
-                  const QPalette& palette);
+void drawBoundary(QPainter& painter, const QRect& area, Boundary boundary, const QColor& line, const QPalette& palette);
 int boundaryWidth(Boundary boundary); // pixels
 
 class Panel : public QWidget {
@@ -63,4 +64,4 @@ private:
     QWidget* sheet_ = nullptr;
 };
 
-} // namespace toolkit
+} // namespace orba

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 constexpr char16_t escapeBase = 0xDC00; // + the byte, which is 0x80 to 0xFF
@@ -96,4 +96,4 @@ std::string unifyLineEnds(std::string_view text) {
     return out;
 }
 
-} // namespace toolkit
+} // namespace orba

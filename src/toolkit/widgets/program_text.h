@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace toolkit {
+namespace orba {
 
 QString fromProgram(std::string_view bytes);
 std::string toProgram(QStringView text);
@@ -20,4 +20,4 @@ int utf8SequenceLength(std::string_view bytes, std::size_t at);
 // Every line end (CR LF, CR, LF) as LF.
 std::string unifyLineEnds(std::string_view text);
 
-} // namespace toolkit
+} // namespace orba

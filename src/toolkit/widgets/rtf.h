@@ -6,7 +6,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-namespace toolkit {
+namespace orba {
 
 // Twips are the unit of lengths in the format, 20 to a point; a document measures in pixels of 96 to the inch.
 inline constexpr double pixelsPerTwip = 96.0 / 1440.0;
@@ -22,4 +22,4 @@ void insertRtf(QTextCursor& cursor, const QByteArray& rtf, const QTextCharFormat
 QByteArray writeRtf(const QTextDocument& document);
 QByteArray writeRtf(const QTextCursor& selection);
 
-} // namespace toolkit
+} // namespace orba

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 constexpr int maxDepth = 512;
@@ -450,4 +450,4 @@ void insertRtf(QTextCursor& cursor, const QByteArray& rtf, const QTextCharFormat
     cursor.endEditBlock();
 }
 
-} // namespace toolkit
+} // namespace orba

@@ -6,7 +6,7 @@
 #include <QVector>
 #include <cmath>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 struct Tables {
@@ -169,4 +169,4 @@ QByteArray writeRtf(const QTextCursor& selection) {
     return write(*selection.document(), selection.selectionStart(), selection.selectionEnd());
 }
 
-} // namespace toolkit
+} // namespace orba

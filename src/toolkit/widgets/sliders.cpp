@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace toolkit {
+namespace orba {
 
 // ------------------------------------------------------------------------------------------------------ slider
 
@@ -313,4 +313,4 @@ void Spinner::leaveEvent(QEvent* event) {
     update();
 }
 
-} // namespace toolkit
+} // namespace orba

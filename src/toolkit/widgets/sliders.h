@@ -10,7 +10,7 @@
 
 class QPainter;
 
-namespace toolkit {
+namespace orba {
 
 // ------------------------------------------------------------------------------------------------------ slider
 
@@ -122,4 +122,4 @@ private:
     int timer_ = 0;
 };
 
-} // namespace toolkit
+} // namespace orba

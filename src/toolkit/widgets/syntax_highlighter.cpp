@@ -1,6 +1,6 @@
 #include "toolkit/widgets/syntax_highlighter.h"
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 // States that a line hands to the next one.
@@ -130,4 +130,4 @@ void SyntaxHighlighter::highlightBlock(const QString& text) {
     }
 }
 
-} // namespace toolkit
+} // namespace orba

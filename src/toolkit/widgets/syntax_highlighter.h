@@ -8,7 +8,7 @@
 #include <array>
 #include <functional>
 
-namespace toolkit {
+namespace orba {
 
 class SyntaxHighlighter : public QSyntaxHighlighter {
 public:
@@ -38,4 +38,4 @@ private:
     int revision_ = -1;
 };
 
-} // namespace toolkit
+} // namespace orba

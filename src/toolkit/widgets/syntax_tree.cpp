@@ -18,7 +18,7 @@
 #include <sstream>
 #include <vector>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 constexpr std::string_view headLine = "ORBAWIDG syntax 1";
@@ -188,4 +188,4 @@ bool saveSyntax(const std::string& path) {
     return std::rename(temporary.c_str(), path.c_str()) == 0;
 }
 
-} // namespace toolkit
+} // namespace orba

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
-namespace toolkit {
+namespace orba {
 
 inline constexpr int syntaxCategoryCount = 14;
 enum class SyntaxCategory {
@@ -66,4 +66,4 @@ SyntaxCategory syntaxCategoryOf(std::string_view word, SyntaxLanguage language);
 bool loadSyntax(const std::string& path);
 bool saveSyntax(const std::string& path);
 
-} // namespace toolkit
+} // namespace orba

@@ -12,7 +12,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 constexpr int plainMargin = 3; // pixels around the text of many lines
@@ -44,8 +44,9 @@ protected:
 
 } // namespace
 
-TextEntry::TextEntry(const TextOptions& options, const TextHooks& hooks, int singleHeight, QWidget* parent)
+TextEntry::TextEntry(const TextOptions& options, const TextHooks& hooks, int singleHeight, int height, QWidget* parent)
     : QFrame(parent), options_(options), hooks_(hooks), singleHeight_(singleHeight) {
+    resize(100, height);
     chooseField();
 }
 
@@ -263,6 +264,7 @@ void TextEntry::focusCame() {
     changedSinceFocus_ = false;
     reportedStart_ = reportedEnd_ = -1;
     showColours();
+    if (selectOnFocus && line_) line_->selectAll();
     if (hooks_.selected) hooks_.selected();
 }
 
@@ -517,4 +519,4 @@ void TextEntry::deleteSelection() {
     cursor.deleteChar();
 }
 
-} // namespace toolkit
+} // namespace orba

@@ -17,7 +17,7 @@
 
 class QMouseEvent;
 
-namespace toolkit {
+namespace orba {
 
 enum class TextKind { Security = -1, Standard = 0, Rich = 1 };
 enum class TextBorder { Default, ThreeD, TwoD, None };
@@ -58,10 +58,12 @@ struct TextFont { // absent parts stay as they are
 
 class TextEntry : public QFrame {
 public:
-    // `singleHeight`: pixels up to which a standard entry is a single line. `linkColour` colours links.
-    TextEntry(const TextOptions& options, const TextHooks& hooks, int singleHeight, QWidget* parent);
+    // `singleHeight`: pixels up to which a standard entry is a single line; `height`: what it will have at first.
+    TextEntry(const TextOptions& options, const TextHooks& hooks, int singleHeight, int height, QWidget* parent);
 
     const TextOptions& options() const { return options_; }
+    inline static bool selectOnFocus = false; // an entry that takes the focus selects its text
+    void setHooks(const TextHooks& hooks) { hooks_ = hooks; }
     void setOptions(const TextOptions& options); // may exchange the widget inside; the text stays
     bool singleLine() const { return line_ != nullptr; }
     bool rich() const { return options_.kind == TextKind::Rich; }
@@ -122,11 +124,6 @@ public:
     std::unique_ptr<QTextDocument> printable(int pointSize, bool selectionOnly) const; // a copy to print
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
-    void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
     struct Quiet { // while one lives, no hook is called
         explicit Quiet(TextEntry& entry) : entry(entry) { ++entry.quiet_; }
         ~Quiet() { --entry.quiet_; }
@@ -134,6 +131,11 @@ private:
         Quiet& operator=(const Quiet&) = delete;
         TextEntry& entry;
     };
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
     bool wantsSingleLine() const;
     void chooseField();
     void makeLine();
@@ -173,4 +175,4 @@ private:
     mutable bool indexed_ = false;
 };
 
-} // namespace toolkit
+} // namespace orba

@@ -13,7 +13,7 @@
 #include <QTextList>
 #include <cmath>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 QTextCharFormat charFormat(const TextFont& font) {
@@ -269,4 +269,4 @@ std::unique_ptr<QTextDocument> TextEntry::printable(int pointSize, bool selectio
     return copy;
 }
 
-} // namespace toolkit
+} // namespace orba

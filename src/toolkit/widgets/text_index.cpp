@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 std::string foldCase(std::string_view text) {
@@ -95,4 +95,4 @@ int TextIndex::find(std::string_view wanted, int from, bool matchCase) const {
     return found == std::string::npos ? 0 : int(found) + 1;
 }
 
-} // namespace toolkit
+} // namespace orba

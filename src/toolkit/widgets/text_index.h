@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace toolkit {
+namespace orba {
 
 class TextIndex {
 public:
@@ -41,4 +41,4 @@ private:
     mutable std::string folded_; // lower case, made when first asked for
 };
 
-} // namespace toolkit
+} // namespace orba

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 const QColor creditRed(0xC0, 0x10, 0x10);
@@ -245,4 +245,4 @@ void ValueEntry::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::StyleChange) showColours();
 }
 
-} // namespace toolkit
+} // namespace orba

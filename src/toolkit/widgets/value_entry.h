@@ -11,7 +11,7 @@
 
 class QKeyEvent;
 
-namespace toolkit {
+namespace orba {
 
 struct ValueOptions {
     ValueFormat format;
@@ -79,4 +79,4 @@ private:
     bool edited_ = false;
 };
 
-} // namespace toolkit
+} // namespace orba

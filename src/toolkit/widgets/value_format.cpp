@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <cstdio>
 
-namespace toolkit {
+namespace orba {
 namespace {
 
 struct TypeRow {
@@ -183,4 +183,4 @@ bool valueCharacter(char32_t character, const ValueFormat& format) {
     return signsOfUnits.find(character) != std::u32string_view::npos;
 }
 
-} // namespace toolkit
+} // namespace orba

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace toolkit {
+namespace orba {
 
 // The order is that of the type numbers a program passes.
 enum class ValueType {
@@ -53,4 +53,4 @@ std::optional<double> parseValue(std::string_view text, const ValueFormat& forma
 // Whether the character may stand in a number of this type (digits of its base, sign, point, exponent, brackets, unit).
 bool valueCharacter(char32_t character, const ValueFormat& format);
 
-} // namespace toolkit
+} // namespace orba
