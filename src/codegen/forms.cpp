@@ -1,0 +1,257 @@
+// The walk that every language's source follows: identifiers, form routines with their widgets, user colours.
+
+#include "codegen/generation.h"
+#include "codegen/markers.h"
+#include "codegen/walk.h"
+
+#include "project/colours.h"
+#include "project/host.h"
+#include "project/preferences.h"
+
+#include <algorithm>
+
+std::string masterName;
+
+namespace {
+
+// How a widget's size becomes the size of its creation call. With `expand` on, a size that the toolkit works out
+// itself is written as 0.
+enum SizingRule {
+    AS_IT_IS,       // both sizes as they are
+    BY_ORIGIN,      // each size that the origin centres gives way
+    WIDTH_GIVES_WAY, // the width alone, wherever the origin is
+    LIST_BY_ORIGIN, // as by origin, with a width of 1 where that is 0
+};
+
+struct WidgetText {
+    WidgetType type;
+    SizingRule rule;
+    std::string_view noun;      // of the comment in Fortran 90 and C
+    std::string_view nounFixed; // in Fortran 77; empty for no comment
+};
+
+constexpr WidgetText WIDGET_TEXTS[] = {
+    {TYPE_BUTTON, BY_ORIGIN, "button", "button"},
+    {TYPE_TOGGLE, WIDTH_GIVES_WAY, "toggle button", "toggle button"},
+    {TYPE_TEXT_ENTRY, BY_ORIGIN, "text widget", "editable text entry"},
+    {TYPE_TEXT_LABEL, BY_ORIGIN, "text widget", "text label"},
+    {TYPE_VALUE_ENTRY, WIDTH_GIVES_WAY, "value entry", "editable value entry"},
+    {TYPE_VALUE_LABEL, WIDTH_GIVES_WAY, "value entry", "static value entry"},
+    {TYPE_ICON, BY_ORIGIN, "icon", "icon"},
+    {TYPE_LIST_BOX, LIST_BY_ORIGIN, "list box", "list box"},
+    {TYPE_SLIDER, BY_ORIGIN, "slider", "slider"},
+    {TYPE_PANEL, AS_IT_IS, "panel", "panel"},
+    {TYPE_COMBO_BOX, WIDTH_GIVES_WAY, "combo box", "combo box"},
+    {TYPE_RADIO_BOX, BY_ORIGIN, "radio box child", "radio box child"},
+    {TYPE_GRAPHICS_FRAME, BY_ORIGIN, "graphics frame", "graphics frame"},
+    {TYPE_TEXT_ARRAY, BY_ORIGIN, "text array", "text array"},
+    {TYPE_VALUE_ARRAY, BY_ORIGIN, "value array", "value array"},
+    {TYPE_TOOL_BAR, AS_IT_IS, "ToolBar", "ToolBar"},
+    {TYPE_TAB_BOX, BY_ORIGIN, "tabdded dialogue box", "tabbed dialogue box"},
+    {TYPE_GAUGE, BY_ORIGIN, "gauge", "gauge"},
+    {TYPE_PROGRESS_BAR, BY_ORIGIN, "progress bar", "progress bar"},
+    {TYPE_TTY_ENTRY, BY_ORIGIN, "TTY entry", "TTY entry"},
+    {TYPE_TREE_VIEW, BY_ORIGIN, "tree view", "tree view"},
+    {TYPE_TABLE_BOX, BY_ORIGIN, "table box view", "table box view"},
+    {TYPE_TOOL_SEPARATOR, AS_IT_IS, "ToolBar Separator", "ToolBar Separator"},
+    {TYPE_PANE, AS_IT_IS, "Docking Pane", ""},
+};
+
+const WidgetText* widgetText(int type) {
+    static const auto byType = [] {
+        std::array<const WidgetText*, TYPE_PANE - TYPE_FORM + 1> rows{};
+        for (const WidgetText& row : WIDGET_TEXTS) rows[static_cast<std::size_t>(row.type - TYPE_FORM)] = &row;
+        return rows;
+    }();
+    return type >= TYPE_FORM && type <= TYPE_PANE ? byType[static_cast<std::size_t>(type - TYPE_FORM)] : nullptr;
+}
+
+void applySizing(Placed& widget, SizingRule rule) {
+    const WidgetNode& node = widget.node;
+    if (node.expand == 0 || rule == AS_IT_IS) return;
+    if (rule == WIDTH_GIVES_WAY) {
+        widget.width = 0;
+        return;
+    }
+    if (node.hpos == 0) widget.width = rule == LIST_BY_ORIGIN ? 1 : 0;
+    if (node.vpos == 0) widget.height = 0;
+}
+
+void writeComment(Generation& g, const Placed& widget, const WidgetText& text) {
+    if (g.language.commentsLikeFree) {
+        write(g, "\n%s Create %s %s child of %s\n", g.language.commentPrefix, text.noun, widget.node.name, widget.parent);
+    } else if (widget.node.type == TYPE_BUTTON && widget.node.onToolbar == 1) {
+        write(g, "C create ToolBar Button %s child of %s\n", widget.node.name, widget.parent);
+    } else if (!text.nounFixed.empty()) {
+        write(g, "C create %s %s child of %s\n", text.nounFixed, widget.node.name, widget.parent);
+    }
+}
+
+void writeDefineCalls(Generation& g, const WidgetNode& node) {
+    for (std::size_t i = 0; i < DEFINE_ORDER.size(); ++i) {
+        const WidgetSlot slot = DEFINE_ORDER[i];
+        const bool defined = slot == SLOT_GENERAL ? needsGeneralCallback(node) : !node.slots[slot].empty();
+        if (defined) write(g, g.language.defineCalls[i], node.name, node.name);
+    }
+    for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
+        for (std::size_t slot = 0; slot < ENTRY_SLOTS; ++slot) {
+            if (!entry->slots[slot].empty()) write(g, g.language.defineEntryCalls[slot], entry->name, entry->name);
+        }
+    }
+}
+
+void writeStatus(Generation& g, const WidgetNode& node) {
+    if (node.type == TYPE_FORM || node.type == TYPE_MAIN_PANEL) return;
+    const std::string_view status = nameOf(g.language.statusNames, node.initialState);
+    if (!status.empty()) write(g, g.language.setStatus, node.name, status);
+}
+
+// A widget's own text; what hangs below it follows by the walk.
+void writeWidget(Generation& g, const Placed& widget) {
+    const int type = widget.node.type;
+    if (type >= TYPE_FORM && type <= TYPE_PANE) {
+        if (const WidgetText* text = widgetText(type)) writeComment(g, widget, *text);
+        const CreationWriter create = g.creation[static_cast<std::size_t>(type - TYPE_FORM)];
+        if (create != nullptr) create(g, widget);
+    }
+    writeDefineCalls(g, widget.node);
+    writeStatus(g, widget.node);
+}
+
+} // namespace
+
+const Placed placedForm(WidgetNode& form) { return {form, form, &form, form.name, form.width, form.height}; }
+
+void writeFormRoutine(Generation& g, WidgetNode& form) {
+    preOrder(
+        &form,
+        [&](WidgetNode& node, WidgetNode* above) {
+            if (above == nullptr) {
+                writeWidget(g, placedForm(form));
+                return;
+            }
+            // Tool bars and panes live on the window itself, not on its main panel.
+            const bool onWindow = node.type == TYPE_TOOL_BAR || node.type == TYPE_PANE;
+            Placed widget{node, form, above, onWindow ? form.name : above->name, node.width, node.height};
+            if (const WidgetText* text = widgetText(node.type)) applySizing(widget, text->rule);
+            writeWidget(g, widget);
+        },
+        Siblings::LEFT);
+}
+
+void writeIdentifiers(Generation& g, WidgetNode& form) {
+    preOrder(
+        &form,
+        [&](const WidgetNode& node, const WidgetNode*) {
+            write(g, g.language.declareWidget, node.name);
+            if (node.type == TYPE_FORM && node.statusBar != nullptr) {
+                write(g, g.language.declareWidget, node.statusBar->name);
+            }
+            for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
+                const bool structure = entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN;
+                if (node.type == TYPE_TREE_VIEW && structure) continue;
+                write(g, g.language.declareEntry, entry->name);
+            }
+        },
+        Siblings::LEFT);
+}
+
+namespace {
+
+constexpr int COLOUR_SCALE = 255;
+
+struct Colour {
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    bool operator==(const Colour&) const = default;
+};
+std::array<Colour, COLOURS> startColours;
+
+Colour scaled(float red, float green, float blue) {
+    return {static_cast<int>(red * COLOUR_SCALE), static_cast<int>(green * COLOUR_SCALE),
+            static_cast<int>(blue * COLOUR_SCALE)};
+}
+
+} // namespace
+
+void noteStartColours() {
+    for (int index = 0; index < COLOURS; ++index) {
+        float red = 0;
+        float green = 0;
+        float blue = 0;
+        host.enquireColour(index, red, green, blue);
+        startColours[static_cast<std::size_t>(index)] = scaled(red, green, blue);
+    }
+}
+
+// Fortran 77 programs start from black, whatever the toolkit starts with.
+void writeUserColours(Generation& g) {
+    bool commented = false;
+    for (int index = FIXED_COLOURS; index < COLOURS; ++index) {
+        float red = 0;
+        float green = 0;
+        float blue = 0;
+        host.enquireColour(index, red, green, blue);
+        const Colour start = g.language.code == 77 ? Colour() : startColours[static_cast<std::size_t>(index)];
+        if (scaled(red, green, blue) == start) continue;
+        if (!commented) g.out += g.language.colourComment;
+        commented = true;
+        write(g, g.language.defineColour, index, red, green, blue);
+    }
+}
+
+void writeGenerateCalls(Generation& g) {
+    for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) {
+        if (!isDynamic(*form)) write(g, g.language.generateForm, form->name);
+    }
+}
+
+void rememberMaster(Generation& g, const WidgetNode& form) {
+    g.masterX = form.xpos;
+    g.masterY = form.ypos;
+    masterName = form.name;
+}
+
+void borrowMasterName(WidgetNode& form) {
+    if (form.parentName == "NONE") form.parentName = masterName;
+}
+
+// Dynamic forms of Fortran 90 keep the name that stands for their parent in their module.
+void returnMasterName(const Generation& g, WidgetNode& form) {
+    const bool inOwnModule = g.language.code == 90 && isDynamic(form);
+    if (form.parentName == masterName && !inOwnModule) form.parentName = "NONE";
+}
+
+void writeStatementSplit(Generation& g) {
+    appendSplit(g.out, g.statement, g.language.split);
+    g.statement.clear();
+}
+
+void pasteCode(Generation& g, PastedCode place, std::string_view code, bool indented) {
+    g.linesCounted += static_cast<int>(
+        std::count(g.out.begin() + static_cast<std::ptrdiff_t>(g.linesCountedTo), g.out.end(), '\n'));
+    g.linesCountedTo = g.out.size();
+    place.firstLine = g.linesCounted + 1;
+    place.lines = 1;
+    place.indent = indented ? std::max(preferences.globalIndent, 0) : 0;
+
+    const std::string indent(static_cast<std::size_t>(place.indent), ' ');
+    g.out += indent;
+    for (const char c : code) {
+        if (c == '\r') continue;
+        g.out += c;
+        if (c != '\n') continue;
+        g.out += indent;
+        ++place.lines;
+    }
+    g.out += '\n';
+    g.map.push_back(std::move(place));
+}
+
+void writeBlock(Generation& g, CodeBlockIndex block) {
+    const CodeBlock& code = project.codeBlocks[block];
+    if (code.empty()) return;
+    g.out += g.language.blockComments[block];
+    pasteCode(g, {.kind = PastedCode::PROJECT_BLOCK, .index = block, .widget = {}, .entry = {}}, code, false);
+}

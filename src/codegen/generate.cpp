@@ -1,0 +1,171 @@
+// One generation from beginning to end: the file is chosen, the text is put together in memory, and only then the file
+// is replaced.
+
+#include "codegen/generate.h"
+
+#include "codegen/generation.h"
+#include "codegen/quotes.h"
+#include "codegen/resources.h"
+#include "codegen/walk.h"
+
+#include "platform/paths.h"
+#include "project/host.h"
+
+#include <algorithm>
+#include <ctime>
+
+namespace {
+
+constexpr std::string_view DESIGNER_VERSION = " v8.5";
+
+// "Tue Nov 24 21:02:20 2026\n", whatever the locale.
+std::string localTime() {
+    constexpr const char* DAYS[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
+    constexpr const char* MONTHS[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                      "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    const std::time_t now = std::time(nullptr);
+    const std::tm* time = std::localtime(&now);
+    if (time == nullptr) return "\n";
+    const auto two = [](int number) { return std::string(number < 10 ? "0" : "") + std::to_string(number); };
+    std::string text;
+    put(text, "%s %s %2d %s:%s:%s %d\n", DAYS[time->tm_wday], MONTHS[time->tm_mon], time->tm_mday, two(time->tm_hour),
+        two(time->tm_min), two(time->tm_sec), time->tm_year + 1900);
+    return text;
+}
+
+void writeProgram(Generation& g) {
+    write(g, "%s Program %s\n", g.language.commentPrefix, g.base);
+    write(g, "%s Last created on %s", g.language.commentPrefix, localTime());
+    write(g, "%s Using ORBAWIDG Designer Version %s\n\n", g.language.commentPrefix, DESIGNER_VERSION);
+    g.language.programHead(g);
+    g.language.actionLoop(g);
+    g.language.termination(g);
+    writeBlock(g, BLOCK_USER_ROUTINES);
+}
+
+bool mayBeMaster(const WidgetNode& form) { return !isDynamic(form) && !isMdiChild(form) && form.formType != FORM_STATIC_SDI; }
+
+// The head of the chain once the master form stands first; the other forms keep their order. Null without a master.
+WidgetNode* masterFirst(WidgetNode* forms) {
+    if (forms == nullptr || mayBeMaster(*forms)) return forms;
+    for (WidgetNode* before = forms; before->next != nullptr; before = before->next) {
+        WidgetNode* master = before->next;
+        if (!mayBeMaster(*master)) continue;
+        before->next = master->next;
+        master->next = forms;
+        return master;
+    }
+    return nullptr;
+}
+
+void noteOpenedForms(Generation& g) {
+    for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) {
+        g.formsByParent[form->parentName].push_back(form);
+    }
+}
+
+bool anyWindowCallback() {
+    bool any = false;
+    preOrder(project.forms, [&](const WidgetNode& node, const WidgetNode*) { any = any || hasWindowCode(node); });
+    return any;
+}
+
+} // namespace
+
+const Language& languageOf(int code) { return code == 77 ? FORTRAN_77 : code == 90 ? FORTRAN_90 : C_LANGUAGE; }
+
+const char* sourceExtension(int language) { return languageOf(language).extension.data(); }
+const char* sourceFilter(int language) { return languageOf(language).fileFilter.data(); }
+
+std::string projectKind() {
+    const char* language = project.projectLanguage == 77 ? "F77" : project.projectLanguage == 90 ? "F90" : "C";
+    const char* platform = project.projectPlatform == 'w' ? "Windows" : project.projectPlatform == 'x' ? "X-Windows" : "GLX-Windows";
+    return std::string(language) + " " + platform + " Project";
+}
+
+std::string sourcePath() {
+    return project.sourceName.empty() ? std::string() : joinPath(std::string_view(project.sourceDir), project.sourceName);
+}
+
+std::string basePath(std::string_view path) { return withoutExtension(path); }
+
+const PastedCode* pastedCodeAt(const GeneratedText& generated, int line) {
+    const auto behind = std::upper_bound(generated.map.begin(), generated.map.end(), line,
+                                         [](int wanted, const PastedCode& place) { return wanted < place.firstLine; });
+    if (behind == generated.map.begin()) return nullptr;
+    const PastedCode& place = *std::prev(behind);
+    return line < place.firstLine + place.lines ? &place : nullptr;
+}
+
+bool generateText(const std::string& path, GeneratedText& generated) {
+    generated.text.clear();
+    generated.map.clear();
+    WidgetNode* forms = masterFirst(project.forms);
+    if (forms == nullptr) return false;
+    project.forms = forms;
+
+    const Language& language = languageOf(project.projectLanguage);
+    SavedStrings saved = escapeQuotes(project.forms, language.code);
+    Generation g{.language = language, .out = generated.text, .map = generated.map, .base = basePath(path)};
+    g.windows = project.projectPlatform == 'w';
+    g.windowCallbacks = anyWindowCallback();
+    for (const CreationRow& row : language.creation) g.creation[static_cast<std::size_t>(row.type - TYPE_FORM)] = row.write;
+    noteOpenedForms(g);
+    writeProgram(g);
+    restoreQuotes(saved);
+    return true;
+}
+
+bool chooseSourceFile() {
+    std::string folder = project.sourceDir;
+    std::string name = project.sourceName;
+    for (;;) {
+        if (!host.fileDialogue("Create ORBAWIDG code", sourceFilter(project.projectLanguage), true, folder, name)) return false;
+        if (name.empty()) return false;
+        if (name.find('.') == std::string::npos) name += sourceExtension(project.projectLanguage);
+        const bool taken = fileReadable(joinPath(std::string_view(folder), name));
+        if (!taken || host.messageBox("Overwrite existing file?", "File already exists. Overwrite?", BOX_QUESTION,
+                                      BOX_YES_NO) == ANSWER_YES) {
+            project.sourceDir = folder;
+            project.sourceName = name;
+            return true;
+        }
+        folder = project.sourceDir;
+        name = project.sourceName;
+    }
+}
+
+namespace {
+
+bool reportUnwritable() {
+    host.errorBox("Error during save", "File to save code to could not be created or opened.|Make sure the file is not open "
+                                       "in another application, then try again");
+    return false;
+}
+
+} // namespace
+
+bool generateSource(const std::string& path, const std::string& fileName, GeneratedText* generated) {
+    GeneratedText own;
+    GeneratedText& text = generated != nullptr ? *generated : own;
+    if (!mayWriteFile(path)) return reportUnwritable();
+    host.busyCursor(true);
+    if (!generateText(path, text)) {
+        host.busyCursor(false);
+        host.errorBox("Error during save", "The project has no master form, so there is no program to generate.|Set the Form "
+                                           "Type of one form to Master, then try again");
+        return false;
+    }
+    const std::string base = basePath(path);
+    const std::string title = project.projectTitle.empty() ? withoutExtension(fileName) : project.projectTitle;
+    const bool written = replaceFile(path, text.text);
+    if (written) {
+        project.projectTitle = title;
+        project.sourceStale = 0;
+        project.exeTime = 0;
+        if (!writeManifest(base, title)) reportUnwritable();
+        if (!writeResourceScript(base)) reportUnwritable();
+    }
+    host.busyCursor(false);
+    return written || reportUnwritable();
+}

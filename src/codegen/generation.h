@@ -1,0 +1,201 @@
+// What the three languages share while one source is generated: the language's row of texts and writers, the text so
+// far, and the flags that live for the length of one generation.
+#pragma once
+
+#include "codegen/generate.h"
+#include "codegen/split.h"
+#include "codegen/text.h"
+#include "codegen/values.h"
+
+#include <array>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+struct Generation;
+
+// A widget with what its place in the tree says about it.
+struct Placed {
+    WidgetNode& node;
+    WidgetNode& form;
+    const WidgetNode* above; // the record it hangs under; the form itself for a form
+    std::string_view parent; // name of the parent that its creation names
+    int width;               // of the creation call, by the sizing rule of its type
+    int height;
+};
+
+// How the branches of the action loop's dispatch are spelled.
+struct DispatchTexts {
+    std::string_view ifHead; // up to the name of the widget
+    std::string_view elseHead;
+    std::string_view headEnd;
+    std::string_view ifMasterClosed; // the branch on a master window being closed
+    std::string_view elseMasterClosed;
+    std::string_view masterClosedEnd; // behind its code
+    std::string_view branchEnd;       // ahead of an "else if" head
+    std::string_view enquireState;
+    std::string_view ifStatus; // up to the digit
+    std::string_view elseStatus;
+    std::string_view statusEnd;     // behind the digit
+    std::string_view statusCodeEnd; // behind the code of one test
+    std::string_view statusChainEnd;
+    std::string_view chainEnd;
+};
+
+// The comments ahead of the code blocks, each a whole piece of text; empty where none of its own is written.
+using BlockComments = std::array<std::string_view, CODE_BLOCKS>;
+
+using CreationWriter = void (*)(Generation&, const Placed&);
+
+struct CreationRow {
+    WidgetType type;
+    CreationWriter write;
+};
+
+// One language: fixed texts, formats with the places named behind them, and writers for what has a shape of its own.
+struct Language {
+    int code; // 77, 90 or 99
+    std::string_view commentPrefix;
+    std::string_view extension;
+    std::string_view fileFilter;
+    SplitRule split;
+    bool commentsLikeFree; // creation comments in the words of Fortran 90
+    BlockComments blockComments;
+
+    std::string_view declareWidget; // name
+    std::string_view declareEntry;  // name
+    std::array<std::string_view, 12> defineCalls; // name, name; in DEFINE_ORDER
+    std::array<std::string_view, ENTRY_SLOTS> defineEntryCalls;
+    std::string_view setStatus; // name, status
+    std::span<const NamedValue> statusNames;
+    std::string_view colourComment;
+    std::string_view defineColour; // index, red, green, blue
+    std::string_view generateForm; // name
+    std::string_view listComment;  // name of the list box
+    std::string_view comboComment; // name of the combo box
+    std::string_view treeComment;  // name of the tree view
+    DispatchTexts dispatch;
+
+    void (*programHead)(Generation&);
+    void (*actionLoop)(Generation&);
+    void (*termination)(Generation&);
+    std::span<const CreationRow> creation;
+    void (*menuBar)(Generation&, const MenuEntryRec& bar, const WidgetNode& form);
+    void (*pullDown)(Generation&, const MenuEntryRec& menu, std::string_view above);
+    void (*menuEntry)(Generation&, const MenuEntryRec& entry, std::string_view owner);
+    void (*menuSeparator)(Generation&, const MenuEntryRec& separator, std::string_view owner);
+    void (*treeEntry)(Generation&, const WidgetNode& tree, const MenuEntryRec& entry, std::string_view parent);
+    void (*listEntry)(Generation&, const WidgetNode& list, const ListEntryRec& entry);
+};
+
+extern const Language FORTRAN_90;
+extern const Language FORTRAN_77;
+extern const Language C_LANGUAGE;
+const Language& languageOf(int code);
+
+struct Generation {
+    const Language& language;
+    std::string& out;            // the source so far
+    std::vector<PastedCode>& map;
+    std::string base;            // path of the source without its extension
+    bool windows = false;        // the platform is Windows
+    bool masterWritten = false;  // from then on a form is a dialogue box
+    bool branchOpen = false;     // the dispatch has its first branch
+    bool branchUnended = false;  // the last branch still waits for its end
+    int masterX = 0;             // place of the master, once it is written
+    int masterY = 0;
+    bool windowCallbacks = false; // some widget has code in a window slot
+    std::string statement;        // being put together, to be split
+    std::size_t linesCountedTo = 0; // place in `out` up to which...
+    int linesCounted = 0;           // ...line ends are counted
+    // The forms that each menu entry opens, in chain order, by the parent name they had at the start.
+    std::unordered_map<std::string, std::vector<const WidgetNode*>> formsByParent;
+    std::array<CreationWriter, TYPE_PANE - TYPE_FORM + 1> creation{}; // by type
+};
+
+// Name of the master form written last; outlives a generation.
+extern std::string masterName;
+
+// --- Writing. A format's places are filled as in text.h.
+
+template <class... Values> void write(Generation& g, std::string_view format, const Values&... values) {
+    put(g.out, format, values...);
+}
+template <class... Values> void add(Generation& g, std::string_view format, const Values&... values) {
+    put(g.statement, format, values...);
+}
+void writeStatementSplit(Generation& g); // and begins the next one
+
+// Pastes a block with its comment when it holds code.
+void writeBlock(Generation& g, CodeBlockIndex block);
+// Pastes code; indented, every line gets the blanks that the user prefers.
+void pasteCode(Generation& g, PastedCode place, std::string_view code, bool indented);
+
+// --- Enquiries.
+
+bool isDynamic(const WidgetNode& form);
+bool isMdiChild(const WidgetNode& form);
+bool isMaster(const WidgetNode& form);
+bool hasStatusBar(const WidgetNode& form); // one that a Windows program shows
+bool checksConfiguration();                // the program looks for its configuration file itself
+bool hasWindowCode(const WidgetNode& node);
+bool needsGeneralCallback(const WidgetNode& node); // for its own code or for a window slot
+bool hasListEntries(const WidgetNode& list);       // of the user's own
+std::uint64_t typesBelow(WidgetNode& form);        // one bit for each type of the form and below
+bool holdsType(std::uint64_t types, WidgetType type);
+int wholeNumber(float value); // truncated, held to what an integer can be
+const Placed placedForm(WidgetNode& form);
+
+// The font of a widget asks for a statement. `standardFace`: it has the standard face and size.
+bool hasStandardFace(const WidgetNode& node);
+bool needsFont(const Generation& g, const Placed& widget);
+bool isPlainText(const WidgetNode& node); // text entry or label that is not rich text
+
+// The picture that a form or icon shows: kind of image, its name, and whether that is the record's `icon`.
+struct Picture {
+    int kind;
+    std::string_view image;
+    bool isIcon;
+};
+Picture formPicture(const Generation& g, const WidgetNode& form);
+Picture iconPicture(const Generation& g, const WidgetNode& icon);
+Picture toolPicture(const WidgetNode& icon);
+
+// --- The shared walk.
+
+void writeHeader(Generation& g);
+void writeIdentifiers(Generation& g, WidgetNode& form);
+void writeFormRoutine(Generation& g, WidgetNode& form); // with all below it, in pre-order
+void writeUserColours(Generation& g);
+void writeGenerateCalls(Generation& g);
+void writeDispatch(Generation& g);
+void writeMenu(Generation& g, const WidgetNode& form);
+void writeListEntries(Generation& g, const WidgetNode& list, std::string_view comment);
+void writeTreeEntries(Generation& g, const WidgetNode& tree);
+
+// Parent name of a dialogue while it is written: the master's for one that names none; and back again.
+void borrowMasterName(WidgetNode& form);
+void returnMasterName(const Generation& g, WidgetNode& form);
+void rememberMaster(Generation& g, const WidgetNode& form);
+
+// Sizes of an array's cells: one item for all when they agree, else one for each column and row in step.
+struct CellSize {
+    int column; // from 1, 0 for all
+    int row;
+    int width;
+    int height;
+    bool changed; // differs from the item before
+};
+std::vector<CellSize> cellSizes(WidgetNode& array);
+
+// Columns of a table box. The label is absent once the labels have run out.
+struct TableColumn {
+    int number; // from 1
+    int width;
+    bool labelled;
+    std::string_view label;
+};
+std::vector<TableColumn> tableColumns(WidgetNode& table);

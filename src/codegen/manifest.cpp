@@ -1,0 +1,42 @@
+// The application manifest, which selects the common controls of version 6 for the built program.
+
+#include "codegen/generate.h"
+#include "codegen/resources.h"
+#include "codegen/text.h"
+
+namespace {
+
+// Every line ends in a blank.
+constexpr std::string_view MANIFEST = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?> \n"
+                                      "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\"> \n"
+                                      "<assemblyIdentity \n"
+                                      "\tversion=\"1.0.0.0\" \n"
+                                      "\tprocessorArchitecture=\"%s\" \n"
+                                      "\tname=\"Norvane_Systems.Wdesign.%s\" \n"
+                                      "\ttype=\"win32\" \n"
+                                      "/> \n"
+                                      " \n"
+                                      "<description>ORBA Menu Designer application</description> \n"
+                                      "<dependency> \n"
+                                      "<dependentAssembly> \n"
+                                      "<assemblyIdentity \n"
+                                      "\ttype=\"win32\" \n"
+                                      "\tname=\"Microsoft.Windows.Common-Controls\" \n"
+                                      "\tversion=\"6.0.0.0\" \n"
+                                      "\tprocessorArchitecture=\"%s\" \n"
+                                      "\tpublicKeyToken=\"6595b64144ccf1df\" \n"
+                                      "\tlanguage=\"*\" \n"
+                                      "/> \n"
+                                      " \n"
+                                      "</dependentAssembly> \n"
+                                      "</dependency> \n"
+                                      "</assembly> \n";
+
+} // namespace
+
+bool writeManifest(const std::string& base, std::string_view title) {
+    const std::string& architecture = generationSettings.architecture;
+    std::string text;
+    put(text, MANIFEST, architecture, title, architecture);
+    return replaceFile(base + ".exe.manifest", text);
+}
