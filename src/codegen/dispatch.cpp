@@ -2,9 +2,9 @@
 
 #include "codegen/generation.h"
 #include "codegen/markers.h"
-#include "codegen/walk.h"
 
 #include "project/code_stores.h"
+#include "project/tree.h"
 
 namespace {
 
@@ -78,8 +78,8 @@ void writeEntryBranches(Generation& g, const WidgetNode& owner) {
             const CallbackSlot& code = entry->slots[static_cast<std::size_t>(slot)];
             if (code.empty()) continue;
             openBranch(g, entry->name, slotOffset(entrySlotKinds[static_cast<std::size_t>(slot)]));
-            pasteCode(g, {.kind = PastedCode::ENTRY_SLOT, .index = slot, .widget = owner.name, .entry = entry->name}, code,
-                      true);
+            pasteCode(g, {.kind = PastedCode::ENTRY_SLOT, .index = slot, .widget = owner.name, .entry = entry->name},
+                      code, true);
         }
     }
 }
@@ -89,9 +89,9 @@ void writeEntryBranches(Generation& g, const WidgetNode& owner) {
 void writeDispatch(Generation& g) {
     g.branchOpen = false;
     g.branchUnended = false;
-    preOrder(project.forms, [&](const WidgetNode& node, const WidgetNode*) {
-        writeWidgetBranches(g, node);
-        writeEntryBranches(g, node);
-    });
+    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
+        writeWidgetBranches(g, *node);
+        writeEntryBranches(g, *node);
+    }
     if (g.branchOpen) g.out += g.language.dispatch.chainEnd;
 }

@@ -1,10 +1,10 @@
 // What the generators ask of records.
 
 #include "codegen/generation.h"
-#include "codegen/walk.h"
 
 #include "project/host.h"
 #include "project/preferences.h"
+#include "project/tree.h"
 
 #include <algorithm>
 #include <limits>
@@ -15,9 +15,7 @@ bool isDynamic(const WidgetNode& form) {
 bool isMdiChild(const WidgetNode& form) {
     return form.formType == FORM_STATIC_MDI || form.formType == FORM_DYNAMIC_MDI;
 }
-bool isMaster(const WidgetNode& form) {
-    return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI;
-}
+bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
 bool hasStatusBar(const WidgetNode& form) { return project.projectPlatform == 'w' && form.statusBar != nullptr; }
 
 bool checksConfiguration() { return preferences.configCheck != 0 && !preferences.configDirExpr.empty(); }
@@ -35,14 +33,11 @@ bool hasListEntries(const WidgetNode& list) {
     return list.contents == 0 && list.listEntries != nullptr && !list.listEntries->text.empty();
 }
 
-std::uint64_t typesBelow(WidgetNode& form) {
+std::uint64_t typesBelow(const WidgetNode& form) {
     std::uint64_t types = 0;
-    preOrder(
-        &form,
-        [&](const WidgetNode& node, const WidgetNode*) {
-            if (node.type >= TYPE_FORM && node.type <= TYPE_PANE) types |= std::uint64_t{1} << (node.type - TYPE_FORM);
-        },
-        Siblings::LEFT);
+    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
+        if (node->type >= TYPE_FORM && node->type <= TYPE_PANE) types |= std::uint64_t{1} << (node->type - TYPE_FORM);
+    }
     return types;
 }
 
@@ -67,7 +62,7 @@ bool needsFont(const Generation& g, const Placed& widget) {
         node.bold == 0 && node.italic == 0 && node.underline == 0 && node.strikeout == 0 && node.charSet == 0;
     if (!hasStandardFace(node) || !plain) return true;
     if (!isPlainText(node)) return false;
-    const bool inPane = widget.above != nullptr && widget.above->type == TYPE_PANE;
+    const bool inPane = node.parent != nullptr && node.parent->type == TYPE_PANE;
     const bool singleLine = (project.gridMode != 0 ? node.height == 1 : node.height <= 25) && !inPane;
     return !singleLine && node.justify != -1;
 }

@@ -41,7 +41,8 @@ void writeOpenedForms(Generation& g, const MenuEntryRec& entry) {
     const auto opened = g.formsByParent.find(entry.name);
     if (opened == g.formsByParent.end()) return;
     for (const WidgetNode* form : opened->second) {
-        if (form->parentName == entry.name) write(g, g.language.defineEntryCalls[ENTRY_GENERAL], entry.name, entry.name);
+        if (form->parentName == entry.name)
+            write(g, g.language.defineEntryCalls[ENTRY_GENERAL], entry.name, entry.name);
     }
 }
 

@@ -2,11 +2,11 @@
 
 #include "codegen/generation.h"
 #include "codegen/markers.h"
-#include "codegen/walk.h"
 
 #include "project/colours.h"
 #include "project/host.h"
 #include "project/preferences.h"
+#include "project/tree.h"
 
 #include <algorithm>
 
@@ -17,10 +17,10 @@ namespace {
 // How a widget's size becomes the size of its creation call. With `expand` on, a size that the toolkit works out
 // itself is written as 0.
 enum SizingRule {
-    AS_IT_IS,       // both sizes as they are
-    BY_ORIGIN,      // each size that the origin centres gives way
+    AS_IT_IS,        // both sizes as they are
+    BY_ORIGIN,       // each size that the origin centres gives way
     WIDTH_GIVES_WAY, // the width alone, wherever the origin is
-    LIST_BY_ORIGIN, // as by origin, with a width of 1 where that is 0
+    LIST_BY_ORIGIN,  // as by origin, with a width of 1 where that is 0
 };
 
 struct WidgetText {
@@ -79,7 +79,8 @@ void applySizing(Placed& widget, SizingRule rule) {
 
 void writeComment(Generation& g, const Placed& widget, const WidgetText& text) {
     if (g.language.commentsLikeFree) {
-        write(g, "\n%s Create %s %s child of %s\n", g.language.commentPrefix, text.noun, widget.node.name, widget.parent);
+        write(g, "\n%s Create %s %s child of %s\n", g.language.commentPrefix, text.noun, widget.node.name,
+              widget.parent);
     } else if (widget.node.type == TYPE_BUTTON && widget.node.onToolbar == 1) {
         write(g, "C create ToolBar Button %s child of %s\n", widget.node.name, widget.parent);
     } else if (!text.nounFixed.empty()) {
@@ -120,40 +121,27 @@ void writeWidget(Generation& g, const Placed& widget) {
 
 } // namespace
 
-const Placed placedForm(WidgetNode& form) { return {form, form, &form, form.name, form.width, form.height}; }
-
 void writeFormRoutine(Generation& g, WidgetNode& form) {
-    preOrder(
-        &form,
-        [&](WidgetNode& node, WidgetNode* above) {
-            if (above == nullptr) {
-                writeWidget(g, placedForm(form));
-                return;
-            }
-            // Tool bars and panes live on the window itself, not on its main panel.
-            const bool onWindow = node.type == TYPE_TOOL_BAR || node.type == TYPE_PANE;
-            Placed widget{node, form, above, onWindow ? form.name : above->name, node.width, node.height};
-            if (const WidgetText* text = widgetText(node.type)) applySizing(widget, text->rule);
-            writeWidget(g, widget);
-        },
-        Siblings::LEFT);
+    for (WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
+        // Tool bars and panes live on the window itself, not on its main panel.
+        const bool onWindow = node->type == TYPE_TOOL_BAR || node->type == TYPE_PANE || node->parent == nullptr;
+        Placed widget{*node, form, onWindow ? form.name : node->parent->name, node->width, node->height};
+        if (const WidgetText* text = widgetText(node->type)) applySizing(widget, text->rule);
+        writeWidget(g, widget);
+    }
 }
 
-void writeIdentifiers(Generation& g, WidgetNode& form) {
-    preOrder(
-        &form,
-        [&](const WidgetNode& node, const WidgetNode*) {
-            write(g, g.language.declareWidget, node.name);
-            if (node.type == TYPE_FORM && node.statusBar != nullptr) {
-                write(g, g.language.declareWidget, node.statusBar->name);
-            }
-            for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
-                const bool structure = entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN;
-                if (node.type == TYPE_TREE_VIEW && structure) continue;
-                write(g, g.language.declareEntry, entry->name);
-            }
-        },
-        Siblings::LEFT);
+void writeIdentifiers(Generation& g, const WidgetNode& form) {
+    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
+        write(g, g.language.declareWidget, node->name);
+        if (node->type == TYPE_FORM && node->statusBar != nullptr) {
+            write(g, g.language.declareWidget, node->statusBar->name);
+        }
+        for (const MenuEntryRec* entry = node->entries; entry != nullptr; entry = entry->next) {
+            const bool structure = entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN;
+            if (node->type != TYPE_TREE_VIEW || !structure) write(g, g.language.declareEntry, entry->name);
+        }
+    }
 }
 
 namespace {
@@ -229,8 +217,8 @@ void writeStatementSplit(Generation& g) {
 }
 
 void pasteCode(Generation& g, PastedCode place, std::string_view code, bool indented) {
-    g.linesCounted += static_cast<int>(
-        std::count(g.out.begin() + static_cast<std::ptrdiff_t>(g.linesCountedTo), g.out.end(), '\n'));
+    g.linesCounted +=
+        static_cast<int>(std::count(g.out.begin() + static_cast<std::ptrdiff_t>(g.linesCountedTo), g.out.end(), '\n'));
     g.linesCountedTo = g.out.size();
     place.firstLine = g.linesCounted + 1;
     place.lines = 1;

@@ -62,7 +62,8 @@ void writeOpening(Generation& g) {
         write(g, "   configstatus = oEnqConfigStatus(cfgdir=%s)\n", folder);
         write(g, "   if(configstatus .ne. 0) then\n");
         write(g,
-              "      call owDisplayErrorBox(\"The file ORBA.CON is invalid or has not been found in the directory\",%s)\n",
+              "      call owDisplayErrorBox(\"The file ORBA.CON is invalid or has not been found in the "
+              "directory\",%s)\n",
               folder);
         write(g, "      Stop\n");
         write(g, "   endif\n");

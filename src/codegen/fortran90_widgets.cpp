@@ -74,7 +74,8 @@ void endStatement(Generation& g) {
 
 // "   name = routine(parent, x, y, width, height"
 void beginCreation(Generation& g, const Placed& w, std::string_view routine) {
-    add(g, "   %s = %s(%s, %d, %d, %d, %d", w.node.name, routine, w.parent, w.node.xpos, w.node.ypos, w.width, w.height);
+    add(g, "   %s = %s(%s, %d, %d, %d, %d", w.node.name, routine, w.parent, w.node.xpos, w.node.ypos, w.width,
+        w.height);
 }
 
 // Text widgets spell their styles as numbers, all others as OON. A value widget's charSet is no character set.
@@ -115,9 +116,7 @@ void addTitle(Generation& g, const WidgetNode& form) {
 void addFormIcon(Generation& g, const WidgetNode& form) {
     const Picture picture = formPicture(g, form);
     switch (picture.kind) {
-    case 0:
-        add(g, ", owIconFormat=OMENUICON, owIconFile='%s', owIconID=%d", picture.image, form.iconId);
-        break;
+    case 0: add(g, ", owIconFormat=OMENUICON, owIconFile='%s', owIconID=%d", picture.image, form.iconId); break;
     case 1: add(g, ", owIconFormat=OBMPFILE, owIconFile='%s'", picture.image); break;
     case 3: add(g, ", owIconFormat=ODLLICON, owIconFile='%s'", form.backgroundImage); break;
     case 4: add(g, ", owIconFormat=ODLLICON, owIconFile='%s'", picture.image); break;
@@ -143,8 +142,8 @@ void beginDialogue(Generation& g, WidgetNode& form) {
                                   : "   %s = owCreateMDIComplexDialogueBox(%s, %d-4, %d-24, %d, %d",
             form.name, form.parentName, form.xpos - g.masterX, form.ypos - g.masterY, form.width, form.height);
     } else {
-        add(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d", form.name, form.parentName, form.xpos, form.ypos,
-            form.width, form.height);
+        add(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d", form.name, form.parentName, form.xpos,
+            form.ypos, form.width, form.height);
     }
 }
 
@@ -218,8 +217,8 @@ void createToolButton(Generation& g, const Placed& w) {
     addTab(g, node);
     endStatement(g);
     writeFont(g, w);
-    write(g, "   call owSetWidgetProp(%s, owOnCol=%d, owOffCol=%d, owTextCol=%d)\n", node.name, node.colour1, node.colour2,
-          node.colour3);
+    write(g, "   call owSetWidgetProp(%s, owOnCol=%d, owOffCol=%d, owTextCol=%d)\n", node.name, node.colour1,
+          node.colour2, node.colour3);
 }
 
 void createButton(Generation& g, const Placed& w) {
@@ -528,7 +527,8 @@ void createGauge(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateGauge");
     add(g, ", '%s', owMinimum=%d, owMaximum=%d, owIntValue=%d, owTicks1=%d, owTicks2=%d", node.icon,
-        wholeNumber(node.minValue), wholeNumber(node.maxValue), wholeNumber(node.value), node.topTicks, node.bottomTicks);
+        wholeNumber(node.minValue), wholeNumber(node.maxValue), wholeNumber(node.value), node.topTicks,
+        node.bottomTicks);
     addNamed(g, "owAccess", GAUGE_ACCESS, node.accessMode);
     addPosition(g, node);
     addHelp(g, node);

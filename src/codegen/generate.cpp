@@ -6,10 +6,10 @@
 #include "codegen/generation.h"
 #include "codegen/quotes.h"
 #include "codegen/resources.h"
-#include "codegen/walk.h"
 
 #include "platform/paths.h"
 #include "project/host.h"
+#include "project/tree.h"
 
 #include <algorithm>
 #include <ctime>
@@ -43,19 +43,15 @@ void writeProgram(Generation& g) {
     writeBlock(g, BLOCK_USER_ROUTINES);
 }
 
-bool mayBeMaster(const WidgetNode& form) { return !isDynamic(form) && !isMdiChild(form) && form.formType != FORM_STATIC_SDI; }
+bool mayBeMaster(const WidgetNode& form) {
+    return !isDynamic(form) && !isMdiChild(form) && form.formType != FORM_STATIC_SDI;
+}
 
-// The head of the chain once the master form stands first; the other forms keep their order. Null without a master.
-WidgetNode* masterFirst(WidgetNode* forms) {
-    if (forms == nullptr || mayBeMaster(*forms)) return forms;
-    for (WidgetNode* before = forms; before->next != nullptr; before = before->next) {
-        WidgetNode* master = before->next;
-        if (!mayBeMaster(*master)) continue;
-        before->next = master->next;
-        master->next = forms;
-        return master;
-    }
-    return nullptr;
+// The form that is to stand first in the chain; the other forms keep their order. Null when none may.
+WidgetNode* findMaster() {
+    WidgetNode* form = project.forms;
+    while (form != nullptr && !mayBeMaster(*form)) form = form->next;
+    return form;
 }
 
 void noteOpenedForms(Generation& g) {
@@ -65,9 +61,10 @@ void noteOpenedForms(Generation& g) {
 }
 
 bool anyWindowCallback() {
-    bool any = false;
-    preOrder(project.forms, [&](const WidgetNode& node, const WidgetNode*) { any = any || hasWindowCode(node); });
-    return any;
+    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
+        if (hasWindowCode(*node)) return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -79,12 +76,15 @@ const char* sourceFilter(int language) { return languageOf(language).fileFilter.
 
 std::string projectKind() {
     const char* language = project.projectLanguage == 77 ? "F77" : project.projectLanguage == 90 ? "F90" : "C";
-    const char* platform = project.projectPlatform == 'w' ? "Windows" : project.projectPlatform == 'x' ? "X-Windows" : "GLX-Windows";
+    const char* platform = project.projectPlatform == 'w'   ? "Windows"
+                           : project.projectPlatform == 'x' ? "X-Windows"
+                                                            : "GLX-Windows";
     return std::string(language) + " " + platform + " Project";
 }
 
 std::string sourcePath() {
-    return project.sourceName.empty() ? std::string() : joinPath(std::string_view(project.sourceDir), project.sourceName);
+    return project.sourceName.empty() ? std::string()
+                                      : joinPath(std::string_view(project.sourceDir), project.sourceName);
 }
 
 std::string basePath(std::string_view path) { return withoutExtension(path); }
@@ -100,16 +100,17 @@ const PastedCode* pastedCodeAt(const GeneratedText& generated, int line) {
 bool generateText(const std::string& path, GeneratedText& generated) {
     generated.text.clear();
     generated.map.clear();
-    WidgetNode* forms = masterFirst(project.forms);
-    if (forms == nullptr) return false;
-    project.forms = forms;
+    WidgetNode* master = findMaster();
+    if (master == nullptr) return false;
+    if (master != project.forms) moveFormToHead(master);
 
     const Language& language = languageOf(project.projectLanguage);
     SavedStrings saved = escapeQuotes(project.forms, language.code);
     Generation g{.language = language, .out = generated.text, .map = generated.map, .base = basePath(path)};
     g.windows = project.projectPlatform == 'w';
     g.windowCallbacks = anyWindowCallback();
-    for (const CreationRow& row : language.creation) g.creation[static_cast<std::size_t>(row.type - TYPE_FORM)] = row.write;
+    for (const CreationRow& row : language.creation)
+        g.creation[static_cast<std::size_t>(row.type - TYPE_FORM)] = row.write;
     noteOpenedForms(g);
     writeProgram(g);
     restoreQuotes(saved);
@@ -120,7 +121,8 @@ bool chooseSourceFile() {
     std::string folder = project.sourceDir;
     std::string name = project.sourceName;
     for (;;) {
-        if (!host.fileDialogue("Create ORBAWIDG code", sourceFilter(project.projectLanguage), true, folder, name)) return false;
+        if (!host.fileDialogue("Create ORBAWIDG code", sourceFilter(project.projectLanguage), true, folder, name))
+            return false;
         if (name.empty()) return false;
         if (name.find('.') == std::string::npos) name += sourceExtension(project.projectLanguage);
         const bool taken = fileReadable(joinPath(std::string_view(folder), name));
@@ -138,8 +140,9 @@ bool chooseSourceFile() {
 namespace {
 
 bool reportUnwritable() {
-    host.errorBox("Error during save", "File to save code to could not be created or opened.|Make sure the file is not open "
-                                       "in another application, then try again");
+    host.errorBox("Error during save",
+                  "File to save code to could not be created or opened.|Make sure the file is not open "
+                  "in another application, then try again");
     return false;
 }
 
@@ -152,8 +155,9 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
     host.busyCursor(true);
     if (!generateText(path, text)) {
         host.busyCursor(false);
-        host.errorBox("Error during save", "The project has no master form, so there is no program to generate.|Set the Form "
-                                           "Type of one form to Master, then try again");
+        host.errorBox("Error during save",
+                      "The project has no master form, so there is no program to generate.|Set the Form "
+                      "Type of one form to Master, then try again");
         return false;
     }
     const std::string base = basePath(path);

@@ -21,7 +21,6 @@ struct Generation;
 struct Placed {
     WidgetNode& node;
     WidgetNode& form;
-    const WidgetNode* above; // the record it hangs under; the form itself for a form
     std::string_view parent; // name of the parent that its creation names
     int width;               // of the creation call, by the sizing rule of its type
     int height;
@@ -65,8 +64,8 @@ struct Language {
     bool commentsLikeFree; // creation comments in the words of Fortran 90
     BlockComments blockComments;
 
-    std::string_view declareWidget; // name
-    std::string_view declareEntry;  // name
+    std::string_view declareWidget;               // name
+    std::string_view declareEntry;                // name
     std::array<std::string_view, 12> defineCalls; // name, name; in DEFINE_ORDER
     std::array<std::string_view, ENTRY_SLOTS> defineEntryCalls;
     std::string_view setStatus; // name, status
@@ -98,21 +97,21 @@ const Language& languageOf(int code);
 
 struct Generation {
     const Language& language;
-    std::string& out;            // the source so far
+    std::string& out; // the source so far
     std::vector<PastedCode>& map;
-    std::string base;            // path of the source without its extension
-    bool windows = false;        // the platform is Windows
-    bool masterWritten = false;  // from then on a form is a dialogue box
-    bool branchOpen = false;     // the dispatch has its first branch
-    bool branchUnended = false;  // the last branch still waits for its end
-    int masterX = 0;             // place of the master, once it is written
+    std::string base;           // path of the source without its extension
+    bool windows = false;       // the platform is Windows
+    bool masterWritten = false; // from then on a form is a dialogue box
+    bool branchOpen = false;    // the dispatch has its first branch
+    bool branchUnended = false; // the last branch still waits for its end
+    int masterX = 0;            // place of the master, once it is written
     int masterY = 0;
-    bool windowCallbacks = false; // some widget has code in a window slot
-    std::string statement;        // being put together, to be split
+    bool windowCallbacks = false;   // some widget has code in a window slot
+    std::string statement{};        // being put together, to be split
     std::size_t linesCountedTo = 0; // place in `out` up to which...
     int linesCounted = 0;           // ...line ends are counted
     // The forms that each menu entry opens, in chain order, by the parent name they had at the start.
-    std::unordered_map<std::string, std::vector<const WidgetNode*>> formsByParent;
+    std::unordered_map<std::string, std::vector<const WidgetNode*>> formsByParent{};
     std::array<CreationWriter, TYPE_PANE - TYPE_FORM + 1> creation{}; // by type
 };
 
@@ -144,10 +143,9 @@ bool checksConfiguration();                // the program looks for its configur
 bool hasWindowCode(const WidgetNode& node);
 bool needsGeneralCallback(const WidgetNode& node); // for its own code or for a window slot
 bool hasListEntries(const WidgetNode& list);       // of the user's own
-std::uint64_t typesBelow(WidgetNode& form);        // one bit for each type of the form and below
+std::uint64_t typesBelow(const WidgetNode& form);  // one bit for each type of the form and below
 bool holdsType(std::uint64_t types, WidgetType type);
 int wholeNumber(float value); // truncated, held to what an integer can be
-const Placed placedForm(WidgetNode& form);
 
 // The font of a widget asks for a statement. `standardFace`: it has the standard face and size.
 bool hasStandardFace(const WidgetNode& node);
@@ -167,7 +165,7 @@ Picture toolPicture(const WidgetNode& icon);
 // --- The shared walk.
 
 void writeHeader(Generation& g);
-void writeIdentifiers(Generation& g, WidgetNode& form);
+void writeIdentifiers(Generation& g, const WidgetNode& form);
 void writeFormRoutine(Generation& g, WidgetNode& form); // with all below it, in pre-order
 void writeUserColours(Generation& g);
 void writeGenerateCalls(Generation& g);

@@ -4,15 +4,14 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <system_error>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-bool writeWhole(const fs::path& path, std::string_view text) {
-    std::FILE* file = std::fopen(path.string().c_str(), "wb");
+// Writes and closes an open file.
+bool writeWhole(std::FILE* file, std::string_view text) {
     if (file == nullptr) return false;
     const bool whole = std::fwrite(text.data(), 1, text.size(), file) == text.size();
     return std::fclose(file) == 0 && whole;
@@ -31,21 +30,19 @@ bool mayWriteFile(const std::string& path) {
     return true;
 }
 
-// The text goes to a file beside it that then takes its name. Links and devices are written through.
+// The text goes to a file beside it that then takes its name. Links and devices are written through, and so is a file
+// in a folder that takes no new ones.
 bool replaceFile(const std::string& path, std::string_view text) {
     std::error_code error;
     const fs::file_status status = fs::symlink_status(path, error);
-    const bool plain = status.type() == fs::file_type::regular || status.type() == fs::file_type::not_found;
-    const fs::path fresh = path + ".new";
-    if (!plain || fs::exists(fresh, error)) return writeWhole(path, text);
-    if (!writeWhole(fresh, text)) {
-        fs::remove(fresh, error);
-        return status.type() == fs::file_type::regular && fs::space(fs::path(path).parent_path(), error).available > text.size() &&
-               writeWhole(path, text);
-    }
-    if (status.type() == fs::file_type::regular) fs::permissions(fresh, status.permissions(), error);
-    fs::rename(fresh, path, error);
-    if (!error) return true;
+    const bool regular = status.type() == fs::file_type::regular;
+    const std::string fresh = path + ".unfinished";
+    std::FILE* file = regular || status.type() == fs::file_type::not_found ? std::fopen(fresh.c_str(), "wb") : nullptr;
+    if (file == nullptr) return writeWhole(std::fopen(path.c_str(), "wb"), text);
+    const bool whole = writeWhole(file, text);
+    if (whole && regular) fs::permissions(fresh, status.permissions(), error);
+    if (whole) fs::rename(fresh, path, error);
+    if (whole && !error) return true;
     fs::remove(fresh, error);
     return false;
 }

@@ -1,6 +1,6 @@
 #include "codegen/quotes.h"
 
-#include "codegen/walk.h"
+#include "project/tree.h"
 
 #include <algorithm>
 
@@ -66,17 +66,18 @@ int countQuotes(std::string_view text, int language) {
 
 SavedStrings escapeQuotes(WidgetNode* forms, int language) {
     Escaper escaper{language, {}};
-    preOrder(forms, [&](WidgetNode& node, WidgetNode*) {
-        escaper.rewrite(node.name);
-        if (escaper.rewrite(node.text)) cutEscaped(node.text, language);
-        escaper.rewrite(node.parentName);
-        for (MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
+    for (WidgetNode* node = forms; node != nullptr; node = walkList(node, forms)) {
+        escaper.rewrite(node->name);
+        if (escaper.rewrite(node->text)) cutEscaped(node->text, language);
+        escaper.rewrite(node->parentName);
+        for (MenuEntryRec* entry = node->entries; entry != nullptr; entry = entry->next) {
             escaper.rewrite(entry->name);
             escaper.rewrite(entry->label);
         }
-        for (ListEntryRec* entry = node.listEntries; entry != nullptr; entry = entry->next)
+        for (ListEntryRec* entry = node->listEntries; entry != nullptr; entry = entry->next) {
             escaper.rewrite(entry->text);
-    });
+        }
+    }
     return std::move(escaper.saved);
 }
 
@@ -123,10 +124,5 @@ std::string doubledTextBackslashes(std::string_view text) {
 }
 
 std::string iconResourceName(std::string_view icon) {
-    if (icon.find('.') == std::string_view::npos) return std::string(icon);
-    const std::size_t folder = icon.find_last_of("\\/");
-    if (folder != std::string_view::npos) icon.remove_prefix(folder + 1);
-    std::string name(icon.substr(0, icon.find('.')));
-    std::replace(name.begin(), name.end(), ' ', '_');
-    return name;
+    return icon.find('.') == std::string_view::npos ? std::string(icon) : resourceName(icon);
 }

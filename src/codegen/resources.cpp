@@ -4,10 +4,10 @@
 
 #include "codegen/quotes.h"
 #include "codegen/text.h"
-#include "codegen/walk.h"
 
 #include "platform/paths.h"
 #include "project/host.h"
+#include "project/tree.h"
 
 #include <unordered_set>
 
@@ -122,6 +122,8 @@ void addResources(Script& script, const WidgetNode& node) {
 bool writeResourceScript(const std::string& base) {
     Script script;
     put(script.text, "CREATEPROCESS_MANIFEST_RESOURCE_ID RT_MANIFEST \"%s.exe.manifest\"\n", doubledBackslashes(base));
-    preOrder(project.forms, [&](const WidgetNode& node, const WidgetNode*) { addResources(script, node); });
+    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
+        addResources(script, *node);
+    }
     return replaceFile(base + "rc.rc", script.text);
 }

@@ -1,0 +1,14 @@
+// The two halves of the Fortran 77 generator: the program around the forms, and the widgets.
+#pragma once
+
+#include "codegen/generation.h"
+
+extern const std::span<const CreationRow> FORTRAN_77_CREATION;
+
+void writeHelpStatement(Generation& g, std::string_view name, std::string_view help); // nothing for an empty one
+
+// Fetches an image of the resources into the variable `variable`.
+void writeFetchIcon(Generation& g, std::string_view variable, std::string_view icon);
+
+void writeFixedTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryRec& entry, std::string_view parent);
+void writeFixedListEntry(Generation& g, const WidgetNode& list, const ListEntryRec& entry);
