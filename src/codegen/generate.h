@@ -30,12 +30,6 @@ struct GeneratedText {
 // of the user's code is line - firstLine + 1, its column the text's column less indent.
 const PastedCode* pastedCodeAt(const GeneratedText& generated, int line);
 
-// What a generation knows of the world outside the project.
-struct GenerationSettings {
-    std::string architecture; // of the manifest: "x86", "AMD64" or empty
-};
-inline GenerationSettings generationSettings;
-
 // Remembers the colours that host.enquireColour tells now as those that a program starts with; generated text defines
 // the ones that differ. Without a call all colours from 20 on count as black.
 void noteStartColours();

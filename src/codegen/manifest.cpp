@@ -1,8 +1,9 @@
 // The application manifest, which selects the common controls of version 6 for the built program.
 
-#include "codegen/generate.h"
 #include "codegen/resources.h"
 #include "codegen/text.h"
+
+#include "platform/environment.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ constexpr std::string_view MANIFEST = "<?xml version=\"1.0\" encoding=\"UTF-8\" 
 } // namespace
 
 bool writeManifest(const std::string& base, std::string_view title) {
-    const std::string& architecture = generationSettings.architecture;
+    const std::string& architecture = folders.architectureText;
     std::string text;
     put(text, MANIFEST, architecture, title, architecture);
     return replaceFile(base + ".exe.manifest", text);

@@ -282,6 +282,7 @@ bool loadProject(const std::string& folder, const std::string& givenName) {
     project.projectDir = folder;
     project.projectTitle = titleOf(name);
     project.projectModified = changed ? 1 : 0;
+    project.storedSource = project.sourceName.empty() ? "" : joinPath(project.sourceDir, project.sourceName);
     executableCurrent();
     host.busyCursor(false);
     if (reader.damaged) {

@@ -330,6 +330,7 @@ struct ProjectState {
     std::vector<std::int64_t> sourceFileTimes;  // 100 ns since 1601, one per row of the sources
     std::string sourceDir;
     std::string sourceName;
+    std::string storedSource; // path of the source that the project's file names, whether or not it is there
     std::string projectTitle; // name without extension; default of the file dialogues
     std::string projectName;  // remembered file name, empty for an untitled project
     std::string projectDir;   // its folder
