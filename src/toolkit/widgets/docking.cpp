@@ -293,12 +293,14 @@ DockPane::DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint positio
     connect(this, &QDockWidget::topLevelChanged, this, [this](bool floating) {
         if (byProgram_) return;
         dock_ = floating ? Dock::floating : dock_;
+        settle();
         tellLater(DockEvent::moved);
     });
     connect(this, &QDockWidget::dockLocationChanged, this, [this](Qt::DockWidgetArea area) {
         if (byProgram_) return;
         for (const Side& side : sides)
             if (side.pane == area) dock_ = side.dock;
+        settle();
         tellLater(DockEvent::moved);
     });
     if (dock == Dock::floating) place(dock, position, size);
@@ -336,15 +338,26 @@ void DockPane::place(Dock dock, QPoint position, QSize size) {
         static_cast<PaneFrame*>(widget())->wanted = dockedSize_;
         widget()->updateGeometry();
         show();
-        applyDockedSize();
     }
+    settle();
     --byProgram_;
 }
 
-void DockPane::applyDockedSize() {
-    const bool column = isColumn(dock_);
-    const int extent = column ? dockedSize_.width() : dockedSize_.height();
-    if (extent > 0) window_->resizeDocks({this}, {extent}, column ? Qt::Horizontal : Qt::Vertical);
+// Gives every docked pane of the window the extent that the program or the user last gave it, once the layout has
+// settled: when a pane comes or goes, the middle of the window gains or loses the room, not the pane beside it.
+void DockPane::settle() {
+    QTimer::singleShot(0, window_, [window = window_] {
+        QList<QDockWidget*> columns, rows;
+        QList<int> widths, heights;
+        for (auto* pane : window->findChildren<DockPane*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (pane->isHidden() || pane->isFloating()) continue;
+            const bool column = isColumn(pane->dock_);
+            (column ? columns : rows) << pane;
+            (column ? widths : heights) << qMax(1, column ? pane->dockedSize_.width() : pane->dockedSize_.height());
+        }
+        if (!columns.isEmpty()) window->resizeDocks(columns, widths, Qt::Horizontal);
+        if (!rows.isEmpty()) window->resizeDocks(rows, heights, Qt::Vertical);
+    });
 }
 
 Dock DockPane::dock() const {
@@ -358,6 +371,7 @@ void DockPane::setShown(bool shown) {
     ++byProgram_;
     setVisible(shown);
     if (shown) raise();
+    settle();
     --byProgram_;
 }
 
@@ -423,7 +437,5 @@ void DockPane::resizeEvent(QResizeEvent* event) {
         dockedSize_ = widget()->size();
     if (!byProgram_ && QGuiApplication::mouseButtons() != Qt::NoButton) tellLater(DockEvent::resized);
 }
-
-void DockPane::mousePressEvent(QMouseEvent* event) { QDockWidget::mousePressEvent(event); }
 
 } // namespace orba
