@@ -1,0 +1,182 @@
+// Panels and radio boxes.
+#include "toolkit/widgets/buttons.h"
+#include "toolkit/widgets/family_support.h"
+#include "toolkit/widgets/icons.h"
+#include "toolkit/widgets/panel.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+
+namespace orba {
+namespace {
+
+struct PanelData : FamilyData {
+    int boundary = ONOBOUNDARY;
+    QString title;
+    int line = 0, fill = 0;
+    int lineBorder = OOUTERGRID, fillBorder = OOUTERGRID;
+    int scroll = ONOBARS;
+    QString image;
+};
+
+PanelLook lookOf(const PanelData& data, const QFont& titleFont) {
+    PanelLook look;
+    look.boundary = boundaryOf(data.boundary);
+    look.title = data.title;
+    look.titleFont = titleFont;
+    look.line = colourOrNone(data.line);
+    look.fill = colourOrNone(data.fill);
+    // In grid mode the boundary of the grid cell lies half a cell further in than the widget's own edge.
+    look.lineInset = gridMode() && data.lineBorder != OOUTEREDGE;
+    look.fillInset = gridMode() && data.fillBorder != OOUTEREDGE;
+    look.inset = gridMode() ? std::min(gridCell().width(), gridCell().height()) / 4 : 0;
+    if (!data.image.isEmpty()) {
+        look.image = icons::imageFromFile(data.image);
+        if (look.image.isNull() && icons::iconExists(data.image))
+            look.image = icons::iconByName(data.image).pixmap(256, 256);
+    }
+    const bool both = data.scroll == OBOTHBARS;
+    look.scrollVertical = both || data.scroll == OVERTICAL || data.scroll == 1;
+    look.scrollHorizontal = both || data.scroll == OHORIZONTAL || data.scroll == 2;
+    return look;
+}
+
+Panel& panelOf(Widget& widget) { return static_cast<Panel&>(*widget.view); }
+
+void showPanel(Widget& widget) {
+    Panel& panel = panelOf(widget);
+    panel.setLook(lookOf(dataOf<PanelData>(widget), panel.look().titleFont));
+    widget.client = panel.content();
+}
+
+constexpr IntegerProperty<PanelData> properties[] = {
+    {20, &PanelData::boundary}, {47, &PanelData::boundary},   {35, &PanelData::line},   {36, &PanelData::lineBorder},
+    {37, &PanelData::fill},     {38, &PanelData::fillBorder}, {78, &PanelData::scroll},
+};
+struct TextProperty {
+    int number;
+    QString PanelData::*field;
+};
+constexpr TextProperty textProperties[] = {{82, &PanelData::title}, {64, &PanelData::image}};
+
+bool getPanelProperty(Widget& widget, int property, Value& value) {
+    PanelData& data = dataOf<PanelData>(widget);
+    for (const TextProperty& row : textProperties)
+        if (row.number == property) {
+            value.text = data.*row.field;
+            return true;
+        }
+    return getInteger(properties, data, property, value);
+}
+
+bool setPanelProperty(Widget& widget, int property, const Value& value) {
+    PanelData& data = dataOf<PanelData>(widget);
+    bool known = setInteger(properties, data, property, value);
+    for (const TextProperty& row : textProperties)
+        if (row.number == property) data.*row.field = value.text, known = true;
+    if (known) showPanel(widget);
+    return known;
+}
+
+QString titleOf(Widget& widget) { return dataOf<PanelData>(widget).title; }
+
+void setTitle(Widget& widget, const QString& title) {
+    dataOf<PanelData>(widget).title = title;
+    showPanel(widget);
+}
+
+void childAdded(Widget& widget, Widget&) { panelOf(widget).fitContent(); }
+
+void radioChildAdded(Widget& widget, Widget& child) {
+    childAdded(widget, child);
+    auto* toggle = dynamic_cast<ToggleButton*>(child.view.data());
+    if (!toggle) return;
+    ToggleLook look = toggle->look();
+    look.exclusive = true;
+    toggle->setLook(look);
+}
+
+const Family panels{.name = "panel",
+                    .get = getPanelProperty,
+                    .set = setPanelProperty,
+                    .text = titleOf,
+                    .setText = setTitle,
+                    .coloursChanged = showPanel,
+                    .childAdded = childAdded};
+const Family radioBoxes{.name = "radio box",
+                        .get = getPanelProperty,
+                        .set = setPanelProperty,
+                        .text = titleOf,
+                        .setText = setTitle,
+                        .coloursChanged = showPanel,
+                        .childAdded = radioChildAdded};
+
+// The press is the select event, the release the general one, so that a program can follow a band between them.
+class PanelMouse : public QObject {
+public:
+    PanelMouse(Panel* panel, int handle) : QObject(panel), panel_(panel), handle_(handle) {}
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* mouse = static_cast<QMouseEvent*>(event);
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            if (mouse->button() == Qt::LeftButton) post(handle_, Slot::select, 1, place(watched, mouse));
+            break;
+        case QEvent::MouseButtonRelease:
+            if (mouse->button() == Qt::LeftButton) post(handle_, Slot::general, 0, place(watched, mouse));
+            break;
+        case QEvent::MouseButtonDblClick:
+            if (mouse->button() == Qt::LeftButton) {
+                post(handle_, Slot::select, 1, place(watched, mouse));
+                post(handle_, Slot::doubleClick, 0, place(watched, mouse));
+            }
+            break;
+        default: break;
+        }
+        return false;
+    }
+
+private:
+    QPointF place(QObject* watched, const QMouseEvent* mouse) const {
+        auto* from = static_cast<QWidget*>(watched);
+        return from == panel_ ? mouse->position() : QPointF(from->mapTo(panel_, mouse->position().toPoint()));
+    }
+    Panel* panel_;
+    int handle_;
+};
+
+Word create(const Arguments& call, Kind kind, const Family& family) {
+    Widget* parent = widgetOf(call.integer(0));
+    auto data = std::make_unique<PanelData>();
+    data->boundary = kind == Kind::radioBox ? call.keyword(owBorderType)
+                     : call.given(owType)   ? call.keyword(owType)
+                                            : call.keyword(owBorderType);
+    data->title = call.keywordText(owTitle);
+    data->line = call.keyword(owLineCol);
+    data->fill = call.keyword(owFillCol);
+    data->lineBorder = call.keyword(owLineBorder);
+    data->fillBorder = call.keyword(owFillBorder);
+    if (kind == Kind::panel) {
+        data->scroll = call.keyword(owScrollMode);
+        data->image = call.keywordText(owImage);
+    }
+    auto* panel = new Panel(clientOf(parent));
+    panel->setLook(lookOf(*data, QApplication::font()));
+    Widget& widget = addWidget(kind, family, parent, panel);
+    widget.client = panel->content();
+    widget.data = std::move(data);
+    auto* mouse = new PanelMouse(panel, widget.handle);
+    panel->installEventFilter(mouse);
+    if (panel->content() != panel) {
+        panel->content()->installEventFilter(mouse);
+        panel->scroller()->viewport()->installEventFilter(mouse);
+    }
+    return finishCreation(widget, call);
+}
+
+Word createPanel(const Arguments& call) { return create(call, Kind::panel, panels); }
+Word createRadioBox(const Arguments& call) { return create(call, Kind::radioBox, radioBoxes); }
+
+const Registration registration({{Fn::owCreatePanel, createPanel}, {Fn::owCreateRadioBox, createRadioBox}});
+
+} // namespace
+} // namespace orba
