@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QPainter>
 #include <QScreen>
 #include <QStyle>
@@ -343,21 +344,53 @@ void DockPane::place(Dock dock, QPoint position, QSize size) {
     --byProgram_;
 }
 
+namespace {
+
+constexpr int roomForTheRest = 120; // pixels that panes leave to the middle of a window when all together would fill it
+
+// Holds panes to an extent while the layout is done once; afterwards they can be dragged again.
+void holdExtents(QMainWindow* window, const std::vector<std::pair<QDockWidget*, int>>& panes, Qt::Orientation along) {
+    const bool across = along == Qt::Horizontal;
+    int sum = 0;
+    for (const auto& [pane, extent] : panes) sum += extent;
+    const int room = qMax(1, (across ? window->width() : window->height()) - roomForTheRest);
+    for (const auto& [pane, extent] : panes) {
+        const int held = sum > room ? extent * room / sum : extent;
+        if (across)
+            pane->setFixedWidth(held);
+        else
+            pane->setFixedHeight(held);
+    }
+    window->layout()->activate();
+    for (const auto& [pane, extent] : panes) {
+        pane->setMinimumSize(0, 0);
+        pane->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    }
+}
+
+} // namespace
+
 // Gives every docked pane of the window the extent that the program or the user last gave it, once the layout has
 // settled: when a pane comes or goes, the middle of the window gains or loses the room, not the pane beside it.
 void DockPane::settle() {
     QTimer::singleShot(0, window_, [window = window_] {
-        QList<QDockWidget*> columns, rows;
-        QList<int> widths, heights;
+        if (!window->isVisible()) return;
+        std::vector<std::pair<QDockWidget*, int>> columns, rows;
         for (auto* pane : window->findChildren<DockPane*>(QString(), Qt::FindDirectChildrenOnly)) {
             if (pane->isHidden() || pane->isFloating()) continue;
-            const bool column = isColumn(pane->dock_);
-            (column ? columns : rows) << pane;
-            (column ? widths : heights) << qMax(1, column ? pane->dockedSize_.width() : pane->dockedSize_.height());
+            if (isColumn(pane->dock_))
+                columns.emplace_back(pane, qMax(20, pane->dockedSize_.width()));
+            else
+                rows.emplace_back(pane, qMax(20, pane->dockedSize_.height()));
         }
-        if (!columns.isEmpty()) window->resizeDocks(columns, widths, Qt::Horizontal);
-        if (!rows.isEmpty()) window->resizeDocks(rows, heights, Qt::Vertical);
+        holdExtents(window, columns, Qt::Horizontal);
+        holdExtents(window, rows, Qt::Vertical);
     });
+}
+
+void DockPane::showEvent(QShowEvent* event) {
+    QDockWidget::showEvent(event);
+    if (!isFloating()) settle();
 }
 
 Dock DockPane::dock() const {

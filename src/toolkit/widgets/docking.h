@@ -106,7 +106,7 @@ private:
 class DockPane : public QDockWidget {
     Q_OBJECT
 public:
-    // size is that of the whole pane with its title, docked and floating.
+    // size is that of the body when docked, of the whole window when floating.
     DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint position, QSize size, const QString& title,
              DockTitle titleBar);
 
@@ -129,6 +129,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void dockAt(Dock dock);
