@@ -17,7 +17,7 @@ namespace {
 
 bool contains(const std::string& line, const char* text) { return line.find(text) != std::string::npos; }
 
-bool containsAny(const std::string& line, const std::array<const char*, 4>& texts) {
+bool containsAny(const std::string& line, const std::array<const char*, 5>& texts) {
     return std::any_of(texts.begin(), texts.end(), [&](const char* text) { return text && contains(line, text); });
 }
 
@@ -25,8 +25,8 @@ bool containsAny(const std::string& line, const std::array<const char*, 4>& text
 
 struct LogPatterns {
     std::array<int, 2> profiles;
-    std::array<const char*, 4> compile; // any of them in a line
-    std::array<const char*, 4> link;
+    std::array<const char*, 5> compile; // any of them in a line
+    std::array<const char*, 5> link;
     bool positionAbove; // the source position stands one line above the message
 };
 constexpr LogPatterns PATTERNS[] = {
@@ -36,7 +36,7 @@ constexpr LogPatterns PATTERNS[] = {
     {{COMPILER_ABSOFT}, {"f90fe: ERROR"}, {"error LNK"}, false},
     {{COMPILER_VISUAL_C}, {"error C"}, {"error LNK"}, false},
     {{COMPILER_GNU},
-     {": error: ", ": fatal error: ", ": internal compiler error", ": Error: "},
+     {": error: ", ": fatal error: ", ": internal compiler error", ": Error: ", ": Fatal Error: "},
      {"undefined reference to", "multiple definition of", "ld: cannot find", "collect2: error:"},
      false},
 };

@@ -2,6 +2,7 @@
 // held against the line in their fixed order.
 #include "build/navigation.h"
 #include "codegen/markers.h"
+#include "project/code_stores.h"
 #include "project/records.h"
 
 #include <algorithm>
@@ -36,8 +37,8 @@ void noteFirst(int& place, int line) {
 
 void noteLine(MarkerLines& markers, std::string_view text, int line, std::string_view head) {
     if (isComment(text)) {
-        for (size_t block = 0; block < BLOCK_MARKERS.size(); block++) {
-            if (containsAnyCase(text, BLOCK_MARKERS[block])) noteFirst(markers.blocks[block], line);
+        for (size_t block = 0; block < codeBlockTable.size(); block++) {
+            if (containsAnyCase(text, codeBlockTable[block].comment)) noteFirst(markers.blocks[block], line);
         }
         return;
     }
@@ -107,7 +108,7 @@ bool passEntries(Search& search, WidgetNode* list) {
                 place.widget = node;
                 place.entry = entry;
                 place.slot = slot;
-                std::string_view offset = ENTRY_SLOT_OFFSETS[static_cast<size_t>(slot)];
+                std::string_view offset = slotOffset(entrySlotKinds[static_cast<size_t>(slot)]);
                 if (!passMarker(search, headLine(search.markers, entry->name, offset), place)) return false;
             }
         }
@@ -124,7 +125,7 @@ bool passSlot(Search& search, WidgetNode* node, WidgetSlot slot) {
     place.slot = slot;
     bool window = slot >= SLOT_WINDOW_MOVED && slot <= SLOT_WINDOW_LOST_FOCUS;
     int marker = window ? search.markers.statuses[static_cast<size_t>(slot - SLOT_WINDOW_MOVED)]
-                        : headLine(search.markers, node->name, WIDGET_SLOT_OFFSETS[slot]);
+                        : headLine(search.markers, node->name, slotOffset(slot));
     return passMarker(search, marker, place);
 }
 

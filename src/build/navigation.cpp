@@ -133,8 +133,24 @@ CodeLocation findByMap(int line, int column) {
     return location.widget ? location : endOfCodeAhead(line);
 }
 
-void showPosition(const MessagePosition& position) {
+// g++ counts what a screen shows: a character is one column whatever its bytes, and tabs reach to the next eighth.
+int byteColumn(std::string_view line, int shownColumn) {
+    constexpr int TAB = 8;
+    int shown = 1;
+    size_t at = 0;
+    while (at < line.size() && shown < shownColumn) {
+        shown = line[at] == '\t' ? (shown - 1) / TAB * TAB + TAB + 1 : shown + 1;
+        do at++;
+        while (at < line.size() && (static_cast<unsigned char>(line[at]) & 0xC0U) == 0x80U);
+    }
+    return static_cast<int>(at) + 1;
+}
+
+void showPosition(MessagePosition position, int compilerProfile) {
     if (position.line < 1) return;
+    if (position.column > 0 && compilerProfile == COMPILER_GNU && project.projectLanguage == 99) {
+        position.column = byteColumn(sourceLine(position.line), position.column);
+    }
     buildHooks.commitEditor();
     host.busyCursor(true);
     CodeLocation location = findLocation(position.line, position.column);
@@ -183,9 +199,9 @@ const char* placeName(const CodeLocation& location) {
 }
 
 void goToError(const std::string& message, int compilerProfile) {
-    showPosition(messagePosition(message, compilerProfile));
+    showPosition(messagePosition(message, compilerProfile), compilerProfile);
 }
 
 void goToLogEntry(int entry, int compilerProfile) {
-    showPosition(logPosition(compilerLog.lines, entry, compilerProfile, source.path));
+    showPosition(logPosition(compilerLog.lines, entry, compilerProfile, source.path), compilerProfile);
 }
