@@ -48,7 +48,7 @@ WidgetNode& add(WidgetNode& parent, WidgetType type, const std::string& name, in
     WidgetNode& home = parent.type == TYPE_FORM && type != TYPE_TOOL_BAR ? mainPanelOf(parent) : parent;
     WidgetNode* node = createFromDefaults(type, x, y);
     node->xpos = x;
-    node->ypos = y;
+    node->ypos = home.height - y - height; // default records count from the top
     node->width = width;
     node->height = height;
     node->text = text;

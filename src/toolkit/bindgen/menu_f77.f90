@@ -651,11 +651,11 @@ end subroutine
 subroutine GETPAR(widget, justify, numbering)
    integer, intent(in) :: widget
    integer, intent(out) :: justify, numbering
-   call owEnqParagraphProp(widget, owJustify=justify, owNumbering=numbering)
+   call owEnqParagraphProp(widget, owJustify=justify, owBullet=numbering)
 end subroutine
 subroutine SETPAR(widget, justify, numbering)
    integer, intent(in) :: widget, justify, numbering
-   call owSetParagraphProp(widget, owJustify=justify, owNumbering=numbering)
+   call owSetParagraphProp(widget, owJustify=justify, owBullet=numbering)
 end subroutine
 subroutine CLPINF(format, status)
    integer, intent(in) :: format
