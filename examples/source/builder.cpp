@@ -112,12 +112,12 @@ void addTreeEntries(WidgetNode& tree, std::initializer_list<Entry> entries) {
         end = &entry->next;
         return entry;
     };
-    append(MENU_BAR, 0, tree.name + "_Top", "");
+    append(MENU_BAR, 0, tree.name + "_TreeView", "");
     int level = 0;
-    int branches = 0;
+    std::string above;
     for (const Entry& row : entries) {
-        if (row.level > level)
-            append(MENU_PULL_DOWN, row.level, tree.name + "_Branch" + std::to_string(++branches), "");
+        if (row.level > level) append(MENU_PULL_DOWN, row.level, above, ""); // goes by the name of its entry
+        above = row.name;
         level = row.level;
         append(MENU_ENTRY, row.level, row.name, row.label)->slots[ENTRY_GENERAL] = row.code;
     }
