@@ -1,6 +1,5 @@
 #include "shell/environment.h"
 
-#include "codegen/generate.h"
 #include "platform/environment.h"
 #include "settings/places.h"
 
@@ -14,5 +13,4 @@ void readEnvironment() {
     environment.mainTitle = std::string(PROGRAM_TITLE) + VERSION_TEXT;
     environment.aboutTitle = environment.mainTitle + (folders.system64 ? " - 64bit" : "");
     settingsPlaces.dataDir = folders.dataDir;
-    generationSettings.architecture = folders.architectureText;
 }
