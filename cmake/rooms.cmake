@@ -32,10 +32,11 @@ function(room_includes target name folder)
 endfunction()
 
 # add_room_tests(NAME LINKS targets...) makes the test program NAME_tests from every source of the current folder
-# and gives CTest one entry for each of its cases. TIMEOUT is seconds for one case; SERIAL cases run with nothing beside them.
+# but its goldens, and gives CTest one entry for each of its cases. TIMEOUT is seconds for one case; SERIAL cases run with nothing beside them.
 function(add_room_tests name)
   cmake_parse_arguments(ROOM "SERIAL" "TIMEOUT" "LINKS;ENVIRONMENT" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  list(FILTER sources EXCLUDE REGEX "/golden/") # generated programs that a test compares with
   if(NOT sources)
     return()
   endif()
