@@ -1,7 +1,7 @@
 #include "toolkit/checked/entries.h"
 
 #include "toolkit/checked/report.h"
-#include "toolkit/widgets/core.h"
+#include "toolkit/widgets/frame.h"
 #include "toolkit/widgets/session.h"
 
 #include <algorithm>
@@ -23,6 +23,8 @@ using Kinds = std::array<Kind, 16>;
 constexpr Kinds ANY_KIND{none};
 constexpr Kinds WINDOWS{master, window, none};
 constexpr Kinds WINDOWS_AND_PANES{master, window, popupMenu, dockingPane, toolBar, none};
+// A dialogue box may also hang on the menu entry or button that opens it.
+constexpr Kinds DIALOGUE_PARENTS{master, window, menuEntry, pushButton, icon, toolButton, none};
 constexpr Kinds CONTAINERS{master,  window,        panel,       radioBox,     array,  dockingPane,
                            toolBar, graphicsFrame, openGlFrame, propertyList, tabBox, none};
 constexpr Kinds MENUS{menuBar, popupMenu, pullDownMenu, none};
@@ -91,10 +93,10 @@ constexpr int NO_HANDLE = -1;
 constexpr Entry entries[] = {
     {Fn::owCreateComplexDialogueBox,
      0,
-     WINDOWS_AND_PANES,
+     DIALOGUE_PARENTS,
      25,
      {HORIZONTAL, VERTICAL, value(3, 0, 32767), value(4, 0, 32767)}},
-    {Fn::owCreateMDIComplexDialogueBox, 0, WINDOWS_AND_PANES, 25, {value(3, 0, 32767), value(4, 0, 32767)}},
+    {Fn::owCreateMDIComplexDialogueBox, 0, DIALOGUE_PARENTS, 25, {value(3, 0, 32767), value(4, 0, 32767)}},
     {Fn::owSetWindowIcon, 0, WINDOWS, 25},
     {Fn::owDrawWindow, 0, WINDOWS_AND_PANES, 25, {value(1, 0, 1)}},
     {Fn::owRemoveWindow, 0, WINDOWS_AND_PANES, 25},
@@ -432,9 +434,12 @@ Word checkedCall(const Arguments& call) {
     const char* outer = traceName;
     traceName = functionRow(call.function).name;
     Word result = 0;
+    const int program = call.function == Fn::owAction ? 0 : 1;
+    session.programDepth += program;
     if (checksPass(call)) {
         if (const Handler handler = handlerOf(call.function)) result = handler(call);
     }
+    session.programDepth -= program;
     traceName = outer;
     return result;
 }

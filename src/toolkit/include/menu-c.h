@@ -32,11 +32,11 @@ extern "C" {
 /* Switches and status values */
 #define OOFF 0
 #define OON 1
-#define OCYCLE 2        /* owTabAction: Tab leaves the array after its last cell */
-#define OHIDDEN (-1)    /* owSetWidgetStatus, owWidgetStatus */
-#define OUNSELECTABLE 0 /* shown and disabled */
-#define OSELECTABLE 1   /* shown and enabled */
-#define OCHECKED 2      /* checked or pressed; a tab page: in front */
+#define OCYCLE 2         /* owTabAction: Tab leaves the array after its last cell */
+#define OHIDDEN (-1)     /* owSetWidgetStatus, owWidgetStatus */
+#define OUNSELECTABLE 0  /* shown and disabled */
+#define OSELECTABLE 1    /* shown and enabled */
+#define OCHECKED 2       /* checked or pressed; a tab page: in front */
 #define ODEFAULTSTATUS (-2)
 
 /* Origins and justification */
@@ -46,7 +46,7 @@ extern "C" {
 #define OJUSTIFY 2
 #define OBOTTOM (-1)
 #define OMIDDLE 0
-#define OTOP 1 /* also a docking position and an initial state */
+#define OTOP 1           /* also a docking position and an initial state */
 
 /* Docking positions of tool bars and panes, beside OBOTTOM and OTOP. 0 is hidden. */
 #define OLEFTSIDE 2
@@ -58,8 +58,8 @@ extern "C" {
 #define ONONE 0
 #define OTITLE 1
 #define OQUIT 2
-#define OMAXIMIZE 4 /* also an initial state */
-#define OMINIMIZE 8 /* also an initial state */
+#define OMAXIMIZE 4      /* also an initial state */
+#define OMINIMIZE 8      /* also an initial state */
 #define OTOOL 16
 
 /* Initial states of windows (owInitState), beside OTOP, OMAXIMIZE and OMINIMIZE */
@@ -68,14 +68,14 @@ extern "C" {
 
 /* What the close box of a window, bar or pane does (owQuitMode). Each also raises the callback with status 2. */
 #define OHIDE 0
-#define OREMOVE 1 /* the window is erased once the event has been handled */
-#define OLEAVE 2  /* only the event */
+#define OREMOVE 1        /* the window is erased once the event has been handled */
+#define OLEAVE 2         /* only the event */
 
 /* Status of a window's callback */
 #define OMOVED 0
 #define ORESIZED 1
 #define OCLOSED 2
-#define OMINIMIZED 3 /* minimised or restored: a change of state that needs no geometry */
+#define OMINIMIZED 3     /* minimised or restored: a change of state that needs no geometry */
 #define OSCROLLED 4
 #define OLOSTFOCUS 5
 
@@ -87,15 +87,15 @@ extern "C" {
 #define OPROJECTED 4
 #define OCHISEL 5
 #define OINVERSECHISEL 6
-#define OOUTEREDGE 0 /* owLineBorder, owFillBorder */
-#define OOUTERGRID 1 /* the default: the outer edge of the grid cell */
+#define OOUTEREDGE 0     /* owLineBorder, owFillBorder */
+#define OOUTERGRID 1     /* the default: the outer edge of the grid cell */
 
 /* owType of the families. 0 is the default everywhere but for sliders. */
 #define ODEFAULT 0
-#define OSTANDARD 0    /* push button, text entry */
-#define OUSERDEFINED 1 /* push button with colours of its own */
+#define OSTANDARD 0          /* push button, text entry */
+#define OUSERDEFINED 1       /* push button with colours of its own */
 #define ODEFAULTBUTTON 2
-#define OBEVELSQUARE 0 /* toggles */
+#define OBEVELSQUARE 0       /* toggles */
 #define OBEVELDIAMOND 1
 #define OSIMPLESQUARE 2
 #define OTICKBOX 3
@@ -103,14 +103,14 @@ extern "C" {
 #define OCHECKBOX 5
 #define O3DRADIO 6
 #define O3DCHECKBOX 7
-#define OSECURITY (-1) /* text entries */
+#define OSECURITY (-1)       /* text entries */
 #define ORICHEDIT 1
-#define OEDIT 0    /* display argument of text, value and combo widgets; owAccess of a gauge */
-#define ODISPLAY 1 /* a combo box: choice from the list only */
-#define OBLACK3D 1 /* borders of text and value entries */
+#define OEDIT 0              /* display argument of text, value and combo widgets; owAccess of a gauge */
+#define ODISPLAY 1           /* a combo box: choice from the list only */
+#define OBLACK3D 1           /* borders of text and value entries */
 #define OBLACK2D 2
 #define ONOBORDER 3
-#define ODECIMAL 0 /* value entries */
+#define ODECIMAL 0           /* value entries */
 #define OSCIENTIFIC 1
 #define OBINARY 2
 #define OOCTAL 3
@@ -126,23 +126,23 @@ extern "C" {
 #define OFRANC 13
 #define OYEN 14
 #define OEURO 15
-#define OCREDIT1 1      /* signs of negative values: [12] */
-#define OCREDIT2 2      /* (12) */
-#define OREDCREDIT 3    /* red characters */
-#define OALPHANUMERIC 1 /* owCharSet of a value entry */
-#define OICONBUTTON 0   /* tool bar buttons */
+#define OCREDIT1 1           /* signs of negative values: [12] */
+#define OCREDIT2 2           /* (12) */
+#define OREDCREDIT 3         /* red characters */
+#define OALPHANUMERIC 1      /* owCharSet of a value entry */
+#define OICONBUTTON 0        /* tool bar buttons */
 #define OTEXTBUTTON 1
-#define OPICTOGRAM 1 /* icons */
+#define OPICTOGRAM 1         /* icons */
 #define OMOUSESENSITIVE 2
 #define OBUTTON 7
-#define OSINGLECHOICE 0 /* list boxes */
+#define OSINGLECHOICE 0      /* list boxes */
 #define OMULTIPLECHOICE 1
-#define OMULTIPLECHOICE2 2 /* with Shift and Ctrl */
+#define OMULTIPLECHOICE2 2   /* with Shift and Ctrl */
 #define OEXACT 0
-#define OAPPROX 1 /* height rounded to whole rows */
+#define OAPPROX 1            /* height rounded to whole rows */
 #define OUNSORTED 0
 #define OSORTED 1
-#define OFILES 1 /* contents of list and combo boxes, beside ONONE */
+#define OFILES 1             /* contents of list and combo boxes, beside ONONE */
 #define ODIRECTORIES 2
 #define ODRIVES 3
 #define OFONTS 4
@@ -151,20 +151,20 @@ extern "C" {
 #define OPRINTERS 7
 #define OREVERSEHORIZONTAL 2 /* sliders */
 #define OREVERSEVERTICAL 3
-#define OVERTICAL 32763   /* also a scroll mode */
-#define OHORIZONTAL 32764 /* also a scroll mode */
-#define ONOBARS (-1)      /* scroll modes */
+#define OVERTICAL 32763      /* also a scroll mode */
+#define OHORIZONTAL 32764    /* also a scroll mode */
+#define ONOBARS (-1)         /* scroll modes */
 #define OBOTHBARS 0
-#define OFREEFORM 2 /* radio boxes */
-#define OGDI 0      /* graphics frames */
+#define OFREEFORM 2          /* radio boxes */
+#define OGDI 0               /* graphics frames */
 #define OOPENGL 40
-#define OSMOOTH 32745 /* progress bars */
-#define OFOLDERS 1    /* icon sets of tree views */
+#define OSMOOTH 32745        /* progress bars */
+#define OFOLDERS 1           /* icon sets of tree views */
 #define OBOOKS 2
 #define ORESOURCEICONS 3
-#define OFIRSTCHILD (-1) /* positions of tree entries; a position above 0 counts from 1 */
+#define OFIRSTCHILD (-1)     /* positions of tree entries; a position above 0 counts from 1 */
 #define OLASTCHILD (-2)
-#define OINVISIBLE (-1) /* line types: cell borders, graphics */
+#define OINVISIBLE (-1)      /* line types: cell borders, graphics */
 #define OSOLID 0
 #define ODASHED 1
 #define ODOTTED 2
@@ -174,7 +174,7 @@ extern "C" {
 #define OMENUICON 0
 #define OBMPFILE 1
 #define OICOFILE 3
-#define ODLLICON 4 /* a stock or program resource, by name */
+#define ODLLICON 4           /* a stock or program resource, by name */
 
 /* Actions of owSetListEntry */
 #define OADD 0
@@ -196,13 +196,13 @@ extern "C" {
 #define OCUT 0
 #define OCOPY 1
 #define OPASTE 2
-#define OPLAINTEXT 32746 /* format of owEnqClipboardStatus */
+#define OPLAINTEXT 32746     /* format of owEnqClipboardStatus */
 
 /* Actions of owTreeViewAction */
 #define OCLOSEENTRY 1
 #define OOPENENTRY 2
 #define OTOGGLEENTRY 3
-#define OSHOWENTRY 4 /* scrolls the entry into view */
+#define OSHOWENTRY 4         /* scrolls the entry into view */
 #define OSELECTENTRY 5
 
 /* Pictures, buttons and answers of message boxes */
@@ -220,14 +220,14 @@ extern "C" {
 
 /* Modes of owFileBrowser (owType) */
 #define OOPENFILE 0
-#define OSAVEFILE 1 /* the program asks about overwriting, not the box */
+#define OSAVEFILE 1          /* the program asks about overwriting, not the box */
 #define OPICKDIRECTORY 2
 
 /* Cells of a property list */
-#define OPROPTEXT 0   /* free text of at most 255 characters */
-#define OPROPBUTTON 1 /* read-only cell with a button at its right end */
-#define OPROPCOMBO 2  /* owPropertyWidget is a combo box made with the list as parent */
-#define OPROPVALUE 3  /* owPropertyWidget is a value entry made with the list as parent */
+#define OPROPTEXT 0          /* free text of at most 255 characters */
+#define OPROPBUTTON 1        /* read-only cell with a button at its right end */
+#define OPROPCOMBO 2         /* owPropertyWidget is a combo box made with the list as parent */
+#define OPROPVALUE 3         /* owPropertyWidget is a value entry made with the list as parent */
 
 /* Character sets */
 #define OANSISET 1
@@ -259,7 +259,7 @@ extern "C" {
 #define OKEYRIGHT 39
 #define OKEYDOWN 40
 #define OKEYDEL 127
-#define OKEYF1 513 /* to OKEYF1 + 11 */
+#define OKEYF1 513           /* to OKEYF1 + 11 */
 #define OKEYHOME 530
 #define OKEYEND 531
 #define OKEYPAGEUP 532
@@ -282,22 +282,22 @@ extern "C" {
 /* ----------------------------------------------------------------------------------------------- keywords */
 
 enum OKEYWORD {
-    owStartPosition = 32077, /* value entry */
-    owThousands = 32078,     /* value entry: 1 groups thousands */
-    owIncrement = 32079,     /* value entry: step of the arrow keys, a real */
-    owLinkCallback = 32088,  /* the user followed a link */
-    owAutoURL = 32089,       /* 1 turns addresses into links */
-    owNumbering = 32091,     /* paragraph: 0 none, 1 bullet, 2 digits, 3 letters */
-    owBuddy = 32093,         /* spinner: value entry that it steps */
-    owStep = 32094,          /* spinner, slider: step, a whole number on a spinner */
-    owTabAction = 32095,     /* array: OOFF, OON, OCYCLE */
-    owTabList = 32096,       /* 1 in the tab order, the default */
-    owCellSelect = 32098,    /* array: cells can be selected, default 1 */
+    owStartPosition = 32077,      /* value entry */
+    owThousands = 32078,          /* value entry: 1 groups thousands */
+    owIncrement = 32079,          /* value entry: step of the arrow keys, a real */
+    owLinkCallback = 32088,       /* the user followed a link */
+    owAutoURL = 32089,            /* 1 turns addresses into links */
+    owNumbering = 32091,          /* paragraph: 0 none, 1 bullet, 2 digits, 3 letters */
+    owBuddy = 32093,              /* spinner: value entry that it steps */
+    owStep = 32094,               /* spinner, slider: step, a whole number on a spinner */
+    owTabAction = 32095,          /* array: OOFF, OON, OCYCLE */
+    owTabList = 32096,            /* 1 in the tab order, the default */
+    owCellSelect = 32098,         /* array: cells can be selected, default 1 */
     owReadOnly = 32099,
     owFixedSize = 32101,
     owValueErrorCallback = 32102, /* a value outside the limits was entered */
     owHelpJustify = 32104,
-    owLength = 32105, /* bytes of the buffer that owString names, default 256 */
+    owLength = 32105,             /* bytes of the buffer that owString names, default 256 */
     owSelectedCellColour = 32106,
     owCellBorderLineType = 32107,
     owCellBorderColour = 32108,
@@ -305,34 +305,34 @@ enum OKEYWORD {
     owYtextColour = 32110,
     owXtextColour = 32111,
     owAxisBackColour = 32112,
-    owWordWrap = 32113, /* text entry, default 1 */
+    owWordWrap = 32113,           /* text entry, default 1 */
     owOLEInserts = 32114,
-    owBuildInfo = 32117, /* master window: 0 leaves the toolkit out of the system menu */
+    owBuildInfo = 32117,          /* master window: 0 leaves the toolkit out of the system menu */
     owGreyIcon = 32118,
     owIconLabelPos = 32119,
     owUseIcons = 32120,
-    owIconHandle = 32121, /* picture from owGetIconResource on a button, icon or panel */
+    owIconHandle = 32121,         /* picture from owGetIconResource on a button, icon or panel */
     owCloseIcon = 32122,
     owOpenIcon = 32123,
     owIcon = 32124,
     owUncheckIcon = 32127,
     owCheckIcon = 32128,
     owFileDropCallback = 32136,
-    owCapacity = 32137,  /* list box: most rows; the oldest goes when one more is added */
-    owLanguage = 32138,  /* syntax: 1 Fortran 77, 2 Fortran 90, 3 C */
-    owHelpDelay = 32139, /* milliseconds, -1 the default */
+    owCapacity = 32137,           /* list box: most rows; the oldest goes when one more is added */
+    owLanguage = 32138,           /* syntax: 1 Fortran 77, 2 Fortran 90, 3 C */
+    owHelpDelay = 32139,          /* milliseconds, -1 the default */
     owSeparatorType = 32140,
     owDescWidth = 32141,
-    owColumnWidth = 32158,    /* property list: width of the label column */
-    owPropertyValue = 32160,  /* property list: a real */
-    owPropertyWidget = 32161, /* property list: handle of the widget in the cell */
+    owColumnWidth = 32158,        /* property list: width of the label column */
+    owPropertyValue = 32160,      /* property list: a real */
+    owPropertyWidget = 32161,     /* property list: handle of the widget in the cell */
     owPropertyKind = 32162,
     owPropertyLabel = 32163,
-    owPropertyStatus = 32164, /* property list: 0 disabled, 1 enabled */
+    owPropertyStatus = 32164,     /* property list: 0 disabled, 1 enabled */
     owSelectedText = 32165,
     owMatchCase = 32169,
     owDoubleClickCallback = 32170,
-    owGridLines = 32171, /* property list, default 1 */
+    owGridLines = 32171,          /* property list, default 1 */
     owRowHeight = 32172,
     owProgressType = 32173,
     owIntValue = 32174,
@@ -344,12 +344,12 @@ enum OKEYWORD {
     owMinHeight = 32184,
     owWidgetStatus = 32185,
     owTitleFlag = 32186,
-    owKind = 32187, /* enquiry: kind of the widget, see OWIDGET */
+    owKind = 32187,               /* enquiry: kind of the widget, see OWIDGET */
     owSliderTicks = 32188,
     owEntryType = 32194,
     owDragMode = 32196,
-    owPrefix = 32197,  /* value entry: text before the number */
-    owPostfix = 32198, /* value entry: text behind the number */
+    owPrefix = 32197,             /* value entry: text before the number */
+    owPostfix = 32198,            /* value entry: text behind the number */
     owValueType = 32199,
     owIconSet = 32200,
     owIconType = 32201,
@@ -365,7 +365,7 @@ enum OKEYWORD {
     owDragSelectCallback = 32212,
     owFrameType = 32213,
     owDragDropCallback = 32214,
-    owPosition = 32216, /* text enquiries: a position or line */
+    owPosition = 32216,           /* text enquiries: a position or line */
     owDialogueMode = 32218,
     owRightIndent = 32219,        /* paragraph: twips, 20 to a point */
     owFirstIndent = 32220,
@@ -380,10 +380,10 @@ enum OKEYWORD {
     owFontFace = 32229,
     owPrompt = 32230,
     owMaximum = 32231,
-    owScrollable = 32232, /* field length: 1 scrolls, 0 does not */
+    owScrollable = 32232,         /* field length: 1 scrolls, 0 does not */
     owTicks2 = 32234,
     owTicks1 = 32235,
-    owAccess = 32236, /* gauge: OEDIT or ODISPLAY */
+    owAccess = 32236,             /* gauge: OEDIT or ODISPLAY */
     owLabel = 32237,
     owSizes = 32239,
     owPanes = 32240,
@@ -404,7 +404,7 @@ enum OKEYWORD {
     owStyle = 32258,
     owQuitMode = 32259,
     owInitState = 32260,
-    owExpand = 32261, /* 1 fills, 2 to 24 takes so many 24ths of the parent along each centred origin */
+    owExpand = 32261,             /* 1 fills, 2 to 24 takes so many 24ths of the parent along each centred origin */
     owVpos = 32262,
     owHpos = 32263,
     owIconID = 32264,
@@ -418,8 +418,8 @@ enum OKEYWORD {
     owJustify = 32273,
     owTextCol = 32274,
     owTextMargin = 32275,
-    owBack2Col = 32276, /* the same as owOnCol */
-    owBack1Col = 32277, /* the same as owOffCol */
+    owBack2Col = 32276,           /* the same as owOnCol */
+    owBack1Col = 32277,           /* the same as owOffCol */
     owBackCol = 32278,
     owBorderType = 32281,
     owFillBorder = 32282,
@@ -427,7 +427,7 @@ enum OKEYWORD {
     owLineBorder = 32284,
     owLineCol = 32285,
     owTitle = 32286,
-    owMaxHeight = 32287, /* forms: accepted beside the height of the call */
+    owMaxHeight = 32287,          /* forms: accepted beside the height of the call */
     owMaxWidth = 32288,
     owOffCol = 32289,
     owOnCol = 32290,
@@ -446,13 +446,12 @@ enum OKEYWORD {
 
 /* The event of the last owAction. */
 typedef struct OACTION {
-    int callback; /* identifier of the event; -1 a closed master window */
-    int widget;   /* handle of the widget, menu entry or tree entry that raised it */
-    int key;      /* code of a key event, or of the key that led to this one, else 0 */
-    int status;   /* what happened, by kind of event */
-    float xpos,
-        ypos;  /* pointer in pixels in the widget, ypos upward from its bottom; drawing units when status is -1 */
-    int count; /* number of values in args */
+    int callback;     /* identifier of the event; -1 a closed master window */
+    int widget;       /* handle of the widget, menu entry or tree entry that raised it */
+    int key;          /* code of a key event, or of the key that led to this one, else 0 */
+    int status;       /* what happened, by kind of event */
+    float xpos, ypos; /* pointer in pixels in the widget, from its top left; drawing units when status is -1 */
+    int count;        /* number of values in args */
     float args[80];
     int iargs[80];
     char text[256];
@@ -464,12 +463,12 @@ typedef struct OWIDGET {
     int xpos, ypos, width, height; /* in the unit in force */
     int parent;                    /* handle, 0 for the master window */
     int expand;
-    int child, next; /* handles, 0 for none */
-    int window;      /* handle of the window that holds it */
-    int state;       /* window: 1 normal, 4 maximised, 8 minimised; else 0 */
+    int child, next;               /* handles, 0 for none */
+    int window;                    /* handle of the window that holds it */
+    int state;                     /* window: 1 normal, 4 maximised, 8 minimised; else 0 */
     int dragMoveCallback, dragSelectCallback;
     int spare13, spare14;
-    int kind; /* 0 master, 1 menu bar, 2 window, 3 pop-up menu, 4 pull-down menu, 15 panel ... */
+    int kind;                      /* 0 master, 1 menu bar, 2 window, 3 pop-up menu, 4 pull-down menu, 15 panel ... */
     int titleFlag, exposeCallback, moveCallback, callback;
     int borderType, accel, fillCol, dragDropCallback, dragMode;
     int offCol, onCol, textCol, size, status, justify;
@@ -478,7 +477,7 @@ typedef struct OWIDGET {
     int sign, sort, type;
     float value, vmin, vmax, step; /* value entry, slider, gauge; graphics frame: xmin, xmax, ymin, ymax */
     float real5, real6;
-    char text[256]; /* label, title or the beginning of the text */
+    char text[256];                /* label, title or the beginning of the text */
 } OWIDGET;
 
 /* Size and looks of a cell of an array. Colours: 0 the default. */
@@ -488,37 +487,25 @@ typedef struct OARRAYCELL {
     int justify;
     int readOnly;
     int status;
-    int type; /* value array: type, field and decimals of the number */
+    int type;          /* value array: type, field and decimals of the number */
     int field, decimals;
 } OARRAYCELL;
 
-typedef struct OLIMIT {
-    float xmin, xmax, ymin, ymax;
-} OLIMIT;
-typedef struct ODIM {
-    float x, y;
-} ODIM;
-typedef struct OPOINT {
-    float x, y;
-} OPOINT;
-typedef struct OPIXEL {
-    int x, y;
-} OPIXEL;
-typedef struct ORGBSTY {
-    float red, green, blue;
-} ORGBSTY; /* each 0 to 1 */
+typedef struct OLIMIT { float xmin, xmax, ymin, ymax; } OLIMIT;
+typedef struct ODIM { float x, y; } ODIM;
+typedef struct OPOINT { float x, y; } OPOINT;
+typedef struct OPIXEL { int x, y; } OPIXEL;
+typedef struct ORGBSTY { float red, green, blue; } ORGBSTY; /* each 0 to 1 */
 
 /* ------------------------------------------------------------------------------------- session and events */
 
-void owInitializeMenu(void); /* starts the toolkit; before any other ow routine */
-void owCloseMenu(void);      /* erases all windows and ends it */
-void owManage(void);         /* shows the windows made so far; before the first owAction */
-int owAction(int* callback); /* waits for an event; gives and returns its identifier */
+void owInitializeMenu(void);  /* starts the toolkit; before any other ow routine */
+void owCloseMenu(void);       /* erases all windows and ends it */
+void owManage(void);          /* shows the windows made so far; before the first owAction */
+int owAction(int* callback);  /* waits for an event; gives and returns its identifier */
 void owEnqActionState(OACTION* action);
 void owPostCallback(int callback, int widget); /* appends an event of the program's own */
 void owFlushCallbackQueue(void);               /* forgets the events not yet read */
-void owUpdateWindows(void); /* repaints what has changed while a long command runs; input waits for the next owAction */
-void owEnqScreenSize(int* width, int* height); /* of the main screen, in pixels */
 
 void owDefineCallback(int widget, int callback);
 void owDefineSelectCallback(int widget, int callback);
@@ -532,7 +519,7 @@ void owDefineDragSelectCallback(int widget, int callback);
 void owDefineDragMoveCallback(int widget, int callback);
 void owDefineValueErrorCallback(int widget, int callback);
 void owDefineLinkCallback(int widget, int callback);
-void owDefineKeyCallback(int key, int callback); /* key at least -20; the key is taken from the widgets; 0 frees it */
+void owDefineKeyCallback(int key, int callback);       /* key at least -20; the key is taken from the widgets; 0 frees it */
 void owDefineKeySelectCallback(int key, int callback); /* the key still reaches the widget that has the focus */
 int owEnqKeyCallback(int key);
 int owEnqKeySelectCallback(int key);
@@ -544,11 +531,11 @@ void owDefineTimerCallback(int milliseconds, int callback); /* repeats; 0 millis
 
 void owDefineGuiGrid(int columns, int rows); /* cells of the reference screen of 800 by 600 */
 void owEnqGuiGrid(int* columns, int* rows, int* cellWidth, int* cellHeight); /* of this screen; cells in pixels */
-void owSetGuiGridMode(int mode);                                             /* 1 grid cells, 0 pixels */
+void owSetGuiGridMode(int mode);             /* 1 grid cells, 0 pixels */
 int owEnqGuiGridMode(void);
-void owSetGuiStyle(int style); /* 0 to 3; kept, without effect */
+void owSetGuiStyle(int style);               /* 0 to 3; kept, without effect */
 int owEnqGuiStyle(void);
-void owSetSnapGrid(int pixels); /* step of dragging an adopted widget, at least 1 */
+void owSetSnapGrid(int pixels);              /* step of dragging an adopted widget, at least 1 */
 int owEnqSnapGrid(void);
 int owColourControl(float* red, float* green, float* blue); /* colour box; 1 when one was chosen */
 void owSetBubbleHelpSwitch(int on);
@@ -558,10 +545,8 @@ int owEnqBubbleHelpSwitch(void);
 
 int owCreateMasterWindow(int xpos, int ypos, int width, int height, int tflag, const char* title, ...);
 int owCreateMDIMasterWindow(int xpos, int ypos, int width, int height, int tflag, const char* title, ...);
-int owCreateComplexDialogueBox(int parent, int xpos, int ypos, int width, int height, int tflag, const char* title,
-                               ...);
-int owCreateMDIComplexDialogueBox(int parent, int xpos, int ypos, int width, int height, int tflag, const char* title,
-                                  ...);
+int owCreateComplexDialogueBox(int parent, int xpos, int ypos, int width, int height, int tflag, const char* title, ...);
+int owCreateMDIComplexDialogueBox(int parent, int xpos, int ypos, int width, int height, int tflag, const char* title, ...);
 void owSetWindowIcon(int window, const char* file, int format, int iconid);
 void owDrawWindow(int window, int front, ...); /* shows a window with all its widgets; front 1 above its siblings */
 void owRemoveWindow(int window);               /* takes it from the screen, alive */
@@ -569,7 +554,7 @@ void owPushWindow(int window);                 /* to the back */
 void owPopWindow(int window);                  /* to the front */
 void owSetActiveWindow(int window);            /* confines the input to a window; 0 or 1 gives it back */
 int owEnqActiveWindow(void);
-void owMDIAction(int action); /* 0 cascade, 1 tile horizontally, 2 tile vertically, 3 next, 4 previous */
+void owMDIAction(int action);                  /* 0 cascade, 1 tile horizontally, 2 tile vertically, 3 next, 4 previous */
 int owEnqSystemMenu(int window, int* entries);
 int owGetWidgetHandle(int window, const char* title);
 
@@ -582,21 +567,21 @@ int owCreateMenuEntry(int menu, const char* label, ...); /* "text|key": the key 
 int owCreateMenuSeparator(int menu, ...);
 int owCreatePopupMenu(int parent, int xpos, int ypos, int tflag, const char* title, ...); /* shown by owDrawWindow at
                                                                                              the pointer */
-int owCreateStatusBar(int window, ...);                       /* owPanes, owSizes: right edges in pixels, -1 the rest */
+int owCreateStatusBar(int window, ...);        /* owPanes, owSizes: right edges in pixels, -1 the rest */
 void owSetStatusBarText(int bar, int pane, const char* text); /* panes count from 0 */
 void owSetTextPanes(int bar, int panes, const int* sizes);
 
 /* ------------------------------------------------------------------------------------------- bars and panes */
 
-int owCreateToolBar(int parent, int position, int size, ...);           /* size of icons in pixels */
+int owCreateToolBar(int parent, int position, int size, ...); /* size of icons in pixels */
 int owCreateToolBarButton(int bar, int style, const char* string, ...); /* style OICONBUTTON or OTEXTBUTTON */
 int owCreateToolBarSeparator(int bar, ...);
 int owCreateDockingPane(int parent, int position, int xpos, int ypos, int width, int height, ...);
 void owSetToolbarPos(int bar, int xpos, int ypos, int width, int position);
 void owEnqToolbarPos(int bar, int* xpos, int* ypos, int* width, int* position);
 void owSetPanePos(int pane, int xpos, int ypos, int width, int height, int position);
-void owEnqPanePos(int pane, int* xpos, int* ypos, int* dockedWidth, int* dockedHeight, int* floatWidth,
-                  int* floatHeight, int* position);
+void owEnqPanePos(int pane, int* xpos, int* ypos, int* dockedWidth, int* dockedHeight, int* floatWidth, int* floatHeight,
+                  int* position);
 
 /* -------------------------------------------------------------------------------------------------- widgets */
 
@@ -606,13 +591,10 @@ int owCreateTabDialogueBox(int parent, int xpos, int ypos, int width, int height
 int owCreatePushButton(int parent, int xpos, int ypos, int width, int height, const char* label, ...);
 int owCreateToggleButton(int parent, int xpos, int ypos, int width, int height, const char* label, int status, ...);
 int owCreateIcon(int parent, int xpos, int ypos, int width, int height, const char* file, int format, int iconid, ...);
-int owCreateTextEntry(int parent, int xpos, int ypos, int width, int height, const char* string, int field, int display,
-                      ...);
+int owCreateTextEntry(int parent, int xpos, int ypos, int width, int height, const char* string, int field, int display, ...);
 int owCreateTTYEntry(int parent, int xpos, int ypos, int width, int height, int lines, const char* string, ...);
-int owCreateValueEntry(int parent, int xpos, int ypos, int width, int height, double value, int field, int ndp,
-                       int display, ...);
-int owCreateSlider(int parent, int xpos, int ypos, int width, int height, double smin, double smax, double step,
-                   double value, ...);
+int owCreateValueEntry(int parent, int xpos, int ypos, int width, int height, double value, int field, int ndp, int display, ...);
+int owCreateSlider(int parent, int xpos, int ypos, int width, int height, double smin, double smax, double step, double value, ...);
 int owCreateSpinner(int parent, int xpos, int ypos, int width, int height, ...);
 int owCreateGauge(int parent, int xpos, int ypos, int width, int height, const char* icon, ...);
 int owCreateProgressBar(int parent, int xpos, int ypos, int width, int height, ...);
@@ -645,11 +627,11 @@ int owEnqActiveWidget(void);
 void owSetGuiCursor(int widget, int format, int cursor); /* widget 0: everywhere */
 void owSetCursorPos(int widget, int xpos, int ypos);
 void owAdoptChild(int widget, int moved, int doubleClick); /* drag handles on one widget; three zeros end it */
-void owSetTrackingPos(int xpos, int ypos);                 /* -1, -1 follows the pointer again */
+void owSetTrackingPos(int xpos, int ypos);   /* -1, -1 follows the pointer again */
 void owEnqTrackingPos(int* xpos, int* ypos);
 void owSetScrollBarPos(int widget, int xpos, int ypos);
 void owEnqScrollBarPos(int widget, int* xpos, int* ypos);
-void owChangeWidgetOrder(int widget, int after);              /* tab order; 0 first */
+void owChangeWidgetOrder(int widget, int after); /* tab order; 0 first */
 int owReturnChildList(int widget, int* children, int length); /* number of children */
 void owDefineWidgetLinks(int widget, int other, int action, int state);
 void owDefineDragRect(int widget, int xpos, int ypos, int width, int height);
@@ -699,7 +681,7 @@ int owPropertyItemCount(int list);
 int owPropertyItemNumber(int list, const char* label); /* rows count from 1; 0 for none */
 void owSelectProperty(int list, int row);
 void owSetPropertySetting(int list, int row, ...);
-void owEnqPropertySetting(int list, int row, ...); /* row 0: the current one; each value a pointer to the result */
+void owEnqPropertySetting(int list, int row, ...);     /* row 0: the current one; each value a pointer to the result */
 
 /* ---------------------------------------------------------------------------------------------------- arrays */
 
@@ -727,20 +709,20 @@ int owEnqArrayGridReturnAction(int array);
 
 void owEnqTextSetting(int text, char* buffer, int length, ...); /* owEntryType 1: rich text as RTF */
 void owSetTextSetting(int text, const char* string, ...);
-void owReplaceText(int text, const char* string, ...);  /* in place of the selection */
-int owGetTextFromFile(int text, const char* file, ...); /* 1 done, 0 not */
+void owReplaceText(int text, const char* string, ...);          /* in place of the selection */
+int owGetTextFromFile(int text, const char* file, ...);         /* 1 done, 0 not */
 int owSaveTextToFile(int text, const char* file, ...);
 int owExtractText(int text, int start, int end, char* buffer, int length);
 int owExtractWord(int text, int position, char* buffer, int length); /* position of the word's start, 0 for none */
-int owEnqTextLength(const char* string, ...);  /* pixels; owFontFace, owPointSize, owBold, owItalic */
-int owEnqTextPos(int text, int property, ...); /* owPosition; 0 line of a position, 1 characters before
-                                                  a line, 2 length of the line that begins at a
-                                                  position, 5 last position, 6 length */
+int owEnqTextLength(const char* string, ...);                   /* pixels; owFontFace, owPointSize, owBold, owItalic */
+int owEnqTextPos(int text, int property, ...);                  /* owPosition; 0 line of a position, 1 characters before
+                                                                   a line, 2 length of the line that begins at a
+                                                                   position, 5 last position, 6 length */
 void owEnqSelectedTextRange(int text, int* start, int* end, ...); /* owLength, owString: the text as well */
-void owSetSelectedTextRange(int text, int start, int end);        /* 1, 0 or 1, -1 all; 0, 0 nothing */
+void owSetSelectedTextRange(int text, int start, int end);      /* 1, 0 or 1, -1 all; 0, 0 nothing */
 void owEnqSelectedText(int text, char* buffer, int length);
-int owFindText(int text, int start, const char* string, ...); /* position of the match, 0 for none */
-int owFindTextDialogue(int text, char* buffer, int length);   /* 1 found; the string looked for comes back */
+int owFindText(int text, int start, const char* string, ...);   /* position of the match, 0 for none */
+int owFindTextDialogue(int text, char* buffer, int length);     /* 1 found; the string looked for comes back */
 int owReplaceTextDialogue(int text, char* buffer, int length);
 int owTextUndoAction(int text, int action);
 void owCopyTextToClipboard(int text, int action);
@@ -768,14 +750,14 @@ int owDisplayMessageBox(const char* title, const char* text, int icon, int butto
 void owDisplayErrorBox(const char* title, const char* text);
 void owDisplayInfoBox(const char* title, const char* text);
 int owFileBrowser(char* filename, int filenameLength, char* directory, int directoryLength, const char* filter, ...);
-/* 1 chosen, 0 not, and filename is then empty; filter "*.f90|Fortran|*.*|All";
-   owTitle, owType */
+                                       /* 1 chosen, 0 not, and filename is then empty; filter "*.f90|Fortran|*.*|All";
+                                          owTitle, owType */
 int owDisplayHelpWindow(const char* file, const char* topic); /* 0 when the file cannot be shown */
 int owDisplayHelp(const char* file, const char* topic);
 
 /* -------------------------------------------------------------------------------------------- icons, images */
 
-int owGetIconResource(const char* name); /* a picture by name, above 0; 0 for an empty name */
+int owGetIconResource(const char* name);   /* a picture by name, above 0; 0 for an empty name */
 int owGetBitmapResource(const char* name);
 int owGetCursorResource(const char* name);
 int owEnqResourceImageInfo(const char* name, int* width, int* height);
@@ -813,11 +795,10 @@ void oEnqRGB(int index, ORGBSTY* rgb);
 int oTrueCol(double red, double green, double blue); /* a colour value of its own for colour keywords */
 void oSetLineColour(int colour);
 void oEnqLineColour(int* colour);
-void oSetLineStyle(int style);    /* OSOLID, ODASHED, ODOTTED, ODASHDOTTED, OINVISIBLE */
-void oSetLineWidth(double width); /* drawing units; 0 one pixel */
+void oSetLineStyle(int style);              /* OSOLID, ODASHED, ODOTTED, ODASHDOTTED, OINVISIBLE */
+void oSetLineWidth(double width);           /* drawing units; 0 one pixel */
 void oSetLineWidthPixel(int pixels);
-void oSetFillMode(int style,
-                  int colour); /* 0 hollow, 1 solid, 2 horizontal, 3 vertical, 4, 5 diagonal, 6 cross lines */
+void oSetFillMode(int style, int colour);   /* 0 hollow, 1 solid, 2 horizontal, 3 vertical, 4, 5 diagonal, 6 cross lines */
 void oMoveTo2D(double x, double y);
 void oMoveBy2D(double dx, double dy);
 void oDrawLineTo2D(double x, double y);
@@ -827,25 +808,25 @@ void oDrawPolylineBy2D(int points, const OPOINT* step);
 void oFillPolygonTo2D(int points, const OPOINT* point);
 void oDrawRect2D(double x1, double y1, double x2, double y2);
 void oFillRect(double x1, double y1, double x2, double y2);
-void oDrawCircle2D(double radius);                                           /* about the current position */
+void oDrawCircle2D(double radius);          /* about the current position */
 void oDrawArcTo2D(double xcentre, double ycentre, double xend, double yend); /* counterclockwise */
 void oDrawArcBy2D(double dx, double dy, double degrees); /* centre by its distance, counterclockwise when positive */
 void oDrawEllipse2D(double xradius, double yradius);
-void oDrawMarker(int marker); /* 0 dot, 1 plus, 2 cross, 3 square, 4 diamond, 5 triangle, 6 circle, 7 star */
+void oDrawMarker(int marker);               /* 0 dot, 1 plus, 2 cross, 3 square, 4 diamond, 5 triangle, 6 circle, 7 star */
 void oDrawPolymarkerTo2D(int points, const OPOINT* point, int marker);
 void oSetMarkerSize(double size);
-void oDisplayStr(const char* text); /* at the current position */
+void oDisplayStr(const char* text);         /* at the current position */
 void oDisplayInteger(int value, int field);
 void oDisplayRealFixed(double value, int field, int decimals);
 void oSetCharSize(double width, double height);
 void oSetCharFontName(const char* name);
 void oSetStrAngle(double degrees);
-void oSetStrJustify(int horizontal); /* OLEFT, OCENTRE, ORIGHT */
+void oSetStrJustify(int horizontal);        /* OLEFT, OCENTRE, ORIGHT */
 void oSetWindow2D(const OLIMIT* limits);
 void oSetViewport2D(const OLIMIT* limits);
 void oClearViewport(int colour);
 void oFlushGraphics(void);
-int oSavePng(const char* file); /* the active frame; 1 done */
+int oSavePng(const char* file);             /* the active frame; 1 done */
 void oTimeDelay(double seconds);
 
 /* Calls of these routines may leave out the closing 0 of their lists, and owDrawWindow its second argument. */

@@ -15,8 +15,12 @@
 // When a handler runs, the checks of checked/ have passed: the toolkit is open, the handle names a widget of the right
 // kind, ranges hold. Only handles that are no first argument need a look of their own.
 //
-// Signal handlers only post events; they never call the program. A change made by the program posts nothing: block the
-// view's signals while it is made (QSignalBlocker).
+// Signal handlers only post events; they never call the program. While one of the program's own calls runs, post() does
+// nothing: what Qt signals then is the program's doing. So a handler needs no signal blocking of its own, unless the
+// signal comes later through the event loop.
+//
+// The frame itself posts double clicks (but on lists, tables, trees and property lists, whose families know the row),
+// pointer moves, drag and drop and file drops for every view.
 #pragma once
 
 #include "toolkit/widgets/arguments.h"

@@ -1,0 +1,22 @@
+// Which handler answers which routine.
+#include "toolkit/widgets/core.h"
+
+#include <array>
+
+namespace orba {
+namespace {
+
+std::array<Handler, static_cast<int>(Fn::count)>& handlers() {
+    static std::array<Handler, static_cast<int>(Fn::count)> table{};
+    return table;
+}
+
+} // namespace
+
+Registration::Registration(std::initializer_list<Routine> routines) {
+    for (const Routine& routine : routines) handlers()[static_cast<std::size_t>(routine.function)] = routine.handler;
+}
+
+Handler handlerOf(Fn function) { return handlers()[static_cast<std::size_t>(function)]; }
+
+} // namespace orba
