@@ -1,6 +1,7 @@
 // Tool bars with their buttons and separators.
 #include "toolkit/widgets/core.h"
 #include "toolkit/widgets/docking.h"
+#include "toolkit/widgets/frame.h"
 #include "toolkit/widgets/icons.h"
 #include "toolkit/widgets/main_window.h"
 
@@ -80,6 +81,7 @@ void setBarText(Widget& widget, const QString& text) { barOf(widget).setTitle(te
 void setBarStatus(Widget& widget, int status) {
     barOf(widget).setShown(status != OHIDDEN);
     barOf(widget).setEnabled(status != OUNSELECTABLE);
+    windowBarsChanged(*widget.parent);
 }
 
 bool setBarProperty(Widget& widget, int property, const Value& value) {
@@ -111,13 +113,16 @@ Word createToolBar(const Arguments& call) {
     Widget& bar = addWidget(Kind::toolBar, toolBars, parent, view);
     bar.titleFlag = flag;
     view->report = [handle = bar.handle](DockEvent event) { reportDocking(handle, static_cast<int>(event)); };
-    return finishCreation(bar, call);
+    const int handle = finishCreation(bar, call);
+    windowBarsChanged(*parent);
+    return handle;
 }
 
 Word setToolbarPos(const Arguments& call) {
     Widget& bar = *widgetOf(call.integer(0));
     const QPoint position(pixelsAcross(call.integer(1)), pixelsDown(call.integer(2)));
     barOf(bar).place(dockOf(call.integer(4)), position, pixelsAcross(call.integer(3)));
+    windowBarsChanged(*bar.parent);
     return 0;
 }
 
@@ -262,8 +267,10 @@ void reportDocking(int handle, int status) {
         post(handle, Slot::general, status);
         return;
     }
-    if (widget->quitMode != OLEAVE && widget->family->setStatus) widget->family->setStatus(*widget, OHIDDEN);
     post(handle, Slot::general, OCLOSED);
+    if (widget->quitMode == OLEAVE) return;
+    setStatus(*widget, OHIDDEN);
+    if (widget->quitMode == OREMOVE) session.doomed.push_back(handle);
 }
 
 } // namespace orba

@@ -1,6 +1,7 @@
 // Docking panes.
 #include "toolkit/widgets/core.h"
 #include "toolkit/widgets/docking.h"
+#include "toolkit/widgets/frame.h"
 #include "toolkit/widgets/main_window.h"
 
 namespace orba {
@@ -32,6 +33,7 @@ bool setPaneProperty(Widget& widget, int property, const Value& value) {
 void setPaneStatus(Widget& widget, int status) {
     paneOf(widget).setShown(status != OHIDDEN);
     widget.client->setEnabled(status != OUNSELECTABLE);
+    windowBarsChanged(*widget.parent);
 }
 
 QString paneText(Widget& widget) { return widget.view->windowTitle(); }
@@ -58,15 +60,20 @@ Word createDockingPane(const Arguments& call) {
         {pixelsAcross(call.integer(4)), pixelsDown(call.integer(5))}, call.keywordText(owTitle), titleOf(flag));
     Widget& pane = addWidget(Kind::dockingPane, panes, parent, view);
     pane.client = body;
+    knowObject(pane, body);
+    watch(body);
     pane.titleFlag = flag;
     view->report = [handle = pane.handle](DockEvent event) { reportDocking(handle, static_cast<int>(event)); };
-    return finishCreation(pane, call);
+    const int handle = finishCreation(pane, call);
+    windowBarsChanged(*parent);
+    return handle;
 }
 
 Word setPanePos(const Arguments& call) {
     Widget& pane = *widgetOf(call.integer(0));
     paneOf(pane).place(dockOf(call.integer(5)), {pixelsAcross(call.integer(1)), pixelsDown(call.integer(2))},
                        {pixelsAcross(call.integer(3)), pixelsDown(call.integer(4))});
+    windowBarsChanged(*pane.parent);
     return 0;
 }
 

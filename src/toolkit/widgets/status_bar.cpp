@@ -1,5 +1,6 @@
 // Status bars: panes of text at the foot of a window.
 #include "toolkit/widgets/core.h"
+#include "toolkit/widgets/frame.h"
 #include "toolkit/widgets/main_window.h"
 
 #include <QHelpEvent>
@@ -114,7 +115,9 @@ Word createStatusBar(const Arguments& call) {
     view->setPanes(edgesOf(call.keyword(owPanes), call.keywordRecord<const int>(owSizes)));
     window->setStatusBar(view);
     Widget& bar = addWidget(Kind::statusBar, statusBars, parent, view);
-    return finishCreation(bar, call);
+    const int handle = finishCreation(bar, call);
+    windowBarsChanged(*parent);
+    return handle;
 }
 
 Word setStatusBarText(const Arguments& call) {
