@@ -43,9 +43,18 @@ PanelLook lookOf(const PanelData& data, const QFont& titleFont) {
 
 Panel& panelOf(Widget& widget) { return static_cast<Panel&>(*widget.view); }
 
+bool isPage(const Widget& widget) { return widget.parent && widget.parent->kind == Kind::tabBox; }
+
+// A page of a tabbed dialogue box has its title and icon on its tab, which follows those of the view.
 void showPanel(Widget& widget) {
     Panel& panel = panelOf(widget);
-    panel.setLook(lookOf(dataOf<PanelData>(widget), panel.look().titleFont));
+    PanelLook look = lookOf(dataOf<PanelData>(widget), panel.look().titleFont);
+    if (isPage(widget)) {
+        panel.setWindowTitle(look.title);
+        look.title.clear();
+        look.boundary = boundaryOf(ONOBOUNDARY);
+    }
+    panel.setLook(look);
     widget.client = panel.content();
 }
 
@@ -71,6 +80,11 @@ bool getPanelProperty(Widget& widget, int property, Value& value) {
 
 bool setPanelProperty(Widget& widget, int property, const Value& value) {
     PanelData& data = dataOf<PanelData>(widget);
+    constexpr int iconProperty = 99;
+    if (property == iconProperty) {
+        panelOf(widget).setWindowIcon(icons::iconOfResource(value.integer));
+        return true;
+    }
     bool known = setInteger(properties, data, property, value);
     for (const TextProperty& row : textProperties)
         if (row.number == property) data.*row.field = value.text, known = true;
@@ -164,6 +178,10 @@ Word create(const Arguments& call, Kind kind, const Family& family) {
     Widget& widget = addWidget(kind, family, parent, panel);
     widget.client = panel->content();
     widget.data = std::move(data);
+    if (isPage(widget)) {
+        panel->setWindowIcon(icons::iconOfResource(call.keyword(owIcon)));
+        showPanel(widget);
+    }
     auto* mouse = new PanelMouse(panel, widget.handle);
     panel->installEventFilter(mouse);
     if (panel->content() != panel) {

@@ -99,9 +99,12 @@ Word createPropertyList(const Arguments& call) {
 
 // ---- Rows
 
-void setCell(PropertyRow& row, Widget* cell) {
-    row.handle = cell ? cell->handle : 0;
-    row.widget = cell ? cell->view.data() : nullptr;
+void setCell(PropertyRow& row, Widget& cell) {
+    constexpr int borderProperty = 20;
+    row.handle = cell.handle;
+    row.widget = cell.view;
+    if (cell.kind == Kind::valueEntry)
+        cell.family->set(cell, borderProperty, {.integer = ONOBORDER, .real = 0, .text = {}});
 }
 
 // The settings that a call gives a row.

@@ -1,7 +1,6 @@
 // The property list's table: model, drawing of cells, editors and the keyboard.
 #include "toolkit/widgets/property_view.h"
 
-#include <QAbstractSpinBox>
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QComboBox>
@@ -259,10 +258,19 @@ void PropertyView::setRow(int number, PropertyRow row) {
     placeCellWidget();
 }
 
+namespace {
+
+// The line in which a cell's widget is typed into; null for a list-only combo box.
+QLineEdit* lineOf(QWidget* widget) {
+    if (auto* line = qobject_cast<QLineEdit*>(widget)) return line;
+    return widget ? widget->findChild<QLineEdit*>() : nullptr;
+}
+
+} // namespace
+
 QString PropertyView::shownText(const PropertyRow& row) const {
     if (const auto* combo = qobject_cast<const QComboBox*>(row.widget.data())) return combo->currentText();
-    if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(row.widget.data())) return spin->text();
-    if (const auto* line = qobject_cast<const QLineEdit*>(row.widget.data())) return line->text();
+    if (const QLineEdit* line = lineOf(row.widget)) return line->text();
     return row.text;
 }
 
@@ -276,8 +284,7 @@ void PropertyView::adoptCellWidget(const PropertyRow& row) {
         combo->setFrame(false);
         connect(combo, &QComboBox::currentTextChanged, viewport(), qOverload<>(&QWidget::update));
     }
-    if (auto* spin = qobject_cast<QAbstractSpinBox*>(widget)) spin->setFrame(false);
-    if (auto* line = qobject_cast<QLineEdit*>(widget)) {
+    if (QLineEdit* line = lineOf(widget)) {
         line->setFrame(false);
         connect(line, &QLineEdit::textChanged, viewport(), qOverload<>(&QWidget::update));
     }
@@ -378,7 +385,7 @@ void PropertyView::editRow(int number) {
     if (!shown || !shown->enabled) return;
     if (shown->widget) {
         shown->widget->setFocus(Qt::OtherFocusReason);
-        if (auto* line = qobject_cast<QLineEdit*>(shown->widget.data())) line->selectAll();
+        if (QLineEdit* line = lineOf(shown->widget)) line->selectAll();
         return;
     }
     if (!editable(number)) {
@@ -548,10 +555,11 @@ bool PropertyView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 // Tab and Shift+Tab, and from a line of text the arrows up and down, take the text over and go to another row.
-bool PropertyView::movesOn(const QKeyEvent* event, const QWidget* editor) {
+bool PropertyView::movesOn(const QKeyEvent* event, QWidget* editor) {
     const int key = event->key();
     const bool tab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
-    const bool arrow = qobject_cast<const QLineEdit*>(editor) && (key == Qt::Key_Up || key == Qt::Key_Down);
+    const bool isLine = !qobject_cast<QComboBox*>(editor) && lineOf(editor);
+    const bool arrow = isLine && (key == Qt::Key_Up || key == Qt::Key_Down);
     if (!tab && !arrow) return false;
     finishEditing();
     if (tab)

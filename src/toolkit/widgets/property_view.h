@@ -107,7 +107,7 @@ private:
     bool editable(int number) const;
     void finishEditing(); // takes over and closes the open editor
     void moveEditor(int step);
-    bool movesOn(const QKeyEvent* event, const QWidget* editor);
+    bool movesOn(const QKeyEvent* event, QWidget* editor);
 
     PropertyModel* model_;
     QPointer<QWidget> editor_;    // the open line editor
