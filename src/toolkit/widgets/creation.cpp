@@ -44,6 +44,11 @@ void takePlace(Widget& widget, const Arguments& call) {
 int finishCreation(Widget& widget, const Arguments& call) {
     if (widget.handle == 0 || !widgetOf(widget.handle)) return 0;
     if (isPlaced(call.function) && widget.kind != Kind::window) takePlace(widget, call);
+    const Family* parent = widget.parent ? widget.parent->family : nullptr;
+    if (parent && parent->placeChild) {
+        widget.place.placed = false;
+        parent->placeChild(*widget.parent, widget);
+    }
     if (call.given(owAccel)) widget.accel = call.keyword(owAccel);
     if (call.given(owQuitMode)) widget.quitMode = call.keyword(owQuitMode);
     if (call.given(owDragMode)) widget.dragMode = call.keyword(owDragMode);

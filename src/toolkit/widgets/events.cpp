@@ -154,8 +154,13 @@ bool hasCallback(const Widget& widget, Slot slot) { return widget.callbacks[stat
 
 void post(int handle, Slot slot, int status, QPointF position, const QString& text) {
     if (session.programDepth > 0) return;
-    const Widget* widget = widgetOf(handle);
-    if (!widget || !hasCallback(*widget, slot)) return;
+    Widget* widget = widgetOf(handle);
+    if (!widget) return;
+    if (!hasCallback(*widget, slot)) {
+        Widget* parent = widget->parent;
+        if (parent && parent->family->childEvent) parent->family->childEvent(*parent, *widget, slot);
+        return;
+    }
     const int identifier = widget->callbacks[static_cast<std::size_t>(slot)];
     const bool window = widget->kind == Kind::master || widget->kind == Kind::window;
     if (window && slot == Slot::general && repeatsLast(identifier, handle, status)) return;
@@ -163,6 +168,8 @@ void post(int handle, Slot slot, int status, QPointF position, const QString& te
         session.queue.pop_back(); // only the last position
     append({identifier, handle, session.lastKey, status, position, text, {}});
 }
+
+int statusOfEvent(const Widget& widget) { return session.current.handle == widget.handle ? session.current.status : 0; }
 
 void postIdentifier(int identifier, int handle, int key, int status, QPointF position) {
     if (identifier == 0) return;

@@ -379,6 +379,8 @@ const Registration registration({
 void setStatus(Widget& widget, int status) {
     const bool wasHidden = widget.status == OHIDDEN;
     widget.status = status;
+    const Family* parent = widget.parent ? widget.parent->family : nullptr;
+    if (parent && parent->setChildStatus && parent->setChildStatus(*widget.parent, widget, status)) return;
     if (widget.family->setStatus) {
         widget.family->setStatus(widget, status);
     } else if (widget.view) {

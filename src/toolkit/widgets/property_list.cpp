@@ -61,6 +61,12 @@ void placeChild(Widget&, Widget& child) {
     if (child.view) child.view->hide();
 }
 
+// Whether it shows is the table's to decide.
+bool setChildStatus(Widget&, Widget& child, int status) {
+    if (child.view) child.view->setEnabled(status != OUNSELECTABLE);
+    return true;
+}
+
 void childEvent(Widget& list, Widget& child, Slot slot) {
     if (slot == Slot::general && list.view && child.view) viewOf(list).widgetChanged(child.view);
 }
@@ -70,6 +76,7 @@ const Family propertyLists{.name = "property list",
                            .set = setListProperty,
                            .childLeaving = childLeaving,
                            .placeChild = placeChild,
+                           .setChildStatus = setChildStatus,
                            .childEvent = childEvent};
 
 // What was typed into the widget of a cell is taken over as if the focus had left it.
@@ -121,7 +128,7 @@ void takeSettings(PropertyRow& row, const Arguments& call, Widget& list) {
     if (call.given(owPropertyWidget)) {
         Widget* cell = widgetOf(call.keyword(owPropertyWidget));
         if (cell && cell->parent == &list && cell->view)
-            setCell(row, cell);
+            setCell(row, *cell);
         else
             reportFailure(26, call.keyword(owPropertyWidget));
     }
