@@ -115,16 +115,18 @@ void removeOldResults(const Build& build) {
 // What the compilers themselves may have left unsaid: each failed build must show why in its log.
 void completeLog(Build& build) {
     if (!build.gnu || build.result <= 0) return;
+    bool missing = !build.failed && !pathExists(build.scene.exe);
+    if (!build.failed && !missing) return;
     CompilerLog log;
     readLog(build.run.logPath, build.scene.profile, log);
-    bool told = scanLogLines(log.lines, build.scene.profile).result > 0;
-    if (build.failed && !told) writeLogFile(build.run.log, "\n" + build.failedWords);
-    if (build.failed && build.scene.toolkit.includeDirs.empty() && build.scene.toolkit.moduleDirs.empty()) {
+    if (scanLogLines(log.lines, build.scene.profile).result == 0) {
+        writeLogFile(build.run.log, missing
+                                        ? "\nwdesign: error: no program was made: " + build.scene.exe + " is missing\n"
+                                        : "\n" + build.failedWords);
+    }
+    if (build.scene.toolkit.includeDirs.empty() && build.scene.toolkit.moduleDirs.empty()) {
         writeLogFile(build.run.log, "wdesign: note: the toolkit's headers and modules were not found; set ORBA to the "
                                     "folder that it is installed in\n");
-    }
-    if (!build.failed && !told && !pathExists(build.scene.exe)) {
-        writeLogFile(build.run.log, "\nwdesign: error: no program was made: " + build.scene.exe + " is missing\n");
     }
 }
 

@@ -130,7 +130,10 @@ std::string omissionWords(long long lines) {
 } // namespace
 
 std::string plainLogLine(const std::string& bytes) {
-    std::string line;
+    bool plain = true;
+    for (char c : bytes) plain &= c >= ' ' && c < 127;
+    std::string line = plain ? bytes.substr(0, LOG_LINE_LIMIT) : std::string();
+    if (plain) return line;
     for (size_t at = 0; at < bytes.size() && line.size() < LOG_LINE_LIMIT;) {
         unsigned char c = static_cast<unsigned char>(bytes[at]);
         size_t length = sequenceLength(bytes, at);
