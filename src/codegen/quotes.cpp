@@ -108,6 +108,7 @@ std::string doubledBackslashes(std::string_view path) {
     return result;
 }
 
+// Where the doubling ends a string or makes an escape that the language does not have, it is left out.
 std::string doubledTextBackslashes(std::string_view text) {
     std::string result;
     result.reserve(text.size());
@@ -115,10 +116,11 @@ std::string doubledTextBackslashes(std::string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         result += text[i];
         run = text[i] == '\\' ? run + 1 : 0;
-        if (run == 0) continue;
         const char follower = i + 1 < text.size() ? text[i + 1] : '\0';
-        const bool escapesQuote = follower == '"' && run % 2 != 0;
-        if (follower != '\\' && !escapesQuote) result += '\\';
+        if (run == 0 || follower == '\\') continue;
+        const bool odd = run % 2 != 0;
+        const bool badEscape = follower == 'x' || follower == 'u' || follower == 'U';
+        if (odd ? follower != '"' : !badEscape) result += '\\';
     }
     return result;
 }

@@ -196,6 +196,10 @@ struct Script {
         if (blanks == std::string::npos) return;
         line = line.substr(blanks);
         if (line.rfind("--", 0) == 0) return;
+        if (line[0] == '[') {
+            if (std::stoi(line.substr(1)) != project.projectLanguage) return;
+            line = line.substr(line.find(' ') + 1);
+        }
         if (line[0] == '.') return setField(line.substr(1));
         const std::string item = firstWord(line);
         if (item == "project") return setProject(line);

@@ -15,6 +15,7 @@
 //   = NAME ; SIZE TEXT ; ...   a status bar
 //   columns N...  rows N...    sizes of an array's or table's cells
 //
+// A line that begins with [77], [90] or [99] counts in a project of that language only.
 // In values \n is a line end as stored (carriage return, line feed), \\ a backslash. Lines that begin with -- are
 // remarks.
 #pragma once

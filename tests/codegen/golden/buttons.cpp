@@ -123,17 +123,17 @@ int main ()
 
 // Code to handle callbacks
       if (callid == (Form1_Button1)) {
-         call pressed()
+         callid=101;
          }
       else if (callid == (Form1_Button2+OIDENT)) {
-         call chosen()
-         call again()
+         callid=102;
+         callid=103;
          }
       else if (callid == (Form1_Button2+9*OIDENT)) {
-         call moved()
+         callid=104;
          }
       else if (callid == (Form1_Toggle3)) {
-         call one()
+         callid=105;
       }
 
 

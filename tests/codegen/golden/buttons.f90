@@ -109,14 +109,14 @@ use menu_f90
 
 ! Code to handle callbacks
       if (callid == (Form1_Button1)) then
-         call pressed()
+         callid=101;
       else if (callid == (Form1_Button2+OIDENT)) then
-         call chosen()
-         call again()
+         callid=102;
+         callid=103;
       else if (callid == (Form1_Button2+9*OIDENT)) then
-         call moved()
+         callid=104;
       else if (callid == (Form1_Toggle3)) then
-         call one()
+         callid=105;
       end if
 
 

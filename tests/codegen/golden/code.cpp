@@ -6,8 +6,8 @@
 extern "C" int orbcfg_(int *,char *,int);
 #include <menu-c.h>
 
-definitions
-second line
+#include <stdlib.h>
+#include <string.h>
 //Function Definitions
 void GenerateForm1(void);
 void GenerateForm2(void);
@@ -88,7 +88,9 @@ void GenerateForm2(void)
               	, owLineCol,0, owLineBorder,0, owFillCol,0, owFillBorder,0,0);
 }
 // Global Routines
-routines
+static void globalRoutine(void)
+{
+}
 #if defined(MWIN) || defined(GUIWIN)
 int PASCAL WinMain (HINSTANCE hInstance, HINSTANCE hPrevInstance,
 			 LPSTR lpszCmdParam, int nCmdShow)
@@ -98,7 +100,7 @@ int main ()
 {
 
 // User defined variables
-variables
+int local = 0;
    OACTION owdactlist;
    int resx,resy,xp,yp,xg,yg,px,py,grx,gry;
    int owpty;
@@ -136,7 +138,7 @@ variables
    oDefineRGB(255, 0.000000, 0.000000, 0.250000);
 
 // Initialization code
-initial
+      callid=1;
 
 // Start management
    owManage();
@@ -145,117 +147,117 @@ initial
    owSetActiveWidget(Form1_Button2);
 
 //   Pre Action Code
-before
+      callid=2;
 
 // Action loop
    do {
       owAction(&callid);
 
 // Start of Action Loop
-start
+      callid=3;
 
 
 // Code to handle callbacks
       if(callid == -1) {
-    form quit
+       callid=103;
          }
       else if (callid == (Form1)) {
-    
+       
          owEnqActionState(&owdactlist);
          if(owdactlist.status == 0) {
-    form moved
+       callid=101;
          }
          else if(owdactlist.status == 1) {
-    form resized
+       callid=102;
          }
          else if(owdactlist.status == 3) {
-    form minimized
+       callid=104;
          }
          else if(owdactlist.status == 4) {
-    form scrolled
+       callid=105;
          }
          else if(owdactlist.status == 5) {
-    form lost
+       callid=106;
          }
          }
       else if (callid == (Form1+5*OIDENT)) {
-    form dropped
+       callid=107;
          }
       else if (callid == (Form1_Button1)) {
-    b general
-    more
+       callid=108;
+       callid=109;
          }
       else if (callid == (Form1_Button1+OIDENT)) {
-    b select
+       callid=110;
          }
       else if (callid == (Form1_Button1+2*OIDENT)) {
-    b move
+       callid=111;
          }
       else if (callid == (Form1_Button1+3*OIDENT)) {
-    b expose
+       callid=117;
          }
       else if (callid == (Form1_Button1+4*OIDENT)) {
-    b change
+       callid=112;
          }
       else if (callid == (Form1_Button1+5*OIDENT)) {
-    b drag drop
+       callid=116;
          }
       else if (callid == (Form1_Button1+6*OIDENT)) {
-    b double
+       callid=113;
          }
       else if (callid == (Form1_Button1+7*OIDENT)) {
-    b file drop
+       callid=118;
          }
       else if (callid == (Form1_Button1+8*OIDENT)) {
-    b drag select
+       callid=114;
          }
       else if (callid == (Form1_Button1+9*OIDENT)) {
-    b drag move
+       callid=115;
          }
       else if (callid == (Form1_Button1+10*OIDENT)) {
-    b value error
+       callid=119;
          }
       else if (callid == (Form1_Button1+11*OIDENT)) {
-    b link
+       callid=120;
          }
       else if (callid == (Form1_Button2)) {
-    
+       
          owEnqActionState(&owdactlist);
          if(owdactlist.status == 4) {
-    only scrolled
+       callid=121;
          }
          }
       else if (callid == (Leaf)) {
-    l general
+       callid=122;
          }
       else if (callid == (Leaf+OIDENT)) {
-    l select
+       callid=123;
          }
       else if (callid == (Leaf+4*OIDENT)) {
-    l change
+       callid=124;
          }
       else if (callid == (Leaf+5*OIDENT)) {
-    l drop
+       callid=125;
          }
       else if (callid == (Leaf+6*OIDENT)) {
-    l double
+       callid=126;
          }
       else if (callid == (Form2)) {
-    f2 general
+       callid=127;
          owEnqActionState(&owdactlist);
          if(owdactlist.status == 2) {
-    f2 quit
+       callid=128;
          }
       }
 
 
 // End of Action Loop
-end
+      callid=4;
 
    } while (callid != -1);
 
 // Program termination code
-finish
+      callid=5;
 
 // Close device MENU and ORBA, and end program
    owCloseMenu();
@@ -265,5 +267,6 @@ finish
 return 0;
 }
 // Additional User Routines/Functions
-user
-routines
+void userRoutine(void)
+{
+}

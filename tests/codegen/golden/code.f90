@@ -6,8 +6,8 @@
 Module wdesign
 use menu_f90
 
-definitions
-second line
+integer :: mine
+integer :: yours
 
 ! Widget identifier definitions
 character*256 :: ORBDIR
@@ -83,14 +83,15 @@ end subroutine
    GetMasterFormID = Form1
    end function
 ! Global Routines
-routines
+subroutine global_routine
+end subroutine
 End Module
 
 use wdesign
 use menu_f90
 
 ! User defined variables
-variables
+integer :: local
    type (OACTION) owdactlist
       type (ODIM) owpaper
       integer owpty
@@ -128,7 +129,7 @@ variables
    call oDefineRGB(255, 0.000000, 0.000000, 0.250000)
 
 ! Initialization code
-initial
+      callid=1;
 
 ! Start management
    call owManage
@@ -137,93 +138,93 @@ initial
    call owSetActiveWidget(Form1_Button2)
 
 !   Pre Action Code
-before
+      callid=2;
 
 ! Action loop
    do
       callid=owAction(callid)
 
 ! Start of Action Loop
-start
+      callid=3;
 
 
 ! Code to handle callbacks
       if(callid == -1) then
-    form quit
+       callid=103;
       else if (callid == (Form1)) then
-    
+       
          call owEnqActionState(owdactlist)
          if(owdactlist%status == 0) then
-    form moved
+       callid=101;
          else if(owdactlist%status == 1) then
-    form resized
+       callid=102;
          else if(owdactlist%status == 3) then
-    form minimized
+       callid=104;
          else if(owdactlist%status == 4) then
-    form scrolled
+       callid=105;
          else if(owdactlist%status == 5) then
-    form lost
+       callid=106;
          end if
       else if (callid == (Form1+5*OIDENT)) then
-    form dropped
+       callid=107;
       else if (callid == (Form1_Button1)) then
-    b general
-    more
+       callid=108;
+       callid=109;
       else if (callid == (Form1_Button1+OIDENT)) then
-    b select
+       callid=110;
       else if (callid == (Form1_Button1+2*OIDENT)) then
-    b move
+       callid=111;
       else if (callid == (Form1_Button1+3*OIDENT)) then
-    b expose
+       callid=117;
       else if (callid == (Form1_Button1+4*OIDENT)) then
-    b change
+       callid=112;
       else if (callid == (Form1_Button1+5*OIDENT)) then
-    b drag drop
+       callid=116;
       else if (callid == (Form1_Button1+6*OIDENT)) then
-    b double
+       callid=113;
       else if (callid == (Form1_Button1+7*OIDENT)) then
-    b file drop
+       callid=118;
       else if (callid == (Form1_Button1+8*OIDENT)) then
-    b drag select
+       callid=114;
       else if (callid == (Form1_Button1+9*OIDENT)) then
-    b drag move
+       callid=115;
       else if (callid == (Form1_Button1+10*OIDENT)) then
-    b value error
+       callid=119;
       else if (callid == (Form1_Button1+11*OIDENT)) then
-    b link
+       callid=120;
       else if (callid == (Form1_Button2)) then
-    
+       
          call owEnqActionState(owdactlist)
          if(owdactlist%status == 4) then
-    only scrolled
+       callid=121;
          end if
       else if (callid == (Leaf)) then
-    l general
+       callid=122;
       else if (callid == (Leaf+OIDENT)) then
-    l select
+       callid=123;
       else if (callid == (Leaf+4*OIDENT)) then
-    l change
+       callid=124;
       else if (callid == (Leaf+5*OIDENT)) then
-    l drop
+       callid=125;
       else if (callid == (Leaf+6*OIDENT)) then
-    l double
+       callid=126;
       else if (callid == (Form2)) then
-    f2 general
+       callid=127;
          call owEnqActionState(owdactlist)
          if(owdactlist%status == 2) then
-    f2 quit
+       callid=128;
          end if
       end if
 
 
 ! End of Action Loop
-end
+      callid=4;
 
       if(callid == -1) exit
    end do
 
 ! Program termination code
-finish
+      callid=5;
 
 ! Close device MENU and ORBA, and end program
    call owCloseMenu
@@ -233,5 +234,5 @@ finish
 stop
 end
 ! Additional User Routines/Functions
-user
-routines
+subroutine user_routine
+end

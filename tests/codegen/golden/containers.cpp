@@ -233,24 +233,24 @@ int main ()
 
 // Code to handle callbacks
       if (callid == (Form1_ToolBar1)) {
-         call bar()
+         callid=101;
          owEnqActionState(&owdactlist);
          if(owdactlist.status == 0) {
-         call moved()
+         callid=102;
          }
          }
       else if (callid == (Form1_Pane1)) {
          
          owEnqActionState(&owdactlist);
          if(owdactlist.status == 2) {
-         call closed()
+         callid=104;
          }
          }
       else if (callid == (Form1_Pane1+5*OIDENT)) {
-         call dropped()
+         callid=103;
          }
       else if (callid == (Form1_Graphics1+3*OIDENT)) {
-         call draw()
+         callid=105;
       }
 
 

@@ -203,21 +203,21 @@ use menu_f90
 
 ! Code to handle callbacks
       if (callid == (Form1_ToolBar1)) then
-         call bar()
+         callid=101;
          call owEnqActionState(owdactlist)
          if(owdactlist%status == 0) then
-         call moved()
+         callid=102;
          end if
       else if (callid == (Form1_Pane1)) then
          
          call owEnqActionState(owdactlist)
          if(owdactlist%status == 2) then
-         call closed()
+         callid=104;
          end if
       else if (callid == (Form1_Pane1+5*OIDENT)) then
-         call dropped()
+         callid=103;
       else if (callid == (Form1_Graphics1+3*OIDENT)) then
-         call draw()
+         callid=105;
       end if
 
 

@@ -254,23 +254,23 @@ int main ()
 
 // Code to handle callbacks
       if(callid == -1) {
-         call quit()
+         callid=101;
          }
       else if (callid == (Main)) {
          
          owEnqActionState(&owdactlist);
          if(owdactlist.status == 1) {
-         call resized()
+         callid=102;
          }
          }
       else if (callid == (OpenEntry)) {
-         call open()
+         callid=103;
          }
       else if (callid == (LastEntry+OIDENT)) {
-         call last()
+         callid=104;
          }
       else if (callid == (Dyn1_Button1)) {
-         call dyn()
+         callid=105;
       }
 
 

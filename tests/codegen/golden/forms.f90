@@ -256,19 +256,19 @@ use menu_f90
 
 ! Code to handle callbacks
       if(callid == -1) then
-         call quit()
+         callid=101;
       else if (callid == (Main)) then
          
          call owEnqActionState(owdactlist)
          if(owdactlist%status == 1) then
-         call resized()
+         callid=102;
          end if
       else if (callid == (OpenEntry)) then
-         call open()
+         callid=103;
       else if (callid == (LastEntry+OIDENT)) then
-         call last()
+         callid=104;
       else if (callid == (Dyn1_Button1)) then
-         call dyn()
+         callid=105;
       end if
 
 

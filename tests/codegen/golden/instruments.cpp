@@ -248,13 +248,13 @@ int main ()
 
 // Code to handle callbacks
       if (callid == (Apple)) {
-         call apple()
+         callid=101;
          }
       else if (callid == (Apple+6*OIDENT)) {
-         call bite()
+         callid=102;
          }
       else if (callid == (Nuts+5*OIDENT)) {
-         call nut()
+         callid=103;
       }
 
 

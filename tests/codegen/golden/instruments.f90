@@ -234,11 +234,11 @@ use menu_f90
 
 ! Code to handle callbacks
       if (callid == (Apple)) then
-         call apple()
+         callid=101;
       else if (callid == (Apple+6*OIDENT)) then
-         call bite()
+         callid=102;
       else if (callid == (Nuts+5*OIDENT)) then
-         call nut()
+         callid=103;
       end if
 
 
