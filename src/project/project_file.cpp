@@ -224,7 +224,7 @@ void takeGrid(const GridNumbers& grid) {
 void readContents(FileReader& reader, int version, const GridNumbers& grid) {
     resetProject();
     project.scalable = grid.scalable;
-    RecordSource source{.reader = reader, .version = version, .gridMode = &project.gridMode};
+    RecordSource source{.reader = reader, .version = version, .gridMode = &project.gridMode, .intoProject = true};
     adoptForms(readRecords(source));
     project.widgetCount = source.namedRecords;
     readProjectColours(reader);

@@ -5,9 +5,10 @@
 
 struct RecordSource {
     FileReader& reader;
-    int version;             // times ten
-    int* gridMode = nullptr; // where a grid mode among the records goes; null: it is passed over
-    int namedRecords = 0;    // read so far, main panels left out
+    int version;              // times ten
+    int* gridMode = nullptr;  // where a grid mode among the records goes; null: it is passed over
+    bool intoProject = false; // the chain will be adopted whole by a project without forms
+    int namedRecords = 0;     // read so far, main panels left out
 };
 
 // Reads a chain with all that is below it; the caller owns it. There is always a first record, empty when the data

@@ -190,6 +190,7 @@ Keyword readSections(RecordSource& source, WidgetNode& node) {
 WidgetNode* readRecord(RecordSource& source, WidgetNode* parent, WidgetNode* previous) {
     const std::uint64_t before = source.reader.fields;
     auto* node = new WidgetNode();
+    node->inProject = source.intoProject;
     readFields(source, *node);
     if (source.reader.fields == before && (previous || parent)) {
         delete node;

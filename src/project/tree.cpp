@@ -88,8 +88,10 @@ template <typename Map, typename Key, typename Test> WidgetNode* firstIn(const M
     return found;
 }
 
-// Marks `top` and what is below it as part of the project, or no longer.
+// Marks `top` and what is below it as part of the project, or no longer. A chain that was read marked, ahead of any
+// index, needs no walk.
 void setInProject(WidgetNode& top, bool inside) {
+    if (inside && top.inProject && !searchIndex.built) return;
     for (WidgetNode* node = &top; node; node = walkBelow(node, &top)) {
         node->inProject = inside;
         if (inside) {
