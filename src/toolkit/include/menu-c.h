@@ -506,6 +506,8 @@ int owAction(int* callback);  /* waits for an event; gives and returns its ident
 void owEnqActionState(OACTION* action);
 void owPostCallback(int callback, int widget); /* appends an event of the program's own */
 void owFlushCallbackQueue(void);               /* forgets the events not yet read */
+void owUpdateWindows(void); /* repaints what has changed while a long command runs; input waits for the next owAction */
+void owEnqScreenSize(int* width, int* height); /* of the main screen, in pixels */
 
 void owDefineCallback(int widget, int callback);
 void owDefineSelectCallback(int widget, int callback);
