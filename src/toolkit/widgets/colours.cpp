@@ -1,9 +1,8 @@
 // The colour table, fonts by the names that programs use, and small drawing helpers.
+#include "toolkit/widgets/fonts.h"
 #include "toolkit/widgets/frame.h"
 
 #include <QApplication>
-#include <QColorDialog>
-#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
@@ -68,67 +67,11 @@ Word trueColour(const Arguments& call) {
     return TRUE_COLOUR + (part(0) << 16) + (part(1) << 8) + part(2);
 }
 
-Word colourControl(const Arguments& call) {
-    const auto part = [&call](int i) {
-        const float* value = call.record<const float>(i);
-        return value ? std::clamp(*value, 0.0F, 1.0F) : 0.0F;
-    };
-    QColorDialog box(QColor::fromRgbF(part(0), part(1), part(2)), QApplication::activeWindow());
-    box.setOption(QColorDialog::DontUseNativeDialog);
-    box.setWindowTitle(QStringLiteral("Select Colour"));
-    if (runBox(box) != QDialog::Accepted) return 0;
-    const QColor chosen = box.selectedColor();
-    call.give<float>(0, chosen.redF());
-    call.give<float>(1, chosen.greenF());
-    call.give<float>(2, chosen.blueF());
-    return 1;
-}
-
 const Registration registration({
     {Fn::oDefineRGB, defineRgb},
     {Fn::oEnqRGB, enquireRgb},
     {Fn::oTrueCol, trueColour},
-    {Fn::owColourControl, colourControl},
 });
-
-// Names of fonts that belong to other systems, and what stands for them here.
-struct FaceRow {
-    const char* name;
-    const char* substitutes; // parted by bars; the first that is installed counts
-};
-constexpr FaceRow faces[] = {
-    {"Courier New", "Liberation Mono|DejaVu Sans Mono"},
-    {"Courier", "Liberation Mono|DejaVu Sans Mono"},
-    {"Fixedsys", "DejaVu Sans Mono"},
-    {"Consolas", "DejaVu Sans Mono"},
-    {"Lucida Console", "DejaVu Sans Mono"},
-    {"Arial", "Liberation Sans|DejaVu Sans"},
-    {"Helvetica", "Liberation Sans|DejaVu Sans"},
-    {"Times New Roman", "Liberation Serif|DejaVu Serif"},
-    {"Times", "Liberation Serif|DejaVu Serif"},
-    {"MS Serif", "Liberation Serif|DejaVu Serif"},
-    {"Symbol", "DejaVu Sans"},
-};
-
-bool installed(const QString& face) { return QFontDatabase::hasFamily(face); }
-
-QString resolvedFace(const QString& face) {
-    if (installed(face)) return face;
-    for (const FaceRow& row : faces) {
-        if (face.compare(QLatin1String(row.name), Qt::CaseInsensitive) != 0) continue;
-        for (const QString& one : QString::fromLatin1(row.substitutes).split(QLatin1Char('|'))) {
-            if (installed(one)) return one;
-        }
-    }
-    return face;
-}
-
-bool isDesktopFace(const QString& face) {
-    for (const char* name : {"", "MS Sans Serif", "MS Shell Dlg", "System", "Microsoft Sans Serif", "Tahoma"}) {
-        if (face.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) return true;
-    }
-    return false;
-}
 
 } // namespace
 
@@ -168,12 +111,10 @@ void setViewColour(QWidget* view, QPalette::ColorRole role, int colour) {
 }
 
 QFont fontFor(const QString& face, int pointSize) {
-    QFont font = QApplication::font();
-    if (!isDesktopFace(face)) {
-        font = QFont(resolvedFace(face));
-        if (QFontDatabase::isFixedPitch(font.family())) font.setStyleHint(QFont::Monospace);
-    }
-    if (pointSize > 0 && !(isDesktopFace(face) && pointSize == 10)) font.setPointSize(pointSize);
+    constexpr int DESKTOP_POINTS = 10; // what programs write for the desktop's own font at its own size
+    const QFont desktop = QApplication::font();
+    QFont font = namedFont(face, pointSize > 0 ? pointSize : desktop.pointSizeF());
+    if (pointSize == DESKTOP_POINTS && fontFamilies(face).last() == fontFamilies(QStringLiteral("MS Sans Serif")).last()) return desktop;
     return font;
 }
 

@@ -54,6 +54,7 @@ struct Registration {
 };
 
 Handler handlerOf(Fn function); // null when no family has it
+Fn routineRegisteredTwice();    // Fn::count when each has one handler at most
 
 // -------------------------------------------------------------------------------------------------------- records
 
@@ -273,8 +274,7 @@ bool isTrueColour(int colour);
 void defineColour(int index, const QColor& colour);
 // A change of these roles of a view's palette that stays until changed again; 0 means the desktop's own.
 void setViewColour(QWidget* view, QPalette::ColorRole role, int colour);
-// The font for a face, size and character set as programs name them; the desktop's own for "MS Sans Serif" at 10
-// points.
+// The font for a face and size as programs name them; the desktop's own for "MS Sans Serif" at 10 points.
 QFont fontFor(const QString& face, int pointSize);
 // Height in pixels that suits a line of the desktop's font in entries.
 int lineHeight();

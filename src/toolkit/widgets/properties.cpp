@@ -2,8 +2,7 @@
 #include "toolkit/widgets/frame.h"
 
 #include <QApplication>
-#include <QFontDialog>
-#include <QScrollArea>
+#include <QAbstractScrollArea>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -300,22 +299,6 @@ Word erase(const Arguments& call) {
     return 0;
 }
 
-Word fontDialogue(const Arguments& call) {
-    Widget& widget = *widgetOf(call.integer(0));
-    QFontDialog box(fontOf(widget), widget.view);
-    if (runBox(box) != QDialog::Accepted) return 0;
-    const QFont chosen = box.selectedFont();
-    setProperty(widget, 53, {.integer = 0, .real = 0, .text = chosen.family()});
-    const std::pair<int, int> attributes[] = {{72, chosen.pointSize()},
-                                              {45, chosen.bold()},
-                                              {65, chosen.italic()},
-                                              {84, chosen.underline()},
-                                              {79, chosen.strikeOut()}};
-    for (const auto& [property, number] : attributes)
-        setProperty(widget, property, {.integer = number, .real = 0, .text = {}});
-    return 1;
-}
-
 Word setBubbleHelp(const Arguments& call) {
     session.bubbleHelp = call.integer(0) == 1;
     return 0;
@@ -357,8 +340,6 @@ Word enquireScrollBars(const Arguments& call) {
 const Registration registration({
     {Fn::owSetWidgetProp, setProperties},
     {Fn::owEnqWidgetProp, enquireProperties},
-    {Fn::owSetFontAttribs, setProperties},
-    {Fn::owEnqFontAttribs, enquireProperties},
     {Fn::owSetWidgetInfo, takeInfo},
     {Fn::owEnqWidgetInfo, enquireInfo},
     {Fn::owSetWidgetStatus, setWidgetStatus},
@@ -366,7 +347,6 @@ const Registration registration({
     {Fn::owSetWidgetHelp, setHelp},
     {Fn::owDrawWidget, drawWidget},
     {Fn::owEraseWidget, erase},
-    {Fn::owFontAttribsDialogue, fontDialogue},
     {Fn::owSetBubbleHelpSwitch, setBubbleHelp},
     {Fn::owEnqBubbleHelpSwitch, enquireBubbleHelp},
     {Fn::owReturnChildList, childList},

@@ -11,11 +11,19 @@ std::array<Handler, static_cast<int>(Fn::count)>& handlers() {
     return table;
 }
 
+Fn repeated = Fn::count;
+
 } // namespace
 
 Registration::Registration(std::initializer_list<Routine> routines) {
-    for (const Routine& routine : routines) handlers()[static_cast<std::size_t>(routine.function)] = routine.handler;
+    for (const Routine& routine : routines) {
+        Handler& handler = handlers()[static_cast<std::size_t>(routine.function)];
+        if (handler) repeated = routine.function;
+        handler = routine.handler;
+    }
 }
+
+Fn routineRegisteredTwice() { return repeated; }
 
 Handler handlerOf(Fn function) { return handlers()[static_cast<std::size_t>(function)]; }
 
