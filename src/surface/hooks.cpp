@@ -6,6 +6,7 @@ SurfaceHooks hooks = {
     .toolStatus = [](int, int) {},
     .inputMode = [](bool) {},
     .drawControlWindows = [] {},
+    .showCodeEditor = [] {},
     .shiftDown = [] { return false; },
     .formFileForgotten = [] {},
     .showProperties = [](WidgetNode*) {},

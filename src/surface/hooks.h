@@ -20,6 +20,7 @@ struct SurfaceHooks {
     void (*inputMode)(bool text); // installs the key map of the mode, and gives the shared Edit entries, icons and
                                   // popup their labels and commands of that mode; all from the command table
     void (*drawControlWindows)(); // hierarchy and compiler log
+    void (*showCodeEditor)();     // its pane, if it is hidden
     bool (*shiftDown)();          // the Shift key at this moment
     void (*formFileForgotten)();  // the remembered form file name is emptied
 

@@ -1,0 +1,123 @@
+// The lists of the code editor's selector: all widgets, the entries of a menu, the entries of a tree view.
+#include "editing/code_editor.h"
+
+#include "editing/editor_window.h"
+#include "editing/modes.h"
+#include "menu-c.h"
+#include "project/code_stores.h"
+#include "project/tree.h"
+#include "surface/event.h"
+#include "surface/hierarchy.h"
+#include "surface/hooks.h"
+#include "surface/state.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::vector<std::string> names; // rows of the list of widgets
+
+std::string chosenRow(int list) {
+    char row[NAME_LIMIT + 1] = "";
+    owEnqListEntry(list, 0, row, sizeof row);
+    return row;
+}
+
+int fillEntryList(int list, const WidgetNode& owner) {
+    owSetListEntry(list, OCLEAR, 0);
+    int rows = 0;
+    for (const MenuEntryRec* entry = owner.entries; entry; entry = entry->next) {
+        if (entry->kind != MENU_ENTRY || entry->name.empty()) continue;
+        owSetListEntry(list, OADD, owString, entry->name.c_str(), 0);
+        ++rows;
+    }
+    return rows;
+}
+
+WidgetNode* firstFormWithMenu() {
+    WidgetNode* form = project.forms;
+    while (form && !form->entries) form = form->next;
+    return form;
+}
+
+// Rows of the slots of an entry instead of a widget's.
+void showEntrySlots(const WidgetNode& owner) {
+    refreshBlockList();
+    owSetListEntry(editor.blockList, OADD, owString, SLOT_SEPARATOR_ROW, 0);
+    for (const EntrySlot slot : offeredEntrySlots(owner))
+        owSetListEntry(editor.blockList, OADD, owString, slotTable[entrySlotKinds[slot]].name, 0);
+}
+
+// Shows the General slot of an entry of the copy; nothing changes for a name that is none.
+void showEntry(const WidgetNode& owner, int list, const std::string& name) {
+    if (!bindEntryCode(name)) return;
+    showEntrySlots(owner);
+    selectInList(list, name.c_str());
+    showBoundCode();
+}
+
+void enterEntries(WidgetNode* owner, int list, const std::string& remembered) {
+    if (!owner || fillEntryList(list, *owner) == 0) return;
+    const bool same = codeEditing.entryOwner == owner;
+    copyEntriesForEditing(owner);
+    owSetListEntry(list, OSELECT, owEntry, 1, 0);
+    showEntry(*owner, list, same && !remembered.empty() ? remembered : chosenRow(list));
+}
+
+void showMenuEntries() {
+    WidgetNode* form = project.currentWidget ? formOf(project.currentWidget, project.forms) : nullptr;
+    if (!form || !form->entries) form = firstFormWithMenu();
+    enterEntries(form, editor.menuList, codeEditing.menuEntryName);
+}
+
+void showTreeEntries() {
+    WidgetNode* tree = project.currentWidget;
+    if (tree && tree->type == TYPE_TREE_VIEW) enterEntries(tree, editor.treeList, codeEditing.treeEntryName);
+}
+
+void entryChosen(int list) {
+    commitEditor();
+    rememberCaret();
+    if (codeEditing.entryOwner) showEntry(*codeEditing.entryOwner, list, chosenRow(list));
+}
+
+} // namespace
+
+void nameAdded(const std::string& name) {
+    if (!editor.widgetList || std::ranges::find(names, name) != names.end()) return;
+    names.push_back(name);
+    owSetListEntry(editor.widgetList, OADD, owString, name.c_str(), 0);
+}
+
+void nameRemoved(const std::string& name) {
+    const auto found = std::ranges::find(names, name);
+    if (!editor.widgetList || found == names.end()) return;
+    owSetListEntry(editor.widgetList, ODELETE, owEntry, static_cast<int>(found - names.begin()) + 1, 0);
+    names.erase(found);
+}
+
+void nameChanged(const std::string& from, const std::string& to) {
+    nameRemoved(from);
+    nameAdded(to);
+    selectInList(editor.widgetList, to.c_str());
+}
+
+void clearNames() {
+    names.clear();
+    if (editor.widgetList) owSetListEntry(editor.widgetList, OCLEAR, 0);
+}
+
+void widgetChosenCommand() { selectByName(chosenRow(editor.widgetList), false); }
+
+void selectorTabCommand() {
+    commitEditor();
+    rememberCaret();
+    if (action.status == editor.menuTab) showMenuEntries();
+    else if (action.status == editor.treeTab) showTreeEntries();
+    else if (project.currentWidget) bindCode(project.currentWidget);
+}
+
+void menuEntryChosenCommand() { entryChosen(editor.menuList); }
+void treeEntryChosenCommand() { entryChosen(editor.treeList); }
