@@ -49,8 +49,8 @@ int makeTabList(int tab, const char* help, int command) {
 }
 
 void makeSelector(int head) {
-    const int box = owCreateTabDialogueBox(head, 200, 0, 220, HEAD_HEIGHT - 2, owVpos, OTOP, owCallback,
-                                           CMD_SELECTOR_TABS, 0);
+    const int box =
+        owCreateTabDialogueBox(head, 200, 0, 220, HEAD_HEIGHT - 2, owVpos, OTOP, owCallback, CMD_SELECTOR_TABS, 0);
     editor.widgetTab = makeTab(box, "Widgets");
     editor.menuTab = makeTab(box, "Menu");
     editor.treeTab = makeTab(box, "Tree");
@@ -73,10 +73,10 @@ void makeIcons(int head) {
 }
 
 void makeTexts(int body, int width, int height) {
-    editor.text = owCreateTextEntry(body, 0, HEAD_HEIGHT, width, height, "", UNLIMITED, OEDIT, owEntryType, ORICHEDIT,
-                                    owWordWrap, 0, owScrollMode, OBOTHBARS, owVpos, OMIDDLE, owHpos, OCENTRE, owExpand,
-                                    1, owChangeCallback, CMD_CODE_CHANGED, owCallback, CMD_CODE_TEXT, owSelectCallback,
-                                    CMD_CODE_SELECT, 0);
+    editor.text =
+        owCreateTextEntry(body, 0, HEAD_HEIGHT, width, height, "", UNLIMITED, OEDIT, owEntryType, ORICHEDIT, owWordWrap,
+                          0, owScrollMode, OBOTHBARS, owVpos, OMIDDLE, owHpos, OCENTRE, owExpand, 1, owChangeCallback,
+                          CMD_CODE_CHANGED, owCallback, CMD_CODE_TEXT, owSelectCallback, CMD_CODE_SELECT, 0);
     editor.hiddenText = owCreateTextEntry(body, 0, HEAD_HEIGHT, width, height, "", UNLIMITED, ODISPLAY, owVpos, OTOP,
                                           owWidgetStatus, OHIDDEN, 0);
 }
@@ -217,13 +217,17 @@ void showCode(const std::string& blockName, WidgetNode* widget, int line, int co
     if (widget && widget != project.currentWidget) selectWidget(widget);
     commitEditor();
     project.currentBlockName = blockName;
-    if (blockIndexOf(blockName) >= 0) codeEditing.target = EDIT_BLOCK;
-    else if (project.currentWidget) loadWorkingSlots(*project.currentWidget);
+    if (blockIndexOf(blockName) >= 0)
+        codeEditing.target = EDIT_BLOCK;
+    else if (project.currentWidget)
+        loadWorkingSlots(*project.currentWidget);
     showBoundCode();
     const int start = std::max(lineStart(editor.text, line - 1), 1);
     const int length = lineLength(editor.text, start);
-    if (column > 0) moveCaret(editor.text, start + std::min(column - 1, length));
-    else select(editor.text, {start, start + length});
+    if (column > 0)
+        moveCaret(editor.text, start + std::min(column - 1, length));
+    else
+        select(editor.text, {start, start + length});
     showLineColumn(column > 0 ? start + std::min(column - 1, length) : start);
     hooks.showCodeEditor();
     enterTextMode();
@@ -232,7 +236,8 @@ void showCode(const std::string& blockName, WidgetNode* widget, int line, int co
 void blockChosenCommand() {
     commitEditor();
     const std::string name = chosenRow(editor.blockList);
-    if (name == SLOT_SEPARATOR_ROW || name.empty()) return selectInList(editor.blockList, project.currentBlockName.c_str());
+    if (name == SLOT_SEPARATOR_ROW || name.empty())
+        return selectInList(editor.blockList, project.currentBlockName.c_str());
     storePosition();
     constexpr size_t NAME_SIZE = 50;
     project.currentBlockName = name.substr(0, NAME_SIZE);

@@ -114,9 +114,12 @@ void widgetChosenCommand() { selectByName(chosenRow(editor.widgetList), false); 
 void selectorTabCommand() {
     commitEditor();
     rememberCaret();
-    if (action.status == editor.menuTab) showMenuEntries();
-    else if (action.status == editor.treeTab) showTreeEntries();
-    else if (project.currentWidget) bindCode(project.currentWidget);
+    if (action.status == editor.menuTab)
+        showMenuEntries();
+    else if (action.status == editor.treeTab)
+        showTreeEntries();
+    else if (project.currentWidget)
+        bindCode(project.currentWidget);
 }
 
 void menuEntryChosenCommand() { entryChosen(editor.menuList); }

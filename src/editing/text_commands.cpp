@@ -37,14 +37,16 @@ int syntaxLanguage() {
 std::string expandTabs(const std::string& line) {
     std::string expanded;
     for (const char c : line) {
-        if (c == '\t') expanded.append(std::max(preferences.tabSpaces, 0), ' ');
-        else expanded += c;
+        if (c == '\t')
+            expanded.append(std::max(preferences.tabSpaces, 0), ' ');
+        else
+            expanded += c;
     }
     return expanded;
 }
 
-// Runs `change` on each line that begins inside the selection, tabs turned into blanks; the selection's end moves along.
-// A caret at the start of a line, and a selection that ends there, leave that line alone.
+// Runs `change` on each line that begins inside the selection, tabs turned into blanks; the selection's end moves
+// along. A caret at the start of a line, and a selection that ends there, leave that line alone.
 void changeLines(std::string (*change)(const std::string& line)) {
     const int text = editor.text;
     TextRange range = selectionOf(text);
@@ -62,7 +64,9 @@ void changeLines(std::string (*change)(const std::string& line)) {
     markModified();
 }
 
-std::string indented(const std::string& line) { return std::string(std::max(preferences.selectedIndent, 0), ' ') + line; }
+std::string indented(const std::string& line) {
+    return std::string(std::max(preferences.selectedIndent, 0), ' ') + line;
+}
 
 std::string unindented(const std::string& line) {
     const size_t width = std::max(preferences.selectedIndent, 0);
@@ -71,9 +75,7 @@ std::string unindented(const std::string& line) {
 }
 
 std::string commented(const std::string& line) { return COMMENT + line; }
-std::string uncommented(const std::string& line) {
-    return !line.empty() && line[0] == COMMENT ? line.substr(1) : line;
-}
+std::string uncommented(const std::string& line) { return !line.empty() && line[0] == COMMENT ? line.substr(1) : line; }
 
 void changeCase(int (*convert)(int)) {
     const TextRange range = selectionOf(editor.text);
@@ -178,7 +180,8 @@ void textCutCommand() { clipboardCommand(OCUT); }
 void textCopyCommand() { clipboardCommand(OCOPY); }
 void textDeleteCommand() {
     const TextRange range = selectionOf(editor.text);
-    if (range.start == range.end && range.end <= textLength(editor.text)) select(editor.text, {range.end, range.end + 1});
+    if (range.start == range.end && range.end <= textLength(editor.text))
+        select(editor.text, {range.end, range.end + 1});
     clipboardCommand(ODELETESELECTION);
 }
 

@@ -88,6 +88,7 @@ void buildMasterWindow() {
     hooks.toolStatus = setToolStatus;
     hooks.inputMode = setInputMode;
     hooks.formFileForgotten = forgetFormFile;
+    hooks.showCodeEditor = [] { showControlWindow(CMD_VIEW_CODE_EDITOR); };
     hooks.drawControlWindows = [] {
         owDrawWidget(windowStates[WINDOW_HIERARCHY].handle);
         owDrawWidget(windowStates[WINDOW_COMPILER_LOG].handle);

@@ -6,7 +6,6 @@
 #include "project/host.h"
 #include "surface/live.h"
 #include "surface/selection.h"
-#include "surface/state.h"
 
 static constexpr int PATH_BYTES = 4096;
 
@@ -36,16 +35,6 @@ static void enquireGrid(int& pixelX, int& pixelY) {
     owEnqGuiGrid(&columns, &rows, &pixelX, &pixelY);
 }
 
-// Before the records of a project are freed: nothing may point at them afterwards.
-static void closeForms() {
-    dropSelection();
-    eraseForms(project.forms);
-    forgetCode();
-    project.currentWidget = nullptr;
-    design.undoWidget = nullptr;
-    design.undoAvailable = design.redoAvailable = 0;
-}
-
 void fillHost() {
     host.messageBox = [](const std::string& title, const std::string& text, int icon, int buttons) {
         return owDisplayMessageBox(title.c_str(), text.c_str(), icon, buttons);
@@ -67,5 +56,5 @@ void fillHost() {
     host.storeArrayGeometry = storeArrayGeometry;
     host.fileDialogue = fileDialogue;
     host.commitEditor = commitEditor;
-    host.closeForms = closeForms;
+    host.closeForms = forgetRecords;
 }

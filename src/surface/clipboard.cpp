@@ -125,6 +125,7 @@ std::string deletionText(const WidgetNode& node) {
 }
 
 void eraseCurrent() {
+    hooks.commitEditor(); // a block on show would be lost with the widget
     WidgetNode* next = removeWidget(project.currentWidget, true, false);
     deleteList(design.selectionList); // a copy of what is gone
     design.selectionList = nullptr;

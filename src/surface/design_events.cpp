@@ -83,7 +83,7 @@ void placeWithTool(WidgetNode& parent) {
 // ---- Selecting.
 
 bool shiftAdds(const WidgetNode& found) {
-    return hooks.shiftDown() && design.selectionList && design.selectionList->parentHandle != 0 && !found.onToolbar;
+    return owEnqShiftKey() && design.selectionList && design.selectionList->parentHandle != 0 && !found.onToolbar;
 }
 
 void addToSelection(WidgetNode& found) {

@@ -7,7 +7,6 @@ SurfaceHooks hooks = {
     .inputMode = [](bool) {},
     .drawControlWindows = [] {},
     .showCodeEditor = [] {},
-    .shiftDown = [] { return false; },
     .formFileForgotten = [] {},
     .showProperties = [](WidgetNode*) {},
     .refreshProperties = [] {},

@@ -21,7 +21,6 @@ struct SurfaceHooks {
                                   // popup their labels and commands of that mode; all from the command table
     void (*drawControlWindows)(); // hierarchy and compiler log
     void (*showCodeEditor)();     // its pane, if it is hidden
-    bool (*shiftDown)();          // the Shift key at this moment
     void (*formFileForgotten)();  // the remembered form file name is emptied
 
     // Filled by the property sheet.

@@ -508,6 +508,7 @@ void owPostCallback(int callback, int widget); /* appends an event of the progra
 void owFlushCallbackQueue(void);               /* forgets the events not yet read */
 void owUpdateWindows(void); /* repaints what has changed while a long command runs; input waits for the next owAction */
 void owEnqScreenSize(int* width, int* height); /* of the main screen, in pixels */
+int owEnqShiftKey(void); /* 1 while a Shift key is held down */
 
 void owDefineCallback(int widget, int callback);
 void owDefineSelectCallback(int widget, int callback);

@@ -3,4 +3,5 @@
 #include "menu-c.h"
 
 void owEnqScreenSize(int* width, int* height) { widgets::screenSize(*width, *height); }
+int owEnqShiftKey() { return widgets::shiftHeld() ? 1 : 0; }
 void owUpdateWindows() { widgets::updateWindows(); }

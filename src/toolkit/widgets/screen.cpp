@@ -11,6 +11,8 @@ void widgets::screenSize(int& width, int& height) {
     height = screen ? screen->geometry().height() : 0;
 }
 
+bool widgets::shiftHeld() { return qGuiApp && (QGuiApplication::queryKeyboardModifiers() & Qt::ShiftModifier); }
+
 void widgets::updateWindows() {
     if (qApp) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

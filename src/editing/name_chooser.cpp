@@ -1,0 +1,227 @@
+#include "editing/name_chooser.h"
+
+#include "editing/editor_window.h"
+#include "editing/text_view.h"
+#include "menu-c.h"
+#include "project/code_stores.h"
+#include "project/tree.h"
+#include "surface/commands.h"
+#include "surface/dialogue_keys.h"
+#include "surface/event.h"
+#include "surface/hooks.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+enum class Source { Types, Forms, DynamicForms, MenuEntries, StatusBars, AllWidgets, TreeEntries, Rule };
+
+struct Family {
+    const char* label;
+    char mnemonic;
+    int command;
+    const char* title; // of the chooser
+    Source source;
+    int types[2];
+};
+
+const Family FAMILIES[] = {
+    {"Forms...", 'F', 15050, "Add Widget Name - Forms", Source::Forms, {}},
+    {"Forms(Dynamic)...", 'D', 15051, "Add Widget Name - Dynamic Forms", Source::DynamicForms, {}},
+    {"", 0, 0, "", Source::Rule, {}},
+    {"Menu entries...", 'M', 15057, "Add Widget Name - Menu Entries", Source::MenuEntries, {}},
+    {"Status bars...", 'S', 15063, "Add Widget Name - Status Bars", Source::StatusBars, {}},
+    {"", 0, 0, "", Source::Rule, {}},
+    {"All child widgets...", 'A', CMD_ALL_NAMES, "Add Widget Name - All widgets", Source::AllWidgets, {}},
+    {"", 0, 0, "", Source::Rule, {}},
+    {"Buttons...", 'B', 15040, "Add Widget Name - Buttons", Source::Types, {TYPE_BUTTON}},
+    {"Combo boxes...", 'C', 15042, "Add Widget Name - Combo boxes", Source::Types, {TYPE_COMBO_BOX}},
+    {"Gauges...", 'u', 15070, "Add Widget Name - Gauges", Source::Types, {TYPE_GAUGE}},
+    {"Graphics frames...", 'G', 15052, "Add Widget Name - Graphics frames", Source::Types, {TYPE_GRAPHICS_FRAME}},
+    {"Icons...", 'I', 15053, "Add Widget Name - Icons", Source::Types, {TYPE_ICON}},
+    {"Lists boxes...", 'L', 15054, "Add Widget Name - Lists boxes", Source::Types, {TYPE_LIST_BOX}},
+    {"Panels...", 'P', 15058, "Add Widget Name - Panels", Source::Types, {TYPE_PANEL}},
+    {"Progress Bars...", 'o', 15071, "Add Widget Name - Progress Bars", Source::Types, {TYPE_PROGRESS_BAR}},
+    {"Radio boxes...", 'R', 15060, "Add Widget Name - Radio boxes", Source::Types, {TYPE_RADIO_BOX}},
+    {"Sliders...", 'l', 15062, "Add Widget Name - Sliders", Source::Types, {TYPE_SLIDER}},
+    {"Tabbed Dialogue Boxes...", 'D', 15069, "Add Widget Name - Tabbed Dialogue Boxes", Source::Types, {TYPE_TAB_BOX}},
+    {"Table Boxes...", 'a', 15076, "Add Widget Name - Table Boxes", Source::Types, {TYPE_TABLE_BOX}},
+    {"Text arrays...", 'r', 15064, "Add Widget Name - Text Arrays", Source::Types, {TYPE_TEXT_ARRAY}},
+    {"Text widgets...",
+     'x',
+     15047,
+     "Add Widget Name - Text entries",
+     Source::Types,
+     {TYPE_TEXT_ENTRY, TYPE_TEXT_LABEL}},
+    {"Toggles...", 'g', 15065, "Add Widget Name - Toggles", Source::Types, {TYPE_TOGGLE}},
+    {"Toolbars...", 'T', 15066, "Add Widget Name - Toolbars", Source::Types, {TYPE_TOOL_BAR}},
+    {"Panes...", 'n', 15107, "Add Widget Name - Panes", Source::Types, {TYPE_PANE}},
+    {"Tree View Boxes...", 'e', 15074, "Add Widget Name - Tree View Boxes", Source::Types, {TYPE_TREE_VIEW}},
+    {"Tree View Entries...", 'i', 15075, "Add Widget Name - Tree View Entries", Source::TreeEntries, {}},
+    {"TTY Entries...", 'Y', 15072, "Add Widget Name - TTY Entries", Source::Types, {TYPE_TTY_ENTRY}},
+    {"Value arrays...", 'y', 15068, "Add Widget Name - Value Arrays", Source::Types, {TYPE_VALUE_ARRAY}},
+    {"Value widgets...",
+     'V',
+     15048,
+     "Add Widget Name - Value entries",
+     Source::Types,
+     {TYPE_VALUE_ENTRY, TYPE_VALUE_LABEL}},
+};
+
+// The order in which all child widgets are listed.
+constexpr int ALL_TYPES[] = {TYPE_BUTTON,      TYPE_COMBO_BOX,   TYPE_GAUGE,      TYPE_GRAPHICS_FRAME, TYPE_ICON,
+                             TYPE_LIST_BOX,    TYPE_PANE,        TYPE_PANEL,      TYPE_PROGRESS_BAR,   TYPE_RADIO_BOX,
+                             TYPE_SLIDER,      TYPE_TAB_BOX,     TYPE_TABLE_BOX,  TYPE_TEXT_ARRAY,     TYPE_TEXT_ENTRY,
+                             TYPE_TEXT_LABEL,  TYPE_TOGGLE,      TYPE_TOOL_BAR,   TYPE_TREE_VIEW,      TYPE_TTY_ENTRY,
+                             TYPE_VALUE_ARRAY, TYPE_VALUE_ENTRY, TYPE_VALUE_LABEL};
+
+struct Chooser {
+    int popup = 0;
+    int window = 0;
+    int list = 0;
+} chooser;
+
+using Names = std::vector<std::string>;
+
+bool isDynamic(const WidgetNode& form) {
+    return form.formType == FORM_DYNAMIC_SDI || form.formType == FORM_DYNAMIC_MDI;
+}
+
+void addType(Names& names, int type) {
+    for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
+        if (node->type == type) names.push_back(node->name);
+}
+
+void addForms(Names& names, bool dynamic) {
+    for (const WidgetNode* form = project.forms; form; form = form->next)
+        if (isDynamic(*form) == dynamic) names.push_back(form->name);
+}
+
+// Entries of a chain that a program can name.
+void addEntries(Names& names, const MenuEntryRec* entry) {
+    for (; entry; entry = entry->next) {
+        const bool internal = entry->name.empty() || entry->name == "separator" || entry->name.starts_with("Pop");
+        if (!internal && entry->kind == MENU_ENTRY) names.push_back(entry->name);
+    }
+}
+
+void addMenuEntries(Names& names) {
+    const bool editing = codeEditing.target == EDIT_MENU_SLOT;
+    if (editing) addEntries(names, codeEditing.entryCopy);
+    for (const WidgetNode* form = project.forms; form; form = form->next)
+        if (form->entries && !(editing && form == codeEditing.entryOwner)) addEntries(names, form->entries->next);
+}
+
+void addTreeEntries(Names& names) {
+    if (codeEditing.target == EDIT_TREE_SLOT) addEntries(names, codeEditing.entryCopy);
+    const WidgetNode* form = project.currentWidget ? formOf(project.currentWidget, project.forms) : project.forms;
+    for (const WidgetNode* node = form; node; node = walkBelow(node, form)) {
+        const bool shown = codeEditing.target == EDIT_TREE_SLOT && node == codeEditing.entryOwner;
+        if (node->type == TYPE_TREE_VIEW && !shown) addEntries(names, node->entries);
+    }
+}
+
+Names namesOf(const Family& family) {
+    Names names;
+    switch (family.source) {
+    case Source::Types:
+        for (const int type : family.types)
+            if (type) addType(names, type);
+        break;
+    case Source::AllWidgets:
+        for (const int type : ALL_TYPES) addType(names, type);
+        break;
+    case Source::Forms: addForms(names, false); break;
+    case Source::DynamicForms: addForms(names, true); break;
+    case Source::StatusBars:
+        for (const WidgetNode* form = project.forms; form; form = form->next)
+            if (form->statusBar) names.push_back(form->statusBar->name);
+        break;
+    case Source::MenuEntries: addMenuEntries(names); break;
+    case Source::TreeEntries: addTreeEntries(names); break;
+    case Source::Rule: break;
+    }
+    return names;
+}
+
+void makeChooser() {
+    if (chooser.window) return;
+    chooser.window = owCreateComplexDialogueBox(1, 300, 250, 242, 176, OTITLE + OQUIT, "Add widget name", owVpos, OTOP,
+                                                owIconFile, "Widget", owIconFormat, ODLLICON, owQuitMode, OLEAVE,
+                                                owCallback, CMD_NAME_WINDOW, 0);
+    chooser.list =
+        owCreateListBox(chooser.window, 10, 10, 222, 126, ONONE, owVpos, OTOP, owDoubleClickCallback, CMD_NAME_OK, 0);
+    owCreatePushButton(chooser.window, 78, 144, 74, 25, "Cancel", owVpos, OTOP, owCallback, CMD_NAME_CANCEL, 0);
+    owCreatePushButton(chooser.window, 158, 144, 74, 25, "OK", owVpos, OTOP, owType, ODEFAULTBUTTON, owCallback,
+                       CMD_NAME_OK, 0);
+}
+
+void openChooser(const Family& family) {
+    makeChooser();
+    owSetWidgetProp(chooser.window, owTitle, family.title, 0);
+    owSetListEntry(chooser.list, OCLEAR, 0);
+    for (const std::string& name : namesOf(family)) owSetListEntry(chooser.list, OADD, owString, name.c_str(), 0);
+    owSetListEntry(chooser.list, OSELECT, owEntry, 1, 0);
+    owDefineKeyCallback(OKEYESC, CMD_NAME_CANCEL);
+    owDefineKeyCallback(OKEYRETURN, CMD_NAME_OK);
+    owDrawWindow(chooser.window, 1);
+    owSetActiveWidget(chooser.list);
+}
+
+void closeChooser() {
+    owDefineKeyCallback(OKEYRETURN, 0);
+    owDefineKeyCallback(OKEYESC, 0);
+    owSetListEntry(chooser.list, OCLEAR, 0);
+    owRemoveWindow(chooser.window);
+    hooks.enterTextMode();
+}
+
+void insertChosen() {
+    int count = 0, selected = 0, current = 0;
+    owEnqListStatus(chooser.list, &count, &selected, &current);
+    char name[NAME_LIMIT + 1] = "";
+    if (current > 0) owEnqListEntry(chooser.list, current, name, sizeof name);
+    if (*name) {
+        replaceSelection(editor.text, name);
+        codeEditing.codeModified = true;
+        project.projectModified = 1;
+    }
+    closeChooser();
+}
+
+} // namespace
+
+void insertNameCommand() {
+    if (chooser.popup) owEraseWidget(chooser.popup);
+    chooser.popup = owCreatePopupMenu(1, 0, 0, ONONE, "", 0);
+    bool ruleWanted = false, anyShown = false;
+    for (const Family& family : FAMILIES) {
+        if (family.source == Source::Rule) {
+            ruleWanted = anyShown;
+            continue;
+        }
+        if (namesOf(family).empty()) continue;
+        if (ruleWanted) owCreateMenuSeparator(chooser.popup);
+        ruleWanted = false;
+        anyShown = true;
+        owCreateMenuEntry(chooser.popup, family.label, owAccel, family.mnemonic, owCallback, family.command, 0);
+    }
+    owDrawWindow(chooser.popup, 1);
+}
+
+bool nameCommand(int identifier) {
+    const auto family = std::ranges::find(FAMILIES, identifier, &Family::command);
+    if (identifier > 0 && family != std::end(FAMILIES))
+        openChooser(*family);
+    else if (identifier == CMD_NAME_OK)
+        insertChosen();
+    else if (identifier == CMD_NAME_CANCEL)
+        closeChooser();
+    else if (identifier == CMD_NAME_WINDOW) {
+        if (action.status == OCLOSED) closeChooser();
+    } else
+        return false;
+    return true;
+}
