@@ -1,6 +1,255 @@
+// The check before the compiler: names, texts that are written between quotes, image files, lengths of statements.
+
 #include "codegen/check.h"
 
+#include "codegen/check_names.h"
+#include "codegen/generate.h"
+#include "codegen/quotes.h"
+
+#include "platform/paths.h"
 #include "project/tree.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int CONTINUATION_LIMIT = 255; // lines that a Fortran statement may go on for
+
+bool isC() { return project.projectLanguage == 99; }
+
+struct TextCheck {
+    std::vector<Complaint>& complaints;
+    const WidgetNode* form;
+    std::string_view widget;
+
+    void complain(const char* property, std::string message) {
+        complaints.push_back({form->name, std::string(widget), property, std::move(message)});
+    }
+
+    // A backslash in C takes the next character with it.
+    void checkEscapes(const char* property, std::string_view text, bool quotesEscaped) {
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            if (text[i] == '"' && (!quotesEscaped || (i > 0 && text[i - 1] == '\\'))) {
+                complain(property,
+                         "a double quote ends the text in the source; put a backslash ahead of it or remove it");
+                return;
+            }
+            if (text[i] != '\\') continue;
+            if (i + 1 == text.size()) {
+                complain(property, "a backslash at the end takes the closing quote with it in the source; remove it");
+                return;
+            }
+            const char next = text[++i];
+            const bool hexFollows = i + 1 < text.size() && std::isxdigit(static_cast<unsigned char>(text[i + 1])) != 0;
+            if (next == 'u' || next == 'U' || (next == 'x' && !hexFollows)) {
+                complain(property,
+                         std::string("\\") + next + " means something else to the compiler; double the backslash");
+                return;
+            }
+        }
+    }
+
+    void checkLineEnds(const char* property, std::string_view text) {
+        if (text.find_first_of("\r\n") != std::string_view::npos) {
+            complain(property, "a line end cannot stand in a text of the source; remove it");
+        }
+    }
+
+    // A text that reaches the source as it is stored.
+    void checkRaw(const char* property, std::string_view text) {
+        checkLineEnds(property, text);
+        if (isC()) {
+            checkEscapes(property, text, false);
+        } else if (countQuotes(text, project.projectLanguage) % 2 != 0) {
+            complain(property, "a single quote ends the text in the source; double it or remove it");
+        } else if (countQuotes(text, project.projectLanguage) != 0 && !allDoubled(text)) {
+            complain(property, "single quotes end the text in the source; double them or remove them");
+        }
+    }
+
+    // A text whose quotes the generator takes care of.
+    void checkEscaped(const char* property, std::string_view text) {
+        checkLineEnds(property, text);
+        if (isC()) checkEscapes(property, text, true);
+    }
+
+    // An image path: C doubles its backslashes.
+    void checkImage(const char* property, std::string_view image) {
+        checkLineEnds(property, image);
+        if (!isC()) {
+            checkRaw(property, image);
+        } else if (image.find('"') != std::string_view::npos) {
+            complain(property, "a double quote cannot stand in the name of an image; remove it");
+        }
+    }
+
+    static bool allDoubled(std::string_view text) {
+        for (std::size_t at = text.find('\''); at != std::string_view::npos; at = text.find('\'', at + 2)) {
+            if (at + 1 >= text.size() || text[at + 1] != '\'') return false;
+        }
+        return true;
+    }
+};
+
+// Strings of a record that are written as they stand, and on which records they are.
+struct RawText {
+    std::string WidgetNode::*field;
+    const char* property;
+    bool (*written)(const WidgetNode&);
+};
+
+bool isArray(const WidgetNode& node) { return node.type == TYPE_TEXT_ARRAY || node.type == TYPE_VALUE_ARRAY; }
+bool hasHelp(const WidgetNode& node) {
+    constexpr WidgetType WITHOUT[] = {TYPE_FORM,      TYPE_MAIN_PANEL, TYPE_TOOL_BAR,       TYPE_TAB_BOX,
+                                      TYPE_TREE_VIEW, TYPE_TABLE_BOX,  TYPE_TOOL_SEPARATOR, TYPE_PANE};
+    if (node.type == TYPE_SLIDER) return project.projectLanguage == 77;
+    return std::find(std::begin(WITHOUT), std::end(WITHOUT), node.type) == std::end(WITHOUT);
+}
+bool hasNamedImage(const WidgetNode& node) {
+    if (node.type == TYPE_FORM || node.type == TYPE_ICON) return node.format == 3;
+    return (node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL) && node.format == 1;
+}
+
+constexpr RawText RAW_TEXTS[] = {
+    {&WidgetNode::bubbleHelp, "Bubble Help", hasHelp},
+    {&WidgetNode::backgroundImage, "Background Image", hasNamedImage},
+    {&WidgetNode::fontFace, "Font Face", [](const WidgetNode&) { return project.projectPlatform == 'w'; }},
+    {&WidgetNode::xLabels, "X Labels", isArray},
+    {&WidgetNode::yLabels, "Y Labels", isArray},
+    {&WidgetNode::xLabels, "Column Labels", [](const WidgetNode& node) { return node.type == TYPE_TABLE_BOX; }},
+    {&WidgetNode::icon, "Prompt", [](const WidgetNode& node) { return node.type == TYPE_TTY_ENTRY; }},
+    {&WidgetNode::closeIcon, "Tab Icon", [](const WidgetNode& node) { return node.type == TYPE_PANEL; }},
+};
+
+// Whether the text stands in the source, and whether it may run over several lines.
+enum TextUse { NOT_WRITTEN, ONE_LINE, SEVERAL_LINES };
+TextUse textUse(const WidgetNode& node) {
+    switch (node.type) {
+    case TYPE_FORM:
+    case TYPE_BUTTON:
+    case TYPE_TOGGLE:
+    case TYPE_ICON:
+    case TYPE_TOOL_BAR:
+    case TYPE_PANE: return ONE_LINE;
+    case TYPE_PANEL: return node.titleFlag != 0 && node.scrollMode == -1 ? ONE_LINE : NOT_WRITTEN;
+    case TYPE_RADIO_BOX: return node.titleFlag != 0 ? ONE_LINE : NOT_WRITTEN;
+    case TYPE_TEXT_ENTRY:
+    case TYPE_TEXT_LABEL:
+    case TYPE_TTY_ENTRY: return SEVERAL_LINES;
+    default: return NOT_WRITTEN;
+    }
+}
+
+const char* textProperty(const WidgetNode& node) {
+    constexpr WidgetType TITLED[] = {TYPE_FORM, TYPE_PANEL, TYPE_RADIO_BOX, TYPE_TOOL_BAR, TYPE_PANE};
+    if (textUse(node) == SEVERAL_LINES) return "Text";
+    return std::find(std::begin(TITLED), std::end(TITLED), node.type) != std::end(TITLED) ? "Title" : "Label";
+}
+
+void checkOwnText(TextCheck& check, const WidgetNode& node) {
+    if (node.type == TYPE_TTY_ENTRY) {
+        check.checkEscaped("Text", withBars(node.text));
+    } else if (textUse(node) == SEVERAL_LINES) {
+        check.checkLineEnds("Text", withBars(node.text));
+    } else if (textUse(node) == ONE_LINE) {
+        check.checkEscaped(textProperty(node), node.text);
+    }
+}
+
+void checkTexts(TextCheck check, const WidgetNode& node) {
+    checkOwnText(check, node);
+    for (const RawText& row : RAW_TEXTS) {
+        if (row.written(node)) check.checkRaw(row.property, node.*row.field);
+    }
+    if (node.type == TYPE_FORM || node.type == TYPE_ICON || node.type == TYPE_GAUGE)
+        check.checkImage("Icon", node.icon);
+    if (node.statusBar != nullptr) {
+        check.widget = node.statusBar->name;
+        for (int pane = 0; pane < std::min(node.statusBar->panes, STATUS_PANES); ++pane) {
+            check.checkRaw("Text", node.statusBar->texts[static_cast<std::size_t>(pane)]);
+        }
+    }
+}
+
+void checkEntries(TextCheck check, const WidgetNode& node) {
+    if (node.contents == 0) {
+        for (const ListEntryRec* entry = node.listEntries; entry != nullptr; entry = entry->next) {
+            check.checkEscaped("Entries", entry->text);
+            check.checkRaw("Entries", iconResourceName(entry->icon));
+        }
+    }
+    for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
+        if (entry->kind != MENU_ENTRY) continue;
+        check.widget = entry->name;
+        check.checkEscaped("Caption", entry->label);
+        check.checkRaw("Help Text", entry->help);
+        for (const std::string* icon : {&entry->icon1, &entry->icon2, &entry->icon3}) {
+            check.checkRaw("Icon", iconResourceName(*icon));
+        }
+    }
+}
+
+// Files that the resource script names; without one the resource compiler stops.
+void checkImageFiles(TextCheck check, const WidgetNode& node) {
+    const auto need = [&](const char* property, const std::string& path) {
+        if (!fileReadable(path)) {
+            check.complain(property, "the image file \"" + path + "\" cannot be found; choose another one");
+        }
+    };
+    const auto needIfFile = [&](const char* property, const std::string& icon) {
+        if (icon.find('.') != std::string::npos) need(property, icon);
+    };
+    if (hasNamedImage(node)) need(node.format == 1 ? "Background Image" : "Icon", node.icon);
+    if (node.type == TYPE_GAUGE && node.format == 3) need("Icon", node.icon);
+    for (const ListEntryRec* entry = node.listEntries; entry != nullptr; entry = entry->next) {
+        needIfFile("Entries", entry->icon);
+    }
+    for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
+        if (entry->kind != MENU_ENTRY) continue;
+        check.widget = entry->name;
+        needIfFile("Icon", entry->icon1);
+        needIfFile("Icon", entry->icon2);
+        needIfFile("Icon", entry->icon3);
+    }
+}
+
+// Only Windows programs have the array that a status bar's panes are sized by.
+void checkPlatform(TextCheck check, const WidgetNode& node) {
+    if (node.statusBar != nullptr && project.projectPlatform != 'w') {
+        check.widget = node.statusBar->name;
+        check.complain("Statusbar", "an X project cannot hold a status bar; delete it");
+    }
+}
+
+bool continues(std::string_view line) {
+    return project.projectLanguage == 90 ? line.ends_with(" &") : line.starts_with("     +");
+}
+
+// Counts continuation lines in the source itself. The comment ahead of a statement names its widget.
+void checkLengths(std::vector<Complaint>& complaints) {
+    GeneratedText generated;
+    if (isC() || !generateText("check", generated)) return;
+    std::string_view rest = generated.text;
+    std::string widget;
+    int lines = 0;
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        const std::size_t child = line.find(" child of ");
+        if (child != std::string_view::npos) {
+            const std::size_t name = line.rfind(' ', child - 1) + 1;
+            widget = line.substr(name, child - name);
+        }
+        lines = continues(line) ? lines + 1 : 0;
+        if (lines != CONTINUATION_LIMIT + 1) continue;
+        const WidgetNode* node = findName(project.forms, widget, false);
+        const WidgetNode* form = node != nullptr ? formOf(node, project.forms) : project.forms;
+        complaints.push_back({form->name, widget, node != nullptr ? textProperty(*node) : "",
+                              "its statement goes on for more than 255 lines, the most of Fortran; shorten the text"});
+    }
+}
+
+} // namespace
 
 std::string complaintLine(const Complaint& complaint) {
     std::string line;
@@ -12,11 +261,22 @@ std::string complaintLine(const Complaint& complaint) {
 
 std::vector<Complaint> checkProject() {
     std::vector<Complaint> complaints;
+    checkNames(complaints);
+    const WidgetNode* form = nullptr;
+    bool master = false;
     for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
-        if (project.projectLanguage != 99 && node->name.size() > 63) {
-            complaints.push_back({formOf(node, project.forms)->name, node->name, "Name",
-                                  "a Fortran name has at most 63 characters; shorten it"});
-        }
+        if (node->parent == nullptr) form = node;
+        master = master || node->formType == FORM_MASTER_SDI || node->formType == FORM_MASTER_MDI;
+        const TextCheck check{complaints, form, node->name};
+        checkTexts(check, *node);
+        checkEntries(check, *node);
+        checkImageFiles(check, *node);
+        checkPlatform(check, *node);
+    }
+    if (master) {
+        checkLengths(complaints);
+    } else {
+        complaints.push_back({"", "", "Form Type", "no form is the master; set one form to Master"});
     }
     return complaints;
 }

@@ -11,7 +11,8 @@ struct Complaint {
     std::string message;  // what is wrong and what to do
 };
 
-// Every complaint about the open project in its language, in walking order. Generation itself never refuses.
+// Every complaint about the open project in its language, in walking order. Generation itself never
+// refuses. Generates the text on the way, with what that does to the project (generateText).
 std::vector<Complaint> checkProject();
 
 // "form: widget: property: message", the parts that are empty left out.

@@ -8,6 +8,7 @@
 #include "codegen/resources.h"
 
 #include "platform/paths.h"
+#include "platform/safe_file.h"
 #include "project/host.h"
 #include "project/tree.h"
 
@@ -151,23 +152,25 @@ bool reportUnwritable() {
 bool generateSource(const std::string& path, const std::string& fileName, GeneratedText* generated) {
     GeneratedText own;
     GeneratedText& text = generated != nullptr ? *generated : own;
-    if (!mayWriteFile(path)) return reportUnwritable();
+    SafeFile file;
+    if (!openSafeFile(file, path)) return reportUnwritable();
     host.busyCursor(true);
     if (!generateText(path, text)) {
+        abandonSafeFile(file);
         host.busyCursor(false);
         host.errorBox("Error during save",
                       "The project has no master form, so there is no program to generate.|Set the Form "
                       "Type of one form to Master, then try again");
         return false;
     }
-    const std::string base = basePath(path);
-    const std::string title = project.projectTitle.empty() ? withoutExtension(fileName) : project.projectTitle;
-    const bool written = replaceFile(path, text.text);
+    writeSafeFile(file, text.text.data(), text.text.size());
+    const bool written = commitSafeFile(file);
     if (written) {
-        project.projectTitle = title;
+        if (project.projectTitle.empty()) project.projectTitle = withoutExtension(fileName);
         project.sourceStale = 0;
         project.exeTime = 0;
-        if (!writeManifest(base, title)) reportUnwritable();
+        const std::string base = basePath(path);
+        if (!writeManifest(base, project.projectTitle)) reportUnwritable();
         if (!writeResourceScript(base)) reportUnwritable();
     }
     host.busyCursor(false);

@@ -4,6 +4,7 @@
 #include "codegen/text.h"
 
 #include "platform/environment.h"
+#include "platform/safe_file.h"
 
 namespace {
 
@@ -39,5 +40,8 @@ bool writeManifest(const std::string& base, std::string_view title) {
     const std::string& architecture = folders.architectureText;
     std::string text;
     put(text, MANIFEST, architecture, title, architecture);
-    return replaceFile(base + ".exe.manifest", text);
+    SafeFile file;
+    if (!openSafeFile(file, base + ".exe.manifest")) return false;
+    writeSafeFile(file, text.data(), text.size());
+    return commitSafeFile(file);
 }

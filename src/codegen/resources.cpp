@@ -6,6 +6,7 @@
 #include "codegen/text.h"
 
 #include "platform/paths.h"
+#include "platform/safe_file.h"
 #include "project/host.h"
 #include "project/tree.h"
 
@@ -120,10 +121,13 @@ void addResources(Script& script, const WidgetNode& node) {
 } // namespace
 
 bool writeResourceScript(const std::string& base) {
+    SafeFile file;
+    if (!openSafeFile(file, base + "rc.rc")) return false;
     Script script;
     put(script.text, "CREATEPROCESS_MANIFEST_RESOURCE_ID RT_MANIFEST \"%s.exe.manifest\"\n", doubledBackslashes(base));
     for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
         addResources(script, *node);
     }
-    return replaceFile(base + "rc.rc", script.text);
+    writeSafeFile(file, script.text.data(), script.text.size());
+    return commitSafeFile(file);
 }
