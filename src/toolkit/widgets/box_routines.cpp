@@ -11,7 +11,7 @@
 namespace orba {
 namespace {
 
-constexpr int noIcon = 0, errorIcon = 4;
+constexpr int errorIcon = 4;
 
 Word displayMessageBox(const Arguments& call) {
     return messageBox(call.text(0), call.text(1), call.integer(2), call.integer(3));

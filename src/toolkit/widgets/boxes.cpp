@@ -1,15 +1,20 @@
 // Message boxes, the file browser, and the choice of colours and fonts.
 #include "toolkit/widgets/boxes.h"
 
+#include "toolkit/widgets/core.h"
+#include "toolkit/widgets/icons.h"
+
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QTreeView>
 #include <array>
 
 namespace orba {
@@ -41,7 +46,7 @@ constexpr QMessageBox::Icon boxIcons[] = {QMessageBox::NoIcon, QMessageBox::Ques
 // Gives the focus back to what had it before a box came up; a box closed under a window manager may lose it otherwise.
 class FocusKeeper {
 public:
-    FocusKeeper() : focus_(QApplication::focusWidget()) {}
+    FocusKeeper() : focus_(QApplication::focusWidget()) { icons::useTheme(); }
     ~FocusKeeper() {
         if (!focus_) return;
         focus_->activateWindow();
@@ -81,7 +86,7 @@ int messageBox(const QString& title, const QString& text, int icon, int buttons)
     box.setStandardButtons(set->shown);
     box.setDefaultButton(set->preset);
     box.setEscapeButton(set->escape);
-    const int pressed = box.exec();
+    const int pressed = runBox(box);
     for (const Answer& answer : answers)
         if (pressed == answer.button) return answer.number;
     return 1;
@@ -105,6 +110,11 @@ bool fileBrowser(FileChoice& choice) {
     const FocusKeeper keeper;
     QFileDialog dialogue(QApplication::activeWindow(), choice.title, startDirectory(choice.directory));
     dialogue.resize(760, 480);
+    if (auto* files = dialogue.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        constexpr int nameWidth = 290, dateWidth = 150;
+        files->header()->resizeSection(0, nameWidth);
+        files->header()->resizeSection(3, dateWidth);
+    }
     const bool folder = choice.question == FileQuestion::directory;
     dialogue.setAcceptMode(choice.question == FileQuestion::save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogue.setFileMode(folder                                  ? QFileDialog::Directory
@@ -115,7 +125,7 @@ bool fileBrowser(FileChoice& choice) {
     const QStringList filters = dialogueFilters(choice.filter);
     if (!folder && !filters.isEmpty()) dialogue.setNameFilters(filters);
     if (!folder && !choice.name.isEmpty()) dialogue.selectFile(choice.name);
-    if (dialogue.exec() != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return false;
+    if (runBox(dialogue) != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return false;
     const QFileInfo chosen(dialogue.selectedFiles().constFirst());
     choice.directory = folder ? chosen.absoluteFilePath() : chosen.absolutePath();
     choice.name = folder ? QString() : chosen.fileName();
@@ -127,7 +137,7 @@ bool fileBrowser(FileChoice& choice) {
 bool colourBox(QColor& colour) {
     const FocusKeeper keeper;
     QColorDialog dialogue(colour, QApplication::activeWindow());
-    if (dialogue.exec() != QDialog::Accepted) return false;
+    if (runBox(dialogue) != QDialog::Accepted) return false;
     colour = dialogue.selectedColor();
     return colour.isValid();
 }
@@ -135,7 +145,7 @@ bool colourBox(QColor& colour) {
 bool fontBox(QFont& font) {
     const FocusKeeper keeper;
     QFontDialog dialogue(font, QApplication::activeWindow());
-    if (dialogue.exec() != QDialog::Accepted) return false;
+    if (runBox(dialogue) != QDialog::Accepted) return false;
     font = dialogue.selectedFont();
     return true;
 }

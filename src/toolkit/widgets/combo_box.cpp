@@ -12,7 +12,7 @@
 namespace orba {
 namespace {
 
-enum Property : int { accessProperty = 34, sortProperty = 41, descWidthProperty = 97 };
+enum Property : int { heightProperty = 4, accessProperty = 34, sortProperty = 41, descWidthProperty = 97 };
 
 class ComboView : public QComboBox {
 public:
@@ -73,6 +73,7 @@ bool getComboProperty(Widget& widget, int property, Value& value) {
     switch (property) {
     case sortProperty: value.integer = dataOf<ComboData>(widget).sorted ? OSORTED : OUNSORTED; return true;
     case accessProperty: value.integer = comboOf(widget).isEditable() ? OEDIT : ODISPLAY; return true;
+    case heightProperty: value.integer = unitsDown(comboOf(widget).listHeight); return true;
     default: return false;
     }
 }
@@ -86,12 +87,17 @@ bool setComboProperty(Widget& widget, int property, const Value& value) {
         if (value.integer == OSORTED) combo.model()->sort(0);
         return true;
     case accessProperty: combo.setEditable(value.integer == OEDIT); return true;
+    case heightProperty: combo.listHeight = pixelsDown(value.integer); return true;
     default: return false;
     }
 }
 
 // The height of the call is that of the opened list; closed, a combo box is as high as its text asks for.
-QSize comboSize(Widget& widget) { return comboOf(widget).sizeHint(); }
+QSize comboSize(Widget& widget) {
+    const ComboView& combo = comboOf(widget);
+    return {combo.sizeHint().width(),
+            qMin(combo.sizeHint().height(), qMax(lineHeight(), combo.fontMetrics().height() + 6))};
+}
 
 const Family comboBoxes{.name = "combo box",
                         .get = getComboProperty,
@@ -135,7 +141,10 @@ Word createComboBox(const Arguments& call) {
     watch(combo);
     const QSignalBlocker quiet(view);
     for (const ListRow& row : listContents(call.integer(5))) listEntry(combo, {OADD, 0, row.text, row.icon});
-    return finishCreation(combo, call);
+    const int handle = finishCreation(combo, call);
+    combo.place.height = 0;
+    placeWidget(combo);
+    return handle;
 }
 
 void addRow(Widget& widget, int at, const ListEntry& entry) {

@@ -238,11 +238,20 @@ QStringList& resourceNames() {
 } // namespace
 
 QIcon iconByName(const QString& name) {
+    static QHash<QString, QIcon> stock; // pictures of files may change, stock pictures do not
+    if (const auto known = stock.constFind(name); known != stock.constEnd()) return known.value();
     QIcon icon = stockIcon(name);
+    if (!icon.isNull()) stock.insert(name, icon);
     if (!icon.isNull()) return icon;
     const QString path = pictureFile(name);
     if (!path.isEmpty()) icon = fileIcon(path);
     return icon.isNull() ? QIcon(new OutlineEngine({}, drawingSvg("missing"), false)) : icon;
+}
+
+void useTheme() {
+    const QString set = QIcon::themeName();
+    if (!set.isEmpty() && set != QLatin1String("hicolor") && !set.startsWith(QLatin1String("breeze"))) return;
+    QIcon::setThemeName(isDark() ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
 }
 
 bool iconExists(const QString& name) { return !stockPicture(name).name.empty() || !pictureFile(name).isEmpty(); }

@@ -37,4 +37,7 @@ QIcon iconOfResource(int resource);
 // The name behind a number of iconResource; empty for 0 and for numbers that were never given out.
 QString nameOfResource(int resource);
 
+// Gives the desktop's own dialogues the icon theme where the desktop has set none.
+void useTheme();
+
 } // namespace orba::icons

@@ -6,6 +6,7 @@
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QTimer>
 #include <QTreeWidget>
 #include <unordered_map>
@@ -77,8 +78,10 @@ public:
     void showSelection() {
         if (!wanted_) return;
         byProgram = true;
+        const int across = horizontalScrollBar()->value();
         setCurrentItem(wanted_);
         scrollToItem(wanted_);
+        horizontalScrollBar()->setValue(across);
         byProgram = false;
         wanted_ = nullptr;
     }
