@@ -3,6 +3,7 @@
 #include "build/navigation.h"
 #include "codegen/markers.h"
 #include "project/code_stores.h"
+#include "project/preferences.h"
 #include "project/records.h"
 
 #include <algorithm>
@@ -67,29 +68,29 @@ MarkerLines findMarkers(std::string_view source) {
     return markers;
 }
 
-// The search as it goes on: what it has found, and whether it has come to a marker at or behind the line.
+// The search as it goes on. Of the markers ahead of the line the nearest one wins: code stands directly behind its own.
+// Of two on the same line, as all windows' tests of one status are, the first in the order does.
 struct Search {
     const MarkerLines& markers;
     int line;
+    int nearest = 0;
     CodeLocation result;
 };
 
-// False when the marker on `markerLine` stands at or behind the line that is looked for.
-bool passMarker(Search& search, int markerLine, const CodeLocation& place) {
-    if (markerLine == 0) return true;
-    if (search.line <= markerLine) return false;
+void passMarker(Search& search, int markerLine, const CodeLocation& place) {
+    if (markerLine <= search.nearest || markerLine >= search.line) return;
+    search.nearest = markerLine;
     search.result = place;
     search.result.line = search.line - markerLine;
-    return true;
 }
 
-bool passBlocks(Search& search, std::initializer_list<CodeBlockIndex> blocks) {
-    return std::all_of(blocks.begin(), blocks.end(), [&](CodeBlockIndex block) {
+void passBlocks(Search& search, int first, int last) {
+    for (int block = first; block <= last; block++) {
         CodeLocation place;
         place.place = CodePlace::block;
         place.block = block;
-        return passMarker(search, search.markers.blocks[block], place);
-    });
+        passMarker(search, search.markers.blocks[static_cast<size_t>(block)], place);
+    }
 }
 
 int headLine(const MarkerLines& markers, const std::string& name, std::string_view offset) {
@@ -97,51 +98,48 @@ int headLine(const MarkerLines& markers, const std::string& name, std::string_vi
     return found == markers.heads.end() ? 0 : found->second;
 }
 
-bool passEntries(Search& search, WidgetNode* list) {
+void passEntry(Search& search, WidgetNode* owner, MenuEntryRec* entry) {
+    for (int slot = 0; entry->kind == MENU_ENTRY && slot < ENTRY_SLOTS; slot++) {
+        if (entry->slots[static_cast<size_t>(slot)].empty()) continue;
+        CodeLocation place;
+        place.place = CodePlace::entrySlot;
+        place.widget = owner;
+        place.entry = entry;
+        place.slot = slot;
+        std::string_view offset = slotOffset(entrySlotKinds[static_cast<size_t>(slot)]);
+        passMarker(search, headLine(search.markers, entry->name, offset), place);
+    }
+}
+
+void passEntries(Search& search, WidgetNode* list) {
     for (WidgetNode* node = list; node; node = node->next) {
         bool holder = node->type == TYPE_FORM || node->type == TYPE_TREE_VIEW;
         for (MenuEntryRec* entry = holder ? node->entries : nullptr; entry; entry = entry->next) {
-            for (int slot = 0; entry->kind == MENU_ENTRY && slot < ENTRY_SLOTS; slot++) {
-                if (entry->slots[static_cast<size_t>(slot)].empty()) continue;
-                CodeLocation place;
-                place.place = CodePlace::entrySlot;
-                place.widget = node;
-                place.entry = entry;
-                place.slot = slot;
-                std::string_view offset = slotOffset(entrySlotKinds[static_cast<size_t>(slot)]);
-                if (!passMarker(search, headLine(search.markers, entry->name, offset), place)) return false;
-            }
+            passEntry(search, node, entry);
         }
-        if (!passEntries(search, node->child)) return false;
+        passEntries(search, node->child);
     }
-    return true;
 }
 
-bool passSlot(Search& search, WidgetNode* node, WidgetSlot slot) {
-    if (node->slots[slot].empty()) return true;
+void passSlot(Search& search, WidgetNode* node, int slot) {
+    if (node->slots[static_cast<size_t>(slot)].empty()) return;
     CodeLocation place;
     place.place = CodePlace::widgetSlot;
     place.widget = node;
     place.slot = slot;
     bool window = slot >= SLOT_WINDOW_MOVED && slot <= SLOT_WINDOW_LOST_FOCUS;
     int marker = window ? search.markers.statuses[static_cast<size_t>(slot - SLOT_WINDOW_MOVED)]
-                        : headLine(search.markers, node->name, slotOffset(slot));
-    return passMarker(search, marker, place);
+                        : headLine(search.markers, node->name, slotOffset(static_cast<WidgetSlot>(slot)));
+    passMarker(search, marker, place);
 }
 
-bool passSlots(Search& search, WidgetNode* node) {
-    if (!passSlot(search, node, SLOT_GENERAL)) return false;
-    for (int slot = SLOT_WINDOW_MOVED; slot <= SLOT_WINDOW_LOST_FOCUS; slot++) {
-        if (!passSlot(search, node, static_cast<WidgetSlot>(slot))) return false;
-    }
-    return std::all_of(DEFINE_ORDER.begin(), DEFINE_ORDER.end(),
-                       [&](WidgetSlot slot) { return slot == SLOT_GENERAL || passSlot(search, node, slot); });
-}
-
-// A marker behind the line ends the chain that it stands in; the parents' chains go on.
 void passWidgets(Search& search, WidgetNode* list) {
     for (WidgetNode* node = list; node; node = node->next) {
-        if (!passSlots(search, node)) return;
+        passSlot(search, node, SLOT_GENERAL);
+        for (int slot = SLOT_WINDOW_MOVED; slot <= SLOT_WINDOW_LOST_FOCUS; slot++) passSlot(search, node, slot);
+        for (WidgetSlot slot : DEFINE_ORDER) {
+            if (slot != SLOT_GENERAL) passSlot(search, node, slot);
+        }
         passWidgets(search, node->child);
     }
 }
@@ -150,16 +148,14 @@ void passWidgets(Search& search, WidgetNode* list) {
 
 CodeLocation findByMarkers(const std::string& source, int line, int column) {
     MarkerLines markers = findMarkers(source);
-    CodeLocation start;
-    start.place = CodePlace::block;
-    start.block = BLOCK_GLOBAL_DEFINITIONS;
-    Search search{markers, line, start};
-    if (passBlocks(search, {BLOCK_GLOBAL_DEFINITIONS, BLOCK_GLOBAL_ROUTINES, BLOCK_LOCAL_VARIABLES,
-                            BLOCK_INITIALIZATION, BLOCK_PRE_ACTION, BLOCK_LOOP_START}) &&
-        passEntries(search, project.forms)) {
-        passWidgets(search, project.forms);
-        passBlocks(search, {BLOCK_LOOP_END, BLOCK_TERMINATION, BLOCK_USER_ROUTINES});
-    }
-    search.result.column = column;
+    Search search{markers, line, 0, {}};
+    search.result.place = CodePlace::block;
+    search.result.block = BLOCK_GLOBAL_DEFINITIONS;
+    passBlocks(search, BLOCK_GLOBAL_DEFINITIONS, BLOCK_LOOP_START);
+    passEntries(search, project.forms);
+    passWidgets(search, project.forms);
+    passBlocks(search, BLOCK_LOOP_END, BLOCK_USER_ROUTINES);
+    bool slot = search.result.place != CodePlace::block;
+    if (column > 0) search.result.column = std::max(1, column - (slot ? preferences.globalIndent : 0));
     return search.result;
 }
