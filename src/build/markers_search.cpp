@@ -1,161 +1,150 @@
-// The way back by the texts that the generators write: all of them are looked up in one pass over the source, and then
-// held against the line in their fixed order.
-#include "build/navigation.h"
+#include "build/markers_search.h"
+
 #include "codegen/markers.h"
 #include "project/code_stores.h"
 #include "project/preferences.h"
 #include "project/records.h"
+#include "project/tree.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <string_view>
-#include <unordered_map>
+#include <unordered_set>
 
 namespace {
 
 constexpr int WINDOW_STATUSES = 6;
 
-// First line of each marker, 0 where there is none.
-struct MarkerLines {
-    std::array<int, CODE_BLOCKS> blocks{};
-    std::array<int, WINDOW_STATUSES> statuses{};
-    std::unordered_map<std::string_view, int> heads; // by what stands between the parentheses: name and offset
+// --- one pass over the source
+
+struct Pass {
+    std::vector<Marker> markers;
+    std::array<bool, CODE_BLOCKS> blockSeen{};
+    std::unordered_set<std::string_view> headsSeen;
+    std::string_view head;
+    std::array<std::string, WINDOW_STATUSES> statusTests;
 };
 
 bool isComment(std::string_view line) {
     return !line.empty() && (line[0] == '!' || line[0] == 'C' || line.substr(0, 2) == "//");
 }
 
+// Some languages write the words in another case.
 bool containsAnyCase(std::string_view line, std::string_view words) {
     auto same = [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); };
     return std::search(line.begin(), line.end(), words.begin(), words.end(), same) != line.end();
 }
 
-void noteFirst(int& place, int line) {
-    if (place == 0) place = line;
+void noteComment(Pass& pass, std::string_view text, int line) {
+    for (size_t block = 0; block < codeBlockTable.size(); block++) {
+        if (pass.blockSeen[block] || !containsAnyCase(text, codeBlockTable[block].comment)) continue;
+        pass.blockSeen[block] = true;
+        pass.markers.push_back({Marker::BLOCK, line, static_cast<int>(block), {}, {}});
+    }
 }
 
-void noteLine(MarkerLines& markers, std::string_view text, int line, std::string_view head) {
-    if (isComment(text)) {
-        for (size_t block = 0; block < codeBlockTable.size(); block++) {
-            if (containsAnyCase(text, codeBlockTable[block].comment)) noteFirst(markers.blocks[block], line);
-        }
+void noteStatement(Pass& pass, std::string_view text, int line) {
+    size_t at = text.find(pass.head);
+    if (at != std::string_view::npos) {
+        std::string_view key = text.substr(at + pass.head.size());
+        key = key.substr(0, key.find(')'));
+        if (!pass.headsSeen.insert(key).second) return;
+        size_t plus = std::min(key.find('+'), key.size());
+        pass.markers.push_back(
+            {Marker::HEAD, line, 0, std::string(key.substr(0, plus)), std::string(key.substr(plus))});
         return;
     }
-    size_t at = text.find(head);
-    if (at != std::string_view::npos) {
-        std::string_view key = text.substr(at + head.size());
-        markers.heads.try_emplace(key.substr(0, key.find(')')), line);
-    }
-    for (int status = 0; status < WINDOW_STATUSES; status++) {
-        if (markers.statuses[static_cast<size_t>(status)] == 0 &&
-            text.find(statusTest(project.projectLanguage, status)) != std::string_view::npos) {
-            markers.statuses[static_cast<size_t>(status)] = line;
-        }
+    for (size_t status = 0; status < pass.statusTests.size(); status++) {
+        if (text.find(pass.statusTests[status]) == std::string_view::npos) continue;
+        pass.markers.push_back({Marker::STATUS, line, static_cast<int>(status), {}, {}});
+        return;
     }
 }
 
-MarkerLines findMarkers(std::string_view source) {
-    MarkerLines markers;
-    std::string_view head = branchHead(project.projectLanguage);
-    int line = 1;
-    for (size_t from = 0; from < source.size(); line++) {
-        size_t end = std::min(source.find('\n', from), source.size());
-        noteLine(markers, source.substr(from, end - from), line, head);
-        from = end + 1;
-    }
-    return markers;
-}
+// --- what a marker stands for in the project as it is now
 
-// The search as it goes on. Of the markers ahead of the line the nearest one wins: code stands directly behind its own.
-// Of two on the same line, as all windows' tests of one status are, the first in the order does.
-struct Search {
-    const MarkerLines& markers;
-    int line;
-    int nearest = 0;
-    CodeLocation result;
-};
-
-void passMarker(Search& search, int markerLine, const CodeLocation& place) {
-    if (markerLine <= search.nearest || markerLine >= search.line) return;
-    search.nearest = markerLine;
-    search.result = place;
-    search.result.line = search.line - markerLine;
-}
-
-void passBlocks(Search& search, int first, int last) {
-    for (int block = first; block <= last; block++) {
-        CodeLocation place;
-        place.place = CodePlace::block;
-        place.block = block;
-        passMarker(search, search.markers.blocks[static_cast<size_t>(block)], place);
-    }
-}
-
-int headLine(const MarkerLines& markers, const std::string& name, std::string_view offset) {
-    auto found = markers.heads.find(name + std::string(offset));
-    return found == markers.heads.end() ? 0 : found->second;
-}
-
-void passEntry(Search& search, WidgetNode* owner, MenuEntryRec* entry) {
-    for (int slot = 0; entry->kind == MENU_ENTRY && slot < ENTRY_SLOTS; slot++) {
-        if (entry->slots[static_cast<size_t>(slot)].empty()) continue;
-        CodeLocation place;
-        place.place = CodePlace::entrySlot;
-        place.widget = owner;
-        place.entry = entry;
-        place.slot = slot;
-        std::string_view offset = slotOffset(entrySlotKinds[static_cast<size_t>(slot)]);
-        passMarker(search, headLine(search.markers, entry->name, offset), place);
-    }
-}
-
-void passEntries(Search& search, WidgetNode* list) {
+MenuEntryRec* entryNamed(WidgetNode* list, const std::string& name, WidgetNode*& owner) {
     for (WidgetNode* node = list; node; node = node->next) {
-        bool holder = node->type == TYPE_FORM || node->type == TYPE_TREE_VIEW;
-        for (MenuEntryRec* entry = holder ? node->entries : nullptr; entry; entry = entry->next) {
-            passEntry(search, node, entry);
+        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next) {
+            owner = node;
+            if (entry->name == name) return entry;
         }
-        passEntries(search, node->child);
+        if (MenuEntryRec* below = entryNamed(node->child, name, owner)) return below;
     }
+    return nullptr;
 }
 
-void passSlot(Search& search, WidgetNode* node, int slot) {
-    if (node->slots[static_cast<size_t>(slot)].empty()) return;
+CodeLocation placeOfHead(const Marker& marker) {
     CodeLocation place;
-    place.place = CodePlace::widgetSlot;
-    place.widget = node;
-    place.slot = slot;
-    bool window = slot >= SLOT_WINDOW_MOVED && slot <= SLOT_WINDOW_LOST_FOCUS;
-    int marker = window ? search.markers.statuses[static_cast<size_t>(slot - SLOT_WINDOW_MOVED)]
-                        : headLine(search.markers, node->name, slotOffset(static_cast<WidgetSlot>(slot)));
-    passMarker(search, marker, place);
+    place.widget = findName(project.forms, marker.name, false);
+    for (WidgetSlot slot : DEFINE_ORDER) {
+        if (!place.widget || slotOffset(slot) != marker.offset) continue;
+        place.place = CodePlace::widgetSlot;
+        place.slot = slot;
+        return place;
+    }
+    place.entry = entryNamed(project.forms, marker.name, place.widget);
+    for (int slot = 0; slot < ENTRY_SLOTS; slot++) {
+        if (!place.entry || slotOffset(entrySlotKinds[static_cast<size_t>(slot)]) != marker.offset) continue;
+        place.place = CodePlace::entrySlot;
+        place.slot = slot;
+        return place;
+    }
+    return {};
 }
 
-void passWidgets(Search& search, WidgetNode* list) {
-    for (WidgetNode* node = list; node; node = node->next) {
-        passSlot(search, node, SLOT_GENERAL);
-        for (int slot = SLOT_WINDOW_MOVED; slot <= SLOT_WINDOW_LOST_FOCUS; slot++) passSlot(search, node, slot);
-        for (WidgetSlot slot : DEFINE_ORDER) {
-            if (slot != SLOT_GENERAL) passSlot(search, node, slot);
-        }
-        passWidgets(search, node->child);
+// A window's tests stand in the branch of its general identifier.
+CodeLocation placeOfStatus(const std::vector<Marker>& markers, size_t at) {
+    for (size_t above = at; above-- > 0;) {
+        if (markers[above].kind != Marker::HEAD) continue;
+        CodeLocation place = placeOfHead(markers[above]);
+        if (place.place != CodePlace::widgetSlot || place.slot != SLOT_GENERAL) return {};
+        place.slot = SLOT_WINDOW_MOVED + markers[at].index;
+        return place;
     }
+    return {};
+}
+
+CodeLocation placeOfMarker(const std::vector<Marker>& markers, size_t at) {
+    if (markers[at].kind == Marker::HEAD) return placeOfHead(markers[at]);
+    if (markers[at].kind == Marker::STATUS) return placeOfStatus(markers, at);
+    CodeLocation place;
+    place.place = CodePlace::block;
+    place.block = markers[at].index;
+    return place;
 }
 
 } // namespace
 
-CodeLocation findByMarkers(const std::string& source, int line, int column) {
-    MarkerLines markers = findMarkers(source);
-    Search search{markers, line, 0, {}};
-    search.result.place = CodePlace::block;
-    search.result.block = BLOCK_GLOBAL_DEFINITIONS;
-    passBlocks(search, BLOCK_GLOBAL_DEFINITIONS, BLOCK_LOOP_START);
-    passEntries(search, project.forms);
-    passWidgets(search, project.forms);
-    passBlocks(search, BLOCK_LOOP_END, BLOCK_USER_ROUTINES);
-    bool slot = search.result.place != CodePlace::block;
-    if (column > 0) search.result.column = std::max(1, column - (slot ? preferences.globalIndent : 0));
-    return search.result;
+std::vector<Marker> findMarkers(std::string_view source) {
+    Pass pass;
+    pass.head = branchHead(project.projectLanguage);
+    for (int status = 0; status < WINDOW_STATUSES; status++) {
+        pass.statusTests[static_cast<size_t>(status)] = statusTest(project.projectLanguage, status);
+    }
+    int line = 1;
+    for (size_t from = 0; from < source.size(); line++) {
+        size_t end = std::min(source.find('\n', from), source.size());
+        std::string_view text = source.substr(from, end - from);
+        isComment(text) ? noteComment(pass, text, line) : noteStatement(pass, text, line);
+        from = end + 1;
+    }
+    return std::move(pass.markers);
+}
+
+CodeLocation searchMarkers(const std::vector<Marker>& markers, int line, int column) {
+    auto behind = std::lower_bound(markers.begin(), markers.end(), line,
+                                   [](const Marker& marker, int wanted) { return marker.line < wanted; });
+    CodeLocation place;
+    for (size_t at = static_cast<size_t>(behind - markers.begin()); at-- > 0 && place.place == CodePlace::none;) {
+        place = placeOfMarker(markers, at);
+        place.line = line - markers[at].line;
+    }
+    if (place.place == CodePlace::none) {
+        place = {};
+        place.place = CodePlace::block;
+    }
+    bool indented = place.place != CodePlace::block;
+    if (column > 0) place.column = std::max(1, column - (indented ? preferences.globalIndent : 0));
+    return place;
 }

@@ -3,6 +3,7 @@
 #include "build/catalogue.h"
 #include "build/hooks.h"
 #include "build/log.h"
+#include "build/markers_search.h"
 #include "codegen/generate.h"
 #include "platform/text_files.h"
 #include "project/code_stores.h"
@@ -21,7 +22,8 @@ struct BuildSource {
     std::string text;
     std::vector<size_t> lineStarts; // offset of each line
     bool mapped = false;
-    GeneratedText generated; // its map, when mapped
+    GeneratedText generated;     // its map, when mapped...
+    std::vector<Marker> markers; // ...otherwise these
 };
 BuildSource source;
 GeneratedText noted;
@@ -178,6 +180,7 @@ void loadBuildSource(const std::string& sourcePath) {
         source.mapped =
             generateText(sourcePath, source.generated) && sameButForDate(source.generated.text, source.text);
         if (!source.mapped) source.generated = {};
+        if (!source.mapped) source.markers = findMarkers(source.text);
     }
     source.generated.text.clear();
 }
@@ -186,7 +189,7 @@ bool buildSourceMapped() { return source.mapped; }
 
 CodeLocation findLocation(int line, int column) {
     if (source.mapped) return findByMap(line, column);
-    return findByMarkers(source.text, line, column);
+    return searchMarkers(source.markers, line, column);
 }
 
 const char* placeName(const CodeLocation& location) {

@@ -36,9 +36,6 @@ bool buildSourceMapped();
 // statement it is, and otherwise to the end of the code ahead of it.
 CodeLocation findLocation(int line, int column);
 
-// The search by markers alone in `source`: comment lines and branch heads in their fixed order.
-CodeLocation findByMarkers(const std::string& source, int line, int column);
-
 // Shows the place of a message, or of an entry of `compilerLog`. Nothing happens when it holds no usable line number.
 void goToError(const std::string& message, int compilerProfile);
 void goToLogEntry(int entry, int compilerProfile);

@@ -1,6 +1,7 @@
 #include "build/commands.h"
 #include "build/driver.h"
 #include "build/log.h"
+#include "build/markers_search.h"
 #include "build/navigation.h"
 #include "build_room.h"
 
@@ -35,7 +36,7 @@ const Place PLACES[] = {
     {CodePlace::block, BLOCK_USER_ROUTINES},
     {CodePlace::widgetSlot, SLOT_WINDOW_MOVED, "Form1"},
     {CodePlace::widgetSlot, SLOT_WINDOW_QUIT, "Form1", "", false}, // runs where the master window is closed
-    {CodePlace::widgetSlot, SLOT_WINDOW_MOVED, "Form2", "", false},
+    {CodePlace::widgetSlot, SLOT_WINDOW_MOVED, "Form2"},
     {CodePlace::widgetSlot, SLOT_GENERAL, "Button1"},
     {CodePlace::widgetSlot, SLOT_DRAG_DROP, "Button1"},
     {CodePlace::widgetSlot, SLOT_GENERAL, "Button12"},
@@ -153,6 +154,7 @@ TEST_P(NavigationTest, MarkersAloneFindWhatStandsBehindThem) {
     fillAll();
     GeneratedText generated;
     ASSERT_TRUE(generateText(work + "/app.x", generated));
+    std::vector<Marker> markers = findMarkers(generated.text);
     int found = 0;
     for (const PastedCode& pasted : generated.map) {
         for (const Place& place : PLACES) {
@@ -162,13 +164,13 @@ TEST_P(NavigationTest, MarkersAloneFindWhatStandsBehindThem) {
                 (!block && pasted.widget != place.widget) || !place.markersFindIt) {
                 continue;
             }
-            expectPlace(findByMarkers(generated.text, pasted.firstLine + 1, 0), place,
+            expectPlace(searchMarkers(markers, pasted.firstLine + 1, 0), place,
                         place.widget + std::to_string(place.index));
             found++;
         }
     }
-    EXPECT_EQ(found, 14);
-    CodeLocation start = findByMarkers(generated.text, 1, 0);
+    EXPECT_EQ(found, 15);
+    CodeLocation start = searchMarkers(markers, 1, 0);
     EXPECT_EQ(start.block, BLOCK_GLOBAL_DEFINITIONS);
     EXPECT_EQ(start.line, 1);
 }
