@@ -114,6 +114,21 @@ void setCell(PropertyRow& row, Widget& cell) {
         cell.family->set(cell, borderProperty, {.integer = ONOBORDER, .real = 0, .text = {}});
 }
 
+// Another routine of the toolkit on the widget of a cell.
+template <std::size_t N> void run(Fn function, const Word (&fixed)[N]) {
+    if (const Handler handler = handlerOf(function)) handler({function, fixed, static_cast<int>(N), nullptr, 0});
+}
+
+void setValue(Widget& cell, double value) { run(Fn::owSetValueSetting, {wordOf(cell.handle), wordOf(value)}); }
+
+double valueOf(const PropertyRow& row) {
+    const Widget* cell = widgetOf(row.handle);
+    double value = row.text.toDouble();
+    if (cell && cell->kind == Kind::valueEntry)
+        run(Fn::owEnqValueSettingDouble, {wordOf(cell->handle), wordOf(&value)});
+    return value;
+}
+
 // The settings that a call gives a row.
 void takeSettings(PropertyRow& row, const Arguments& call, Widget& list) {
     if (call.given(owPropertyLabel)) row.label = call.keywordText(owPropertyLabel);
@@ -121,7 +136,10 @@ void takeSettings(PropertyRow& row, const Arguments& call, Widget& list) {
         row.text = call.keywordText(owString);
         row.colour.reset();
     }
-    if (call.given(owBackCol)) row.colour = colourOf(call.keyword(owBackCol));
+    if (call.given(owBackCol)) {
+        const int colour = call.keyword(owBackCol);
+        row.colour = colour == 0 ? std::nullopt : std::optional(colourOf(colour)); // 0 shows the text
+    }
     if (call.given(owPropertyStatus)) row.enabled = call.keyword(owPropertyStatus) != OUNSELECTABLE;
     if (call.given(owReadOnly)) row.typed = call.keyword(owReadOnly) != OON;
     if (call.given(owHelp)) row.help = call.keywordText(owHelp);
@@ -132,15 +150,13 @@ void takeSettings(PropertyRow& row, const Arguments& call, Widget& list) {
         else
             reportFailure(26, call.keyword(owPropertyWidget));
     }
-    if (!call.given(owPropertyValue)) return;
     Widget* cell = widgetOf(row.handle);
+    if (cell && call.given(owString) && cell->family->setText) cell->family->setText(*cell, row.text);
+    if (!call.given(owPropertyValue)) return;
     const double value = call.keywordReal(owPropertyValue);
-    if (cell && cell->family->takeInfo && cell->family->enquireInfo) {
-        OWIDGET info{};
-        cell->family->enquireInfo(*cell, info);
-        info.value = static_cast<float>(value);
-        cell->family->takeInfo(*cell, info);
-    } else
+    if (cell && cell->kind == Kind::valueEntry)
+        setValue(*cell, value);
+    else
         row.text = QString::number(value);
 }
 
@@ -178,14 +194,6 @@ Word setPropertySetting(const Arguments& call) {
     takeSettings(changed, call, list);
     viewOf(list).setRow(number, std::move(changed));
     return 0;
-}
-
-double valueOf(const PropertyRow& row) {
-    Widget* cell = widgetOf(row.handle);
-    if (!cell || !cell->family->enquireInfo) return row.text.toDouble();
-    OWIDGET info{};
-    cell->family->enquireInfo(*cell, info);
-    return info.value;
 }
 
 Word enqPropertySetting(const Arguments& call) {
