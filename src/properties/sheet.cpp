@@ -181,8 +181,10 @@ void addRow(const WidgetNode& widget, RowId id) {
     ShownRow shown{.id = id, .number = 0, .widget = 0, .build = buildOf(widget, row), .content = {}, .seen = {}};
     shown.widget = makeCellWidget(widget, row, contentOf(widget, row));
     const int kind = listKind(shown.build.kind);
+    const bool typed =
+        row.edit && shown.build.kind != Cell::Colour; // a name of an icon may also be typed beside its button
     shown.number = shown.widget ? owAddPropertyToList(sheet.list, kind, row.label, owPropertyWidget, shown.widget, 0)
-                                : owAddPropertyToList(sheet.list, kind, row.label, 0);
+                                : owAddPropertyToList(sheet.list, kind, row.label, owReadOnly, typed ? 0 : 1, 0);
     fillCell(shown, widget);
     sheet.rows.push_back(std::move(shown));
 }
