@@ -5,8 +5,8 @@
 #include "project/tree.h"
 #include "properties/sheet.h"
 #include "shell/commands.h"
-#include "shell/control_windows.h"
 #include "shell/environment.h"
+#include "shell/window_control.h"
 #include "surface/live.h"
 #include "surface/state.h"
 

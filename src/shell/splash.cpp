@@ -2,8 +2,8 @@
 
 #include "menu-c.h"
 #include "platform/environment.h"
-#include "shell/control_windows.h"
 #include "shell/environment.h"
+#include "shell/window_control.h"
 
 static constexpr int PAUSE = 3000; // milliseconds
 static constexpr int SPLASH_END = 19990;

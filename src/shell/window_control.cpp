@@ -1,4 +1,4 @@
-#include "shell/control_windows.h"
+#include "shell/window_control.h"
 
 #include "editing/code_editor.h"
 #include "editing/modes.h"
