@@ -486,7 +486,7 @@ typedef struct OARRAYCELL {
     int backCol, textCol, borderCol, borderType;
     int justify;
     int readOnly;
-    int status;
+    int status;        /* OHIDDEN: the cell can neither be entered nor selected */
     int type;          /* value array: type, field and decimals of the number */
     int field, decimals;
 } OARRAYCELL;

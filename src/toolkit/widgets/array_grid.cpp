@@ -551,14 +551,15 @@ void ArrayGrid::currentChanged(const QModelIndex& current, const QModelIndex& pr
 void ArrayGrid::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
     viewport()->update();
-    if (hooks_.focused) hooks_.focused();
 }
 
 void ArrayGrid::mousePressEvent(QMouseEvent* event) {
     const QModelIndex before = currentIndex();
     QTableView::mousePressEvent(event);
-    // A press on the cell that is current already tells the program all the same.
-    if (before.isValid() && before == currentIndex() && quiet_ == 0 && hooks_.selected)
+    // A press on the cell that is current already, or beside the cells, tells the program all the same.
+    if (quiet_ == 0 && !indexAt(event->pos()).isValid() && hooks_.pressedElsewhere)
+        hooks_.pressedElsewhere();
+    else if (before.isValid() && before == currentIndex() && quiet_ == 0 && hooks_.selected)
         hooks_.selected(before.column() + 1, before.row() + 1);
 }
 

@@ -1,6 +1,7 @@
 // Text and value arrays: a grid of cells with labelled columns and rows, edited in place.
 #pragma once
 
+#include "toolkit/include/menu-c.h"
 #include "toolkit/widgets/panel.h"
 #include "toolkit/widgets/value_format.h"
 
@@ -20,8 +21,9 @@ struct CellLook { // colours: not valid, or line -2, or justify -2: the array's 
     int justify = -2;
     bool readOnly = false;
     bool disabled = false;
-    ValueFormat format; // value arrays
-    int field = 0;      // most characters, 0 any number
+    ValueFormat format;  // value arrays
+    int field = 0;       // most characters, 0 any number
+    OARRAYCELL source{}; // as a program set it
 };
 
 struct ArrayOptions {
@@ -44,7 +46,7 @@ struct ArrayOptions {
 
 struct ArrayHooks { // what a user does
     std::function<void(int column, int row)> committed, selected, changed, doubleClicked;
-    std::function<void()> focused;
+    std::function<void()> pressedElsewhere; // beside the cells
 };
 
 // Label number `index` (from 0) of the row of labels that the text describes.
@@ -58,6 +60,7 @@ public:
     ~ArrayGrid() override;
 
     const ArrayOptions& options() const { return options_; }
+    void setHooks(const ArrayHooks& hooks) { hooks_ = hooks; }
     void setOptions(const ArrayOptions& options); // columns and rows included
     int columns() const;
     int rows() const;

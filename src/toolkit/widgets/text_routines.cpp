@@ -26,7 +26,8 @@ enum TextPosition { lineOfPosition = 0, bytesBeforeLine = 1, lineLength = 2, las
 // Text settings of widgets that are no text entries: their label or title.
 Word enquireText(const Arguments& call) {
     Widget& widget = *widgetOf(call.integer(0));
-    if (TextEntry* entry = textEntryOf(&widget))
+    TextEntry* entry = widget.kind == Kind::ttyEntry ? nullptr : textEntryOf(&widget); // a TTY tells its last line
+    if (entry)
         giveBytes(call, 1, entry->text(call.keyword(owEntryType) == ORICHEDIT));
     else if (widget.family->text)
         giveBytes(call, 1, toProgram(widget.family->text(widget)));
@@ -38,7 +39,8 @@ Word enquireText(const Arguments& call) {
 Word setText(const Arguments& call) {
     Widget& widget = *widgetOf(call.integer(0));
     const std::string_view text = trimmedBytes(call.bytes(1));
-    if (TextEntry* entry = textEntryOf(&widget))
+    TextEntry* entry = widget.kind == Kind::ttyEntry ? nullptr : textEntryOf(&widget); // a TTY prints it
+    if (entry)
         entry->setText(text, call.keyword(owEntryType) == ORICHEDIT);
     else if (widget.family->setText)
         widget.family->setText(widget, fromProgram(text));

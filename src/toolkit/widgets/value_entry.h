@@ -46,6 +46,7 @@ public:
     ValueEntry(const ValueOptions& options, const ValueHooks& hooks, QWidget* parent);
 
     const ValueOptions& options() const { return options_; }
+    void setHooks(const ValueHooks& hooks) { hooks_ = hooks; }
     void setOptions(const ValueOptions& options);
     QLineEdit* field() const { return line_; }
 
