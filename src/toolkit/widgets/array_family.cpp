@@ -156,6 +156,7 @@ Word create(const Arguments& call, bool values) {
     data->tabAction = call.keyword(owTabAction);
     auto* grid = new ArrayGrid(optionsOf(*data), {}, clientOf(parent));
     Widget& widget = addWidget(Kind::array, arrays, parent, grid);
+    if (widget.handle == 0) return 0; // no handle was left
     widget.data = std::move(data);
     grid->setHooks(hooksOf(widget.handle));
     return finishCreation(widget, call);

@@ -4,12 +4,11 @@
 #include "toolkit/widgets/icons.h"
 
 #include <QFocusEvent>
-#include <QMouseEvent>
 
 namespace orba {
 namespace {
 
-// Focus and double click of a button, which QAbstractButton has no signals for.
+// Focus of a button, which QAbstractButton has no signal for.
 class ButtonWatch : public QObject {
 public:
     ButtonWatch(QAbstractButton* button, int handle) : QObject(button), handle_(handle) {
@@ -20,8 +19,6 @@ public:
             const auto reason = static_cast<QFocusEvent*>(event)->reason();
             if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) post(handle_, Slot::select, 1);
         }
-        if (event->type() == QEvent::MouseButtonDblClick)
-            post(handle_, Slot::doubleClick, 0, static_cast<QMouseEvent*>(event)->position());
         return QObject::eventFilter(watched, event);
     }
 
@@ -115,6 +112,7 @@ Word createPushButton(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* button = new PushButton(clientOf(parent));
     Widget& widget = addWidget(Kind::pushButton, pushButtons, parent, button);
+    if (widget.handle == 0) return 0; // no handle was left
     auto data = std::make_unique<ButtonData>();
     data->label = call.text(5);
     data->on = call.keyword(owOnCol);
@@ -219,6 +217,7 @@ Word createToggle(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* toggle = new ToggleButton(clientOf(parent));
     Widget& widget = addWidget(Kind::toggle, toggles, parent, toggle);
+    if (widget.handle == 0) return 0; // no handle was left
     auto data = std::make_unique<ToggleData>();
     data->label = call.text(5);
     data->on = call.keyword(owOnCol);
@@ -331,6 +330,7 @@ Word createIcon(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* icon = new IconButton(clientOf(parent));
     Widget& widget = addWidget(Kind::icon, iconWidgets, parent, icon);
+    if (widget.handle == 0) return 0; // no handle was left
     auto data = std::make_unique<IconData>();
     data->file = call.text(5);
     data->format = call.integer(6);

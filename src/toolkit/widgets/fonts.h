@@ -1,23 +1,23 @@
-// Font names of programs and the fonts of this desktop.
+// Faces of fonts by the names that programs use.
 #pragma once
 
+#include "toolkit/widgets/core.h"
+
 #include <QFont>
-#include <QString>
 #include <QStringList>
 
 namespace orba {
 
-// The family names to look for, best first: the name itself, so that it can be told again, then what stands for it
-// here. "MS Sans Serif" and its kin are the desktop's own font, "Courier New" and its kin the nearest font of fixed
-// pitch.
-QStringList fontFamilies(const QString& face);
+// The name itself, so that it can be told again, and what stands for it on this desktop.
+inline QStringList fontFamilies(const QString& face) {
+    const QString own = fontFor(face, 0).family();
+    return own.compare(face, Qt::CaseInsensitive) == 0 ? QStringList{face} : QStringList{face, own};
+}
 
 // The name that the program asked for, or that of the font in use.
-QString requestedFace(const QFont& font);
-
-QFont namedFont(const QString& face, double points);
-
-// Faces that a font list offers, sorted.
-QStringList availableFaces();
+inline QString requestedFace(const QFont& font) {
+    const QStringList families = font.families();
+    return families.isEmpty() ? font.family() : families.first();
+}
 
 } // namespace orba

@@ -68,6 +68,39 @@ struct TextProperty {
 };
 constexpr TextProperty textProperties[] = {{82, &PanelData::title}, {64, &PanelData::image}};
 
+// The title has a font of its own, which the widgets in the panel do not inherit.
+bool getFontProperty(Widget& widget, int property, Value& value) {
+    const QFont font = panelOf(widget).look().titleFont;
+    switch (property) {
+    case 45: value.integer = font.bold(); return true;
+    case 65: value.integer = font.italic(); return true;
+    case 79: value.integer = font.strikeOut(); return true;
+    case 84: value.integer = font.underline(); return true;
+    default: return false;
+    }
+}
+
+bool setFontProperty(Widget& widget, int property, const Value& value) {
+    PanelLook look = panelOf(widget).look();
+    QFont& font = look.titleFont;
+    switch (property) {
+    case 45: font.setBold(value.integer != 0); break;
+    case 65: font.setItalic(value.integer != 0); break;
+    case 79: font.setStrikeOut(value.integer != 0); break;
+    case 84: font.setUnderline(value.integer != 0); break;
+    case 53: widget.fontFace = value.text; break;
+    case 72: widget.pointSize = value.integer > 0 ? std::min(value.integer, 400) : 10; break;
+    default: return false;
+    }
+    if (property == 53 || property == 72) {
+        const QFont face = fontFor(widget.fontFace, widget.pointSize);
+        font.setFamilies(face.families());
+        font.setPointSizeF(face.pointSizeF());
+    }
+    panelOf(widget).setLook(look);
+    return true;
+}
+
 bool getPanelProperty(Widget& widget, int property, Value& value) {
     PanelData& data = dataOf<PanelData>(widget);
     for (const TextProperty& row : textProperties)
@@ -75,7 +108,7 @@ bool getPanelProperty(Widget& widget, int property, Value& value) {
             value.text = data.*row.field;
             return true;
         }
-    return getInteger(properties, data, property, value);
+    return getInteger(properties, data, property, value) || getFontProperty(widget, property, value);
 }
 
 bool setPanelProperty(Widget& widget, int property, const Value& value) {
@@ -89,7 +122,7 @@ bool setPanelProperty(Widget& widget, int property, const Value& value) {
     for (const TextProperty& row : textProperties)
         if (row.number == property) data.*row.field = value.text, known = true;
     if (known) showPanel(widget);
-    return known;
+    return known || setFontProperty(widget, property, value);
 }
 
 QString titleOf(Widget& widget) { return dataOf<PanelData>(widget).title; }
@@ -139,10 +172,7 @@ public:
             if (mouse->button() == Qt::LeftButton) post(handle_, Slot::general, 0, place(watched, mouse));
             break;
         case QEvent::MouseButtonDblClick:
-            if (mouse->button() == Qt::LeftButton) {
-                post(handle_, Slot::select, 1, place(watched, mouse));
-                post(handle_, Slot::doubleClick, 0, place(watched, mouse));
-            }
+            if (mouse->button() == Qt::LeftButton) post(handle_, Slot::select, 1, place(watched, mouse));
             break;
         default: break;
         }
@@ -176,6 +206,7 @@ Word create(const Arguments& call, Kind kind, const Family& family) {
     auto* panel = new Panel(clientOf(parent));
     panel->setLook(lookOf(*data, QApplication::font()));
     Widget& widget = addWidget(kind, family, parent, panel);
+    if (widget.handle == 0) return 0; // no handle was left
     widget.client = panel->content();
     widget.data = std::move(data);
     if (isPage(widget)) {

@@ -107,6 +107,7 @@ Word createSlider(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* slider = new Slider(clientOf(parent));
     Widget& widget = addWidget(Kind::slider, sliders, parent, slider);
+    if (widget.handle == 0) return 0; // no handle was left
     auto data = std::make_unique<SliderData>();
     data->minimum = call.real(5);
     data->maximum = call.real(6);
@@ -153,6 +154,7 @@ Word createSpinner(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* spinner = new Spinner(clientOf(parent));
     Widget& widget = addWidget(Kind::spinner, spinners, parent, spinner);
+    if (widget.handle == 0) return 0; // no handle was left
     auto data = std::make_unique<SpinnerData>();
     data->buddy = call.keyword(owBuddy);
     data->step = call.keyword(owStep);
@@ -271,6 +273,7 @@ Word createGauge(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* gauge = new Gauge(clientOf(parent));
     Widget& widget = addWidget(Kind::gauge, gauges, parent, gauge);
+    if (widget.handle == 0) return 0; // no handle was left
     auto data = std::make_unique<GaugeData>();
     data->icon = call.text(5);
     data->minimum = call.keyword(owMinimum);
@@ -339,6 +342,7 @@ const Family progressBars{
 Word createProgress(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     Widget& widget = addWidget(Kind::progressBar, progressBars, parent, new ProgressBar(clientOf(parent)));
+    if (widget.handle == 0) return 0; // no handle was left
     auto data = std::make_unique<ProgressData>();
     data->type = call.keyword(owProgressType);
     data->minimum = call.keyword(owMinimum);

@@ -134,7 +134,7 @@ void TextEntry::makeEdit() {
 
 void TextEntry::showOptions() {
     const bool editable = !options_.label && !options_.readOnly;
-    field()->setFocusPolicy(options_.label ? Qt::NoFocus : Qt::StrongFocus);
+    field()->setFocusPolicy(options_.label ? Qt::NoFocus : options_.tabStop ? Qt::StrongFocus : Qt::ClickFocus);
     if (line_) {
         line_->setEchoMode(options_.kind == TextKind::Security ? QLineEdit::Password : QLineEdit::Normal);
         line_->setReadOnly(!editable);
@@ -345,9 +345,6 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::MouseButtonRelease:
         if (watched == pointed) mouseReleased(static_cast<QMouseEvent*>(event));
-        break;
-    case QEvent::MouseButtonDblClick:
-        if (watched == pointed && hooks_.doubleClicked) hooks_.doubleClicked();
         break;
     default: break;
     }

@@ -27,6 +27,7 @@ struct TextOptions {
     TextKind kind = TextKind::Standard;
     bool label = false; // display only: no caret, no focus
     bool readOnly = false;
+    bool tabStop = true; // Tab comes here
     int limit = 0;    // most bytes a user may enter, 0 any number
     int justify = -1; // -1 left, 0 centre, 1 right
     TextBorder border = TextBorder::Default;
@@ -45,7 +46,6 @@ struct TextHooks {
     std::function<void()> selected;  // the focus came, the caret or the selection moved
     std::function<void()> changed;
     std::function<void(const QString& url)> linked; // a link was pressed
-    std::function<void()> doubleClicked;
     std::function<void()> pressed; // the mouse, before anything else
 };
 

@@ -50,18 +50,69 @@ constexpr IntegerProperty<TextData> properties[] = {
     {30, &TextData::justify},     {40, &TextData::margin},    {51, &TextData::entryType}, {78, &TextData::scroll},
     {117, &TextData::oleInserts}, {125, &TextData::wordWrap}, {129, &TextData::readOnly}, {137, &TextData::autoUrl},
 };
-constexpr int selectedTextProperty = 94;
+constexpr int selectedTextProperty = 94, textColourProperty = 27, tabListProperty = 131;
+
+// Fonts go to the selection of rich text, else to the whole text.
+bool getFontProperty(Widget& widget, int property, Value& value) {
+    const TextFont font = textEntryOf(&widget)->textFont();
+    switch (property) {
+    case 45: value.integer = *font.bold; return true;
+    case 53: value.text = *font.face == QApplication::font().family() ? widget.fontFace : *font.face; return true;
+    case 65: value.integer = *font.italic; return true;
+    case 72: value.integer = int(*font.points + 0.5); return true;
+    case 79: value.integer = *font.strikeout; return true;
+    case 84: value.integer = *font.underline; return true;
+    default: return false;
+    }
+}
+
+bool setFontProperty(Widget& widget, int property, const Value& value) {
+    constexpr int mostPoints = 400;
+    TextFont font;
+    switch (property) {
+    case 45: font.bold = value.integer != 0; break;
+    case 53: font.face = value.text; break;
+    case 65: font.italic = value.integer != 0; break;
+    case 72:
+        if (value.integer < 1) return true;
+        font.points = std::min(value.integer, mostPoints);
+        break;
+    case 79: font.strikeout = value.integer != 0; break;
+    case 84: font.underline = value.integer != 0; break;
+    default: return false;
+    }
+    textEntryOf(&widget)->setTextFont(font);
+    return true;
+}
+
+// The colour of selected rich text is an attribute of its characters.
+bool coloursSelection(Widget& widget) {
+    int start = 0, end = 0;
+    TextEntry& entry = *textEntryOf(&widget);
+    if (entry.rich()) entry.selection(start, end);
+    return start < end;
+}
 
 bool getTextProperty(Widget& widget, int property, Value& value) {
     if (property == selectedTextProperty) {
         value.text = fromProgram(textEntryOf(&widget)->selectedText());
         return true;
     }
-    return getInteger(properties, dataOf<TextData>(widget), property, value);
+    return getInteger(properties, dataOf<TextData>(widget), property, value) ||
+           getFontProperty(widget, property, value);
 }
 
 bool setTextProperty(Widget& widget, int property, const Value& value) {
-    if (!setInteger(properties, dataOf<TextData>(widget), property, value)) return false;
+    if (property == textColourProperty && coloursSelection(widget)) {
+        TextFont font;
+        font.colour = colourOf(value.integer);
+        textEntryOf(&widget)->setTextFont(font);
+        return true;
+    }
+    if (property == tabListProperty)
+        widget.tabList = value.integer;
+    else if (!setInteger(properties, dataOf<TextData>(widget), property, value))
+        return setFontProperty(widget, property, value);
     showTextData(widget);
     return true;
 }
@@ -122,6 +173,7 @@ Word createTextEntry(const Arguments& call) {
     const int height = asked > 0 ? asked : call.keyword(owExpand) ? 2 * singleLinePixels : lineHeight();
     auto* entry = new TextEntry(options, {}, singleLineHeight(), height, clientOf(parent));
     Widget& widget = addWidget(options.label ? Kind::textLabel : Kind::textEntry, textEntries, parent, entry);
+    if (widget.handle == 0) return 0; // no handle was left
     widget.data = std::move(data);
     entry->setHooks(textHooks(widget.handle));
     entry->setText(createdText(call, entry->singleLine()), true);
@@ -141,7 +193,11 @@ TextEntry* textEntryOf(Widget* widget) {
     return dynamic_cast<TextEntry*>(widget->view.data());
 }
 
-void showTextData(Widget& widget) { textEntryOf(&widget)->setOptions(optionsOf(dataOf<TextData>(widget))); }
+void showTextData(Widget& widget) {
+    TextOptions options = optionsOf(dataOf<TextData>(widget));
+    options.tabStop = widget.tabList != OOFF;
+    textEntryOf(&widget)->setOptions(options);
+}
 
 TextHooks textHooks(int handle) {
     TextHooks hooks;
@@ -155,7 +211,6 @@ TextHooks textHooks(int handle) {
     hooks.selected = [handle] { post(handle, Slot::select, 1); };
     hooks.changed = [handle] { post(handle, Slot::change, 1); };
     hooks.linked = [handle](const QString& url) { post(handle, Slot::link, 1, {}, url.left(eventTextLength)); };
-    hooks.doubleClicked = [handle] { post(handle, Slot::doubleClick, 0); };
     return hooks;
 }
 

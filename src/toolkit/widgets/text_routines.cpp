@@ -1,17 +1,12 @@
 // The routines that read and change texts.
 #include "toolkit/widgets/family_support.h"
-#include "toolkit/widgets/fonts.h"
+#include "toolkit/widgets/frame.h"
 #include "toolkit/widgets/program_text.h"
-#include "toolkit/widgets/rtf.h"
 #include "toolkit/widgets/text_family.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QFontMetrics>
-#include <QMimeData>
-#include <QScrollBar>
 #include <cmath>
-#include <cstring>
 
 namespace orba {
 namespace {
@@ -75,9 +70,7 @@ Word extractWord(const Arguments& call) {
 }
 
 Word measureText(const Arguments& call) {
-    QFont font = QApplication::font();
-    if (call.given(owFontFace)) font.setFamilies(fontFamilies(call.keywordText(owFontFace)));
-    if (call.keyword(owPointSize) > 0) font.setPointSize(call.keyword(owPointSize));
+    QFont font = fontFor(call.keywordText(owFontFace), call.keyword(owPointSize));
     font.setBold(call.keyword(owBold) == OON);
     font.setItalic(call.keyword(owItalic) == OON);
     return QFontMetrics(font).horizontalAdvance(fromProgram(call.bytes(0) ? call.bytes(0) : ""));
@@ -149,7 +142,17 @@ Word findText(const Arguments& call) {
 
 // ---------------------------------------------------------------------------------------- undo and clipboard
 
+// These stand for the user's own keys: what they change is reported as if the user had pressed them.
+struct UserAction {
+    UserAction() : depth(std::exchange(session.programDepth, 0)) {}
+    ~UserAction() { session.programDepth = depth; }
+    UserAction(const UserAction&) = delete;
+    UserAction& operator=(const UserAction&) = delete;
+    int depth;
+};
+
 Word undoAction(const Arguments& call) {
+    const UserAction user;
     TextEntry& entry = entryOf(call);
     switch (call.integer(1)) {
     case OUNDO: entry.undo(); return entry.canUndo();
@@ -162,6 +165,7 @@ Word undoAction(const Arguments& call) {
 }
 
 Word clipboardAction(const Arguments& call) {
+    const UserAction user;
     TextEntry& entry = entryOf(call);
     switch (call.integer(1)) {
     case OCUT: entry.cut(); break;
@@ -171,12 +175,6 @@ Word clipboardAction(const Arguments& call) {
     default: break;
     }
     return 0;
-}
-
-Word enquireClipboard(const Arguments& call) {
-    if (call.integer(0) != OPLAINTEXT) return 0;
-    const QMimeData* data = QApplication::clipboard()->mimeData();
-    return data && data->hasText() ? 1 : 0;
 }
 
 // ------------------------------------------------------------------------------------------------ paragraphs
@@ -262,7 +260,6 @@ const Registration registration({
     {Fn::owFindText, findText},
     {Fn::owTextUndoAction, undoAction},
     {Fn::owCopyTextToClipboard, clipboardAction},
-    {Fn::owEnqClipboardStatus, enquireClipboard},
     {Fn::owSetParagraphProp, setParagraph},
     {Fn::owEnqParagraphProp, enquireParagraph},
     {Fn::owAddParagraphTabstop, addTabstop},

@@ -236,6 +236,7 @@ Word createTtyEntry(const Arguments& call) {
     data->text = call.keyword(owTextCol);
     auto* roll = new TtyRoll(optionsOf(*data), clientOf(parent));
     Widget& widget = addWidget(Kind::ttyEntry, ttyEntries, parent, roll);
+    if (widget.handle == 0) return 0; // no handle was left
     widget.data = std::move(data);
     roll->setLines(call.integer(5));
     roll->setPrompt(call.keywordText(owPrompt));

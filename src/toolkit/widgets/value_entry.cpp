@@ -50,7 +50,7 @@ void ValueEntry::setOptions(const ValueOptions& options) {
 void ValueEntry::showOptions() {
     const bool editable = !options_.label && !options_.readOnly;
     line_->setReadOnly(!editable);
-    line_->setFocusPolicy(options_.label ? Qt::NoFocus : Qt::StrongFocus);
+    line_->setFocusPolicy(options_.label ? Qt::NoFocus : options_.tabStop ? Qt::StrongFocus : Qt::ClickFocus);
     setFocusProxy(options_.label ? nullptr : line_);
     line_->setContextMenuPolicy(options_.label ? Qt::NoContextMenu : Qt::DefaultContextMenu);
     if (options_.label) line_->setCursor(Qt::ArrowCursor);
@@ -226,9 +226,6 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
         if (hooks_.pressed) hooks_.pressed();
         if (options_.label && hooks_.selected) hooks_.selected();
-        break;
-    case QEvent::MouseButtonDblClick:
-        if (hooks_.doubleClicked) hooks_.doubleClicked();
         break;
     default: break;
     }

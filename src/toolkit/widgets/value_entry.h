@@ -18,6 +18,7 @@ struct ValueOptions {
     int field = 0; // most characters while editing; 0 any number
     bool label = false;
     bool readOnly = false;
+    bool tabStop = true; // Tab comes here
     bool anyCharacter = false; // letters may be typed, too; what is no number is refused at the end
     bool thousands = false;    // groups of three at rest, decimal types only
     std::optional<double> minimum, maximum;
@@ -37,7 +38,6 @@ struct ValueHooks {
     std::function<void(ValueError)> refused; // the entry is back at its last value
     std::function<void()> selected;          // the focus came; a label was pressed
     std::function<void()> changed;           // each key
-    std::function<void()> doubleClicked;
     std::function<void()> pressed;
 };
 

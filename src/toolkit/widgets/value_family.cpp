@@ -54,7 +54,11 @@ ValueOptions optionsOf(const ValueData& data) {
     return options;
 }
 
-void showValueData(Widget& widget) { entryOf(widget).setOptions(optionsOf(dataOf<ValueData>(widget))); }
+void showValueData(Widget& widget) {
+    ValueOptions options = optionsOf(dataOf<ValueData>(widget));
+    options.tabStop = widget.tabList != OOFF;
+    entryOf(widget).setOptions(options);
+}
 
 constexpr IntegerProperty<ValueData> properties[] = {
     {20, &ValueData::border},  {25, &ValueData::back1},   {26, &ValueData::back2},
@@ -71,7 +75,7 @@ struct TextProperty {
     QString ValueData::*field;
 };
 constexpr TextProperty textProperties[] = {{75, &ValueData::prefix}, {74, &ValueData::postfix}};
-constexpr int valueProperty = 103;
+constexpr int valueProperty = 103, tabListProperty = 131;
 
 bool getValueProperty(Widget& widget, int property, Value& value) {
     ValueData& data = dataOf<ValueData>(widget);
@@ -100,6 +104,7 @@ bool setValueProperty(Widget& widget, int property, const Value& value) {
         return true;
     }
     bool known = setInteger(properties, data, property, value);
+    if (property == tabListProperty) widget.tabList = value.integer, known = true;
     for (const RealProperty& row : realProperties)
         if (row.number == property) data.*row.field = value.real, known = true;
     for (const TextProperty& row : textProperties)
@@ -157,7 +162,6 @@ ValueHooks hooksOf(int handle, bool label) {
     hooks.refused = [handle](ValueError error) { post(handle, Slot::valueError, int(error)); };
     hooks.selected = [handle] { post(handle, Slot::select, 1); };
     hooks.changed = [handle] { post(handle, Slot::change, 1); };
-    hooks.doubleClicked = [handle] { post(handle, Slot::doubleClick); };
     if (label) hooks.pressed = [handle, shown] { post(handle, Slot::general, 0, {}, shown()); };
     return hooks;
 }
@@ -186,6 +190,7 @@ Word createValueEntry(const Arguments& call) {
     auto* entry = new ValueEntry(optionsOf(*data), {}, clientOf(parent));
     const bool label = data->display != OEDIT;
     Widget& widget = addWidget(Kind::valueEntry, valueEntries, parent, entry);
+    if (widget.handle == 0) return 0; // no handle was left
     widget.data = std::move(data);
     entry->setHooks(hooksOf(widget.handle, label));
     entry->setValue(call.given(owRealValue) ? call.keywordReal(owRealValue) : call.real(5));
