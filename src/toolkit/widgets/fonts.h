@@ -1,23 +1,23 @@
-// Faces of fonts by the names that programs use.
+// Font names of programs and the fonts of this desktop.
 #pragma once
 
-#include "toolkit/widgets/core.h"
-
 #include <QFont>
+#include <QString>
 #include <QStringList>
 
 namespace orba {
 
-// The name itself, so that it can be told again, and what stands for it on this desktop.
-inline QStringList fontFamilies(const QString& face) {
-    const QString own = fontFor(face, 0).family();
-    return own.compare(face, Qt::CaseInsensitive) == 0 ? QStringList{face} : QStringList{face, own};
-}
+// The family names to look for, best first: the name itself, so that it can be told again, then what stands for it
+// here. "MS Sans Serif" and its kin are the desktop's own font, "Courier New" and its kin the nearest font of fixed
+// pitch.
+QStringList fontFamilies(const QString& face);
 
 // The name that the program asked for, or that of the font in use.
-inline QString requestedFace(const QFont& font) {
-    const QStringList families = font.families();
-    return families.isEmpty() ? font.family() : families.first();
-}
+QString requestedFace(const QFont& font);
+
+QFont namedFont(const QString& face, double points);
+
+// Faces that a font list offers, sorted.
+QStringList availableFaces();
 
 } // namespace orba
