@@ -1,12 +1,12 @@
 #include "build/commands.h"
 #include "build/driver.h"
+#include "build/execute.h"
 #include "build/log.h"
 #include "build/markers_search.h"
 #include "build/navigation.h"
 #include "build_room.h"
 
 #include "codegen/generate.h"
-#include "platform/environment.h"
 #include "project/code_stores.h"
 #include "project/tree.h"
 
@@ -116,6 +116,11 @@ struct NavigationTest : BuildRoom, testing::WithParamInterface<int> {
     void fillAll() {
         for (const Place& place : PLACES) store(place) = good(place);
     }
+    static bool toolkitBuilt() {
+        ToolkitPlaces toolkit = toolkitPlaces("");
+        return !toolkit.moduleDirs.empty() && std::filesystem::exists(toolkit.moduleDirs[0] + "/menu_f77.mod") &&
+               std::filesystem::exists(toolkit.libraryDirs[0] + "/liborbawidg.so") && toolkit.fortranDouble;
+    }
     void generate() {
         project.sourceStale = 1;
         buildHooks.generateSource();
@@ -131,8 +136,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, NavigationTest, testing::Values(90, 77, 99),
 
 // A real build of each: the errors of real compilers lead to the user's own lines.
 TEST_P(NavigationTest, PlantedErrorsLeadToTheirOwnLineAndColumn) {
-    folders.installDir = ORBA_BINARY_DIR;
-    if (!std::filesystem::exists(ORBA_BINARY_DIR "/include/orbawidg/menu_f77.mod")) GTEST_SKIP() << "built without Qt";
+    if (!toolkitBuilt()) GTEST_SKIP() << "the toolkit is not built here";
     fillAll();
     for (const Place& place : PLACES) {
         std::string what = std::to_string(static_cast<int>(place.place)) + " " + std::to_string(place.index) + " " +
@@ -147,6 +151,27 @@ TEST_P(NavigationTest, PlantedErrorsLeadToTheirOwnLineAndColumn) {
         EXPECT_EQ(notes.shown[0].column, column) << what << testing::PrintToString(notes.list);
         EXPECT_TRUE(buildSourceMapped());
         store(place) = good(place);
+    }
+}
+
+TEST_P(NavigationTest, AProgramIsBuiltStartedAndAborted) {
+    if (!toolkitBuilt()) GTEST_SKIP() << "the toolkit is not built here";
+    for (const Place& place : PLACES) {
+        if (std::string(place.widget).empty()) store(place) = good(place);
+    }
+    for (const char* switches : {"", " -fdefault-real-8 -fdefault-double-8"}) {
+        project.compilerSwitches = GetParam() == 99 ? "-O1" : switches;
+        project.customSwitches = 1;
+        notes = {};
+        generate();
+        compileCommand(false);
+        ASSERT_NE(childProcess.handle, 0) << testing::PrintToString(notes.list);
+        std::uint32_t code = 0;
+        EXPECT_TRUE(waitProcess(childProcess, 500, code));
+        EXPECT_EQ(code, STILL_RUNNING) << exitWords(code);
+        abortCommand();
+        EXPECT_TRUE(nothingLeftRunning());
+        EXPECT_THAT(notes.boxes, testing::IsEmpty());
     }
 }
 
