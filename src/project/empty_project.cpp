@@ -82,7 +82,7 @@ WidgetNode* newForm() {
     ++project.widgetCount;
     linkChild(*form, mainPanelFor(*form));
     appendForm(form);
-    ++project.nextFormNumber;
+    takeNumber(project.nextFormNumber);
     project.nextFormX += project.gridPixelX;
     project.nextFormY += project.gridPixelY;
     return form;

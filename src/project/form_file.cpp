@@ -81,7 +81,8 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
         reportIncomplete(path);
     }
     if (first) *first = forms;
-    return ++project.nextFormNumber;
+    takeNumber(project.nextFormNumber);
+    return project.nextFormNumber;
 }
 
 bool loadFormAlone(const std::string& path) {

@@ -107,7 +107,7 @@ void reportIncomplete(const std::string& path) {
 }
 
 void reportSaveFailed(const FileWriter& writer) {
-    if (writer.file.handle == -1 && writer.buffer.empty()) {
+    if (!writer.buffer) {
         host.errorBox("Error saving file", "File to save to could not be opened or created");
         return;
     }

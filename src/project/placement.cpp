@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
+#include <cstdint>
 #include <initializer_list>
 
 namespace {
@@ -172,8 +172,9 @@ WidgetNode* checkedParent(int tool, WidgetNode* parent) {
     return parent;
 }
 
-int pixelsWide(const WidgetNode& node) { return node.width * (project.gridMode == 1 ? project.gridPixelX : 1); }
-int pixelsHigh(const WidgetNode& node) { return node.height * (project.gridMode == 1 ? project.gridPixelY : 1); }
+float inPixels(int size, int cell) {
+    return static_cast<float>(size) * static_cast<float>(project.gridMode == 1 ? cell : 1);
+}
 
 // A click in a graphics frame comes in the units of its drawing, upward.
 void clickToPixels(const WidgetNode& parent, float& x, float& y) {
@@ -181,8 +182,13 @@ void clickToPixels(const WidgetNode& parent, float& x, float& y) {
     const float unitsWide = parent.xMax - parent.xMin;
     const float unitsHigh = parent.yMax - parent.yMin;
     if (unitsWide == 0 || unitsHigh == 0) return;
-    x = x / unitsWide * static_cast<float>(pixelsWide(parent));
-    y = (unitsHigh - y) / unitsHigh * static_cast<float>(pixelsHigh(parent));
+    x = x / unitsWide * inPixels(parent.width, project.gridPixelX);
+    y = (unitsHigh - y) / unitsHigh * inPixels(parent.height, project.gridPixelY);
+}
+
+int wholePosition(float position) {
+    constexpr float LARGEST = 1e6F;
+    return static_cast<int>(std::clamp(position, -LARGEST, LARGEST));
 }
 
 std::string numbered(const char* pattern, int number) {
@@ -217,9 +223,8 @@ void nameNew(WidgetNode& node) {
     const WidgetTypeRow* row = widgetType(node.type);
     if (!row || row->counter == COUNTER_NONE) return;
     const WidgetNode* form = formOf(&node, project.forms);
-    int& counter = counterOf(node.type);
-    renameNode(node, (form ? form->name : std::string()) + "_" + row->word + std::to_string(counter));
-    ++counter;
+    const int number = takeNumber(counterOf(node.type));
+    renameNode(node, (form ? form->name : std::string()) + "_" + row->word + std::to_string(number));
     ++project.widgetCount;
 }
 
@@ -258,7 +263,7 @@ Placement placeWidget(int tool, WidgetNode* givenParent, float clickX, float cli
     WidgetNode* parent = row ? checkedParent(tool, givenParent) : nullptr;
     if (!parent) return placement;
     clickToPixels(*parent, clickX, clickY);
-    WidgetNode* node = createFromDefaults(row->type, static_cast<int>(clickX), static_cast<int>(clickY));
+    WidgetNode* node = createFromDefaults(row->type, wholePosition(clickX), wholePosition(clickY));
     if (row->text) node->text = numbered(row->text, counterOf(row->type));
     settleByPlatform(*node, givenParent->type == TYPE_RADIO_BOX);
     if (tool == TOOL_RADIO_BUTTON && parent->type == TYPE_PANEL && !parent->child) {
@@ -322,9 +327,12 @@ bool checkPasteParent(WidgetNode* list) {
         left = std::min(left, node->xpos);
         bottom = std::min(bottom, node->ypos);
     }
+    const auto shifted = [](int position, int least) {
+        return static_cast<int>(std::min<std::int64_t>(std::int64_t{position} - least + NEAR_ORIGIN, FAR_AWAY));
+    };
     for (WidgetNode* node = list; node; node = node->next) {
-        node->xpos += NEAR_ORIGIN - left;
-        node->ypos += NEAR_ORIGIN - bottom;
+        node->xpos = shifted(node->xpos, left);
+        node->ypos = shifted(node->ypos, bottom);
     }
     return true;
 }

@@ -294,6 +294,9 @@ template <int N> std::array<int, N> allOnes() {
     return ones;
 }
 
+// The number that a counter gives next; it then stands on the one behind. Files can hold any number.
+inline int takeNumber(int& counter) { return counter < 2147483647 ? counter++ : counter; }
+
 // A table of file names of the build, always with one empty row at its end.
 using FileList = std::vector<std::string>;
 

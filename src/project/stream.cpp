@@ -10,8 +10,7 @@
 
 namespace {
 
-constexpr std::size_t READ_BUFFER = 256 * 1024;
-constexpr std::size_t WRITE_BUFFER = 1024 * 1024;
+constexpr std::size_t BUFFER = 256 * 1024;
 
 struct KeywordRow {
     Keyword keyword;
@@ -30,11 +29,10 @@ constexpr std::array<KeywordRow, 8> keywords = {{
 
 // Moves what is left to the front and fills the buffer up. False when no more bytes came.
 bool refill(FileReader& reader) {
-    std::memmove(reader.buffer.data(), reader.buffer.data() + reader.position, reader.end - reader.position);
+    std::memmove(reader.buffer.get(), reader.buffer.get() + reader.position, reader.end - reader.position);
     reader.end -= reader.position;
     reader.position = 0;
-    const std::size_t got =
-        std::fread(reader.buffer.data() + reader.end, 1, reader.buffer.size() - reader.end, reader.file);
+    const std::size_t got = std::fread(reader.buffer.get() + reader.end, 1, BUFFER - reader.end, reader.file);
     reader.end += got;
     return got > 0;
 }
@@ -49,11 +47,11 @@ std::string_view numberText(const char* slot) {
 
 // Clears the next `bytes` of the buffer and hands them out.
 char* room(FileWriter& writer, std::size_t bytes) {
-    if (writer.used + bytes > writer.buffer.size()) {
-        writeSafeFile(writer.file, writer.buffer.data(), writer.used);
+    if (writer.used + bytes > BUFFER) {
+        writeSafeFile(writer.file, writer.buffer.get(), writer.used);
         writer.used = 0;
     }
-    char* slot = writer.buffer.data() + writer.used;
+    char* slot = writer.buffer.get() + writer.used;
     std::memset(slot, 0, bytes);
     writer.used += bytes;
     return slot;
@@ -82,7 +80,7 @@ bool openReader(FileReader& reader, const std::string& path) {
     reader.file = openForReading(path);
     if (!reader.file) return false;
     std::setvbuf(reader.file, nullptr, _IONBF, 0);
-    reader.buffer.resize(READ_BUFFER);
+    reader.buffer = std::make_unique_for_overwrite<char[]>(BUFFER);
     return true;
 }
 
@@ -105,7 +103,7 @@ const char* take(FileReader& reader, std::size_t bytes) {
         reader.ended = reader.damaged = true;
         return nullptr;
     }
-    const char* slot = reader.buffer.data() + reader.position;
+    const char* slot = reader.buffer.get() + reader.position;
     reader.position += bytes;
     ++reader.fields;
     return slot;
@@ -191,12 +189,12 @@ Keyword readKeyword(FileReader& reader) {
 bool openWriter(FileWriter& writer, const std::string& path) {
     writer.used = 0;
     if (!openSafeFile(writer.file, path)) return false;
-    writer.buffer.resize(WRITE_BUFFER);
+    writer.buffer = std::make_unique_for_overwrite<char[]>(BUFFER);
     return true;
 }
 
 bool closeWriter(FileWriter& writer, bool keepOld) {
-    writeSafeFile(writer.file, writer.buffer.data(), writer.used);
+    writeSafeFile(writer.file, writer.buffer.get(), writer.used);
     writer.used = 0;
     return commitSafeFile(writer.file, keepOld);
 }

@@ -6,8 +6,8 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <string>
-#include <vector>
 
 enum Keyword { KEY_NONE, KEY_CHILD, KEY_NEXT, KEY_MENU, KEY_LIST, KEY_ARRAY, KEY_STABAR, KEY_END, KEY_ENDFIL };
 
@@ -15,7 +15,7 @@ enum Keyword { KEY_NONE, KEY_CHILD, KEY_NEXT, KEY_MENU, KEY_LIST, KEY_ARRAY, KEY
 // is set, and nothing more is read.
 struct FileReader {
     std::FILE* file = nullptr;
-    std::vector<char> buffer;
+    std::unique_ptr<char[]> buffer;
     std::size_t position = 0;
     std::size_t end = 0;
     std::uint64_t fields = 0; // read so far
@@ -39,7 +39,7 @@ Keyword readKeyword(FileReader& reader);
 // Writes through a buffer into a file that takes its name only when it is complete.
 struct FileWriter {
     SafeFile file;
-    std::vector<char> buffer;
+    std::unique_ptr<char[]> buffer; // null until the file is open
     std::size_t used = 0;
 };
 
