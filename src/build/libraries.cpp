@@ -95,7 +95,7 @@ std::string gnuLibraries(const CommandScene& scene) {
     std::string words;
     for (const std::string& folder : scene.toolkit.libraryDirs) {
         std::string path = "\"" + escapedForQuotes(folder) + "\"";
-        words += " -L" + path + " -Xlinker -rpath -Xlinker " + path;
+        words.append(" -L").append(path).append(" -Xlinker -rpath -Xlinker ").append(path);
     }
     if (scene.language != 99) {
         bool dbl = doublePrecision(scene.profile, scene.compilerSwitches) && scene.toolkit.fortranDouble;

@@ -70,17 +70,28 @@ void searchInstallation(const std::string& installDir, ToolkitPlaces& places) {
     }
 }
 
+void noteFortranDouble(ToolkitPlaces& places) {
+    for (const std::string& folder : places.libraryDirs) {
+        if (pathExists(joinPath(folder, "liborbawidg_fd.a"))) places.fortranDouble = true;
+    }
+}
+
 } // namespace
+
+ToolkitPlaces toolkitBelow(const std::string& installDir) {
+    ToolkitPlaces places;
+    if (!installDir.empty()) searchInstallation(installDir, places);
+    noteFortranDouble(places);
+    return places;
+}
 
 ToolkitPlaces toolkitPlaces(const std::string& installDir) {
     ToolkitPlaces places;
     std::string text;
     if (readTextFile(joinPath(folderOf(programPath()), "wdesign.places"), text)) readPlacesFile(text, places);
-    if (places.includeDirs.empty() && places.moduleDirs.empty() && places.libraryDirs.empty() && !installDir.empty()) {
-        searchInstallation(installDir, places);
+    if (places.includeDirs.empty() && places.moduleDirs.empty() && places.libraryDirs.empty()) {
+        return toolkitBelow(installDir);
     }
-    for (const std::string& folder : places.libraryDirs) {
-        if (pathExists(joinPath(folder, "liborbawidg_fd.a"))) places.fortranDouble = true;
-    }
+    noteFortranDouble(places);
     return places;
 }

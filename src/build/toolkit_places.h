@@ -21,3 +21,6 @@ struct ToolkitPlaces {
 //      lib*/orbawidg/finclude, those for double precision in the folder dbl below; the library in lib, lib64 or
 //      lib/<multiarch name>.
 ToolkitPlaces toolkitPlaces(const std::string& installDir);
+
+// The second of them alone.
+ToolkitPlaces toolkitBelow(const std::string& installDir);

@@ -342,13 +342,13 @@ TEST_F(CommandsTest, GnuLines) {
 }
 
 TEST_F(CommandsTest, ToolkitIsFoundBelowTheInstallation) {
-    EXPECT_TRUE(toolkitPlaces(install).includeDirs.empty());
+    EXPECT_TRUE(toolkitBelow(install).includeDirs.empty());
     scratch.write("install/include/orbawidg/menu-c.h", "");
     scratch.write("install/lib/x86_64-linux-gnu/liborbawidg.so", "");
     scratch.write("install/lib/x86_64-linux-gnu/liborbawidg_fd.a", "");
     scratch.write("install/lib/x86_64-linux-gnu/orbawidg/finclude/menu_f90.mod", "");
     scratch.write("install/lib/x86_64-linux-gnu/orbawidg/finclude/dbl/menu_f90.mod", "");
-    ToolkitPlaces places = toolkitPlaces(install);
+    ToolkitPlaces places = toolkitBelow(install);
     EXPECT_THAT(places.includeDirs, testing::ElementsAre(scratch / "install/include/orbawidg"));
     EXPECT_THAT(places.libraryDirs, testing::ElementsAre(scratch / "install/lib/x86_64-linux-gnu"));
     EXPECT_THAT(places.moduleDirs, testing::ElementsAre(scratch / "install/lib/x86_64-linux-gnu/orbawidg/finclude"));
