@@ -40,26 +40,30 @@ ToolBar& barOf(Widget& widget) { return *static_cast<ToolBar*>(widget.view.data(
 
 // ---- The bar
 
-// Hides and shows a child with its place on the bar: the bar keeps a place for a widget that merely hides itself.
+// Hides and shows a child with its place on the bar: the bar keeps a place for a widget that merely hides itself. What
+// the bar's layout hides for a moment is not hidden: only the status of the widget tells.
 class ChildFollower : public QObject {
 public:
-    ChildFollower(QWidget* child, QAction* place) : QObject(place), place_(place) { child->installEventFilter(this); }
+    ChildFollower(const Widget& child, QAction* place) : QObject(place), handle_(child.handle), place_(place) {
+        child.view->installEventFilter(this);
+    }
 
 protected:
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::HideToParent) place_->setVisible(false);
-        if (event->type() == QEvent::ShowToParent) place_->setVisible(true);
+        if (event->type() != QEvent::HideToParent && event->type() != QEvent::ShowToParent) return false;
+        if (const Widget* child = widgetOf(handle_)) place_->setVisible(child->status != OHIDDEN);
         return false;
     }
 
 private:
+    int handle_;
     QAction* place_;
 };
 
 void barChildAdded(Widget& bar, Widget& child) {
     if (!child.view) return;
     QAction* place = barOf(bar).addWidget(child.view);
-    new ChildFollower(child.view, place);
+    new ChildFollower(child, place);
 }
 
 // A widget on a bar keeps the width that the program gave it; its height is the bar's.

@@ -415,6 +415,12 @@ FormWindow* formWindowOf(Widget* widget) {
     return window ? static_cast<FormWindow*>(window->view.data()) : nullptr;
 }
 
+// Gives everything in a window its place now. A window that is not on the screen yet does it only when it is shown.
+static void settleLayout(QWidget& window) {
+    window.layout()->activate();
+    if (!window.isVisible()) window.layout()->setGeometry(window.rect());
+}
+
 void fitWindow(Widget& window) {
     const WindowData& data = dataOfWindow(window);
     auto* view = static_cast<FormWindow*>(window.view.data());
@@ -426,13 +432,13 @@ void fitWindow(Widget& window) {
     }
     // The bars around the client area take what their layout gives them; the second round finds it settled.
     for (int round = 0; round < 2; round++) {
-        if (data.frame && data.frame->layout()) data.frame->layout()->activate();
-        view->layout()->activate();
+        if (data.frame && data.frame->layout()) settleLayout(*data.frame);
+        settleLayout(*view);
         const QSize missing = data.client - areaOf(window)->size();
         if (missing.isNull()) return;
         outer->resize(outer->size() + missing);
     }
-    view->layout()->activate();
+    settleLayout(*view);
 }
 
 void windowBarsChanged(Widget& anyWidget) {
