@@ -315,6 +315,7 @@ void ArrayGrid::showOptions() {
                                       : QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                                             QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
     setTabKeyNavigation(options_.tabAction != 0);
+    // The frame keeps room for the boundary, which is drawn in event().
     setFrameStyle(options_.boundary == Boundary::None ? int(QFrame::NoFrame) : int(QFrame::Box) | int(QFrame::Plain));
     setLineWidth(std::max(1, boundaryWidth(options_.boundary)));
     QPalette colours = palette();
@@ -503,6 +504,13 @@ bool ArrayGrid::moveCell(int steps) {
 
 // Past QAbstractItemView, which would hand the key back to keyPressEvent.
 void ArrayGrid::leave(bool forward) { QAbstractScrollArea::focusNextPrevChild(forward); }
+
+bool ArrayGrid::event(QEvent* event) {
+    if (event->type() != QEvent::Paint) return QTableView::event(event);
+    QPainter painter(this);
+    drawBoundary(painter, rect(), options_.boundary, palette().color(QPalette::WindowText), palette());
+    return true;
+}
 
 void ArrayGrid::keyPressEvent(QKeyEvent* event) {
     const bool tab = event->key() == Qt::Key_Tab, backTab = event->key() == Qt::Key_Backtab;
