@@ -47,12 +47,14 @@ bool isSettling(const Widget& window) {
 
 QWidget* areaOf(const Widget& window) { return static_cast<QMainWindow*>(window.view.data())->centralWidget(); }
 
+// An owned window is a dialogue to the window manager, whatever is in its title bar: it stays above its owner.
 Qt::WindowFlags flagsOf(int titleFlag, bool owned) {
-    if (titleFlag == OALL) return Qt::Window;
-    if (titleFlag == ONONE) return Qt::Window | Qt::FramelessWindowHint;
-    Qt::WindowFlags flags = titleFlag & OTOOL                                 ? Qt::Tool
-                            : owned && !(titleFlag & (OMAXIMIZE | OMINIMIZE)) ? Qt::Dialog
-                                                                              : Qt::Window;
+    const Qt::WindowFlags kind = owned ? Qt::Dialog : Qt::Window;
+    if (titleFlag == OALL)
+        return kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+               Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+    if (titleFlag == ONONE) return kind | Qt::FramelessWindowHint;
+    Qt::WindowFlags flags = titleFlag & OTOOL ? Qt::Tool : kind;
     flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
     if (titleFlag & (OQUIT | OMAXIMIZE | OMINIMIZE)) flags |= Qt::WindowSystemMenuHint;
     if (titleFlag & OQUIT) flags |= Qt::WindowCloseButtonHint;
