@@ -10,10 +10,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     newForm()->name = "Mine";
     memoryFile("in.wdf", bytes, count);
     WidgetNode* first = nullptr;
+    const int number = project.nextFormNumber;
     if (insertForm(memoryFolder(), "in.wdf", &first) != 0) {
         if (!first || project.forms->next != first) abort();
         if (!saveForms(memoryFolder() + "/out.wdf", first)) abort();
-    } else if (project.forms->next) {
+    } else if (project.nextFormNumber != number || project.forms->next) {
         abort();
     }
     (void)loadFormAlone(memoryFolder() + "/in.wdf");

@@ -118,7 +118,7 @@ bool mendProject() {
     for (WidgetNode* node = project.forms; node;) {
         WidgetNode* following = walkList(node, project.forms);
         const bool misplaced = (node->parent == nullptr) != (node->type == TYPE_FORM);
-        if (misplaced || (node->type != TYPE_MAIN_PANEL && !widgetType(node->type))) {
+        if (misplaced || node->type == TYPE_NONE) {
             // What is below goes with it.
             following = node;
             while (following && !following->next) following = following->parent;

@@ -11,6 +11,10 @@
 // project's unit, handles mean nothing. A file that ends early loads as far as it goes, after a box that says so.
 bool loadProject(const std::string& folder, const std::string& name);
 
+// Makes what was loaded fit to be shown and edited, whatever the file held; see mendProject. Tells the user when that
+// took something away. The designer calls it behind loadProject.
+void mendLoadedProject();
+
 // Writes the project. `quiet` for backups: names and title stay. True on success; else after an error box, with
 // projectModified and any existing file as they were.
 bool saveProject(const std::string& folder, const std::string& name, bool quiet);
@@ -37,7 +41,7 @@ bool chooseSaveFile(const std::string& title, const std::string& extension, bool
                     std::string& name);
 
 // True when the program that was last linked from the project's source is there and unchanged. A source that is gone is
-// forgotten. Runs at the end of a load.
+// forgotten. The designer asks at the end of a load.
 bool executableCurrent();
 
 // Header string of the project's language and platform, as the next save writes it.

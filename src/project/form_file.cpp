@@ -40,6 +40,12 @@ bool snapFits(FileReader& reader) {
            mayDiffer("Form Snap Grid does not match project snap grid|Placement of widgets may be affected");
 }
 
+WidgetNode* lastForm() {
+    WidgetNode* form = project.forms;
+    while (form && form->next) form = form->next;
+    return form;
+}
+
 // Appends the chain; false when its first form has a name that a form of the project has already.
 bool appendForms(WidgetNode* first) {
     if (findForm(project.forms, first->name)) {
@@ -71,15 +77,18 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
     WidgetNode* forms = readRecords(source);
     closeReader(reader);
     if (header.version < VERSION_71) convertOldCode(forms);
+    const WidgetNode* last = lastForm();
     if (!appendForms(forms)) return 0;
     project.widgetCount += source.namedRecords;
     project.formFileName = name;
     project.formFileDir = givenFolder;
     damagedFormFile.clear();
-    if (reader.damaged) {
+    if (mendProject() || reader.damaged) {
         damagedFormFile = path;
         reportIncomplete(path);
     }
+    forms = last ? last->next : project.forms;
+    if (!forms) return 0; // the file held no form
     if (first) *first = forms;
     takeNumber(project.nextFormNumber);
     return project.nextFormNumber;

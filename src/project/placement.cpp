@@ -5,7 +5,7 @@
 #include "project/widget_types.h"
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 #include <cstdint>
 #include <initializer_list>
 
@@ -188,7 +188,7 @@ void clickToPixels(const WidgetNode& parent, float& x, float& y) {
 
 int wholePosition(float position) {
     constexpr float LARGEST = 1e6F;
-    return static_cast<int>(std::clamp(position, -LARGEST, LARGEST));
+    return std::isfinite(position) ? static_cast<int>(std::clamp(position, -LARGEST, LARGEST)) : 0;
 }
 
 std::string numbered(const char* pattern, int number) {

@@ -283,13 +283,18 @@ bool loadProject(const std::string& folder, const std::string& givenName) {
     project.projectTitle = titleOf(name);
     project.projectModified = changed ? 1 : 0;
     project.storedSource = project.sourceName.empty() ? "" : joinPath(project.sourceDir, project.sourceName);
-    executableCurrent();
     host.busyCursor(false);
     if (reader.damaged) {
         project.damagedFile = path;
         reportIncomplete(path);
     }
     return true;
+}
+
+void mendLoadedProject() {
+    if (!mendProject() || !project.damagedFile.empty()) return;
+    project.damagedFile = joinPath(project.projectDir, project.projectName);
+    reportIncomplete(project.damagedFile);
 }
 
 bool saveProject(const std::string& folder, const std::string& name, bool quiet) {

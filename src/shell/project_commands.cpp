@@ -111,6 +111,7 @@ static void showForms(WidgetNode* selected) {
 
 bool openProjectFile(const std::string& folder, const std::string& name) {
     if (!loadProject(folder, name)) return false;
+    mendLoadedProject();
     adoptProjectSettings();
     showForms(findSelected(project.forms));
     addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));

@@ -214,4 +214,27 @@ TEST_F(DamagedFile, TheFirstSaveOverItKeepsItBeside) {
     EXPECT_NE(readBytes(folder.file("bad.wdp")), first);
 }
 
+TEST_F(DamagedFile, MendingTakesAwayWhatCannotBeShown) {
+    WidgetNode* form = freshProject();
+    addRecord(form->child, TYPE_BUTTON, "Form1_Button1");
+    WidgetNode* panel = addRecord(form->child, TYPE_PANEL, "Form1_Panel1");
+    addRecord(panel, TYPE_NONE, "Form1_None");
+    addRecord(panel, 2044, "Form1_Strange");
+    addRecord(form->child, TYPE_FORM, "Form1_Inner");
+    addRecord(form->child, TYPE_SLIDER, "Form1_Slider1");
+    addRecord(nullptr, TYPE_BUTTON, "Loose");
+    addRecord(nullptr, TYPE_FORM, "Form2");
+    writeBytes(folder.file("bad.wdp"), projectBytes());
+    BoxScript boxes;
+    ASSERT_TRUE(loadProject(folder.path, "bad.wdp")) << "read as it stands";
+    EXPECT_EQ(countRecords(), 10);
+    boxes.expect(incompleteBox(folder.file("bad.wdp")));
+    mendLoadedProject();
+    std::string names;
+    for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms)) names += n->name + " ";
+    EXPECT_EQ(names,
+              "Form1 Form1_MainPanel Form1_Button1 Form1_Panel1 Form1_Strange Form1_Slider1 Form2 Form2_MainPanel ");
+    mendLoadedProject();
+}
+
 } // namespace

@@ -258,7 +258,9 @@ TEST_P(OldVersion, CompileDataBecomesTables) {
     EXPECT_EQ(project.compilerSwitches, since<std::string>(20, "-O", ""));
     EXPECT_EQ(project.linkerSwitches, since<std::string>(30, "-s", ""));
     EXPECT_EQ(project.exeTime, since<std::int64_t>(40, -5, 0));
-    EXPECT_EQ(project.sourceStale, 1) << "the source of the fixture is not there";
+    EXPECT_EQ(project.sourceDir, since<std::string>(30, "/src", ""));
+    EXPECT_EQ(project.sourceName, since<std::string>(40, "main.f90", ""));
+    EXPECT_EQ(project.sourceStale, since(40, 0, 1));
 }
 
 TEST_P(OldVersion, PlatformAndLanguageComeFromTheHeader) {

@@ -34,7 +34,6 @@ TEST(ProjectFile, RandomProjectsOfEveryTypeAreWrittenFieldByFieldAndComeBackEqua
         EXPECT_EQ(project.projectModified, 0);
         EXPECT_EQ(project.projectName, "some.wdp");
         EXPECT_EQ(project.projectTitle, "some");
-        // The source of the random project is not there, so it is forgotten; nothing else may differ.
         ASSERT_EQ(byteDifference(expectedBytes(), wanted), "") << "round " << round;
         ASSERT_TRUE(saveProject(folder.path, "again.wdp", true));
         ASSERT_EQ(byteDifference(readBytes(folder.file("again.wdp")), wanted), "") << "round " << round;
@@ -264,6 +263,8 @@ TEST(ProjectFile, ExecutableIsCurrentOnlyWithItsSourceAndItsTime) {
     EXPECT_EQ(project.sourceStale, 0);
     std::remove(folder.file("prog.f90").c_str());
     ASSERT_TRUE(loadProject(folder.path, "exe.wdp"));
+    EXPECT_EQ(project.sourceName, "prog.f90") << "loading alone forgets nothing";
+    EXPECT_FALSE(executableCurrent());
     EXPECT_EQ(project.sourceName, "");
     EXPECT_EQ(project.sourceDir, "");
     EXPECT_EQ(project.sourceStale, 1);

@@ -227,6 +227,8 @@ void randomProject(std::mt19937& random, int forms, int widgets) {
         project.sourceFileTimes.push_back(std::int64_t{maker.number(-99999, 99999)} * 123456789012LL);
     project.exeTime = 132223104000000000LL + maker.number(0, 99999);
     project.sourceStale = maker.number(0, 1);
+    project.sourceDir = maker.text(40);
+    project.sourceName = maker.text(20);
     for (CodeBlock& block : project.codeBlocks)
         if (maker.chance(70)) block = maker.text(400);
     project.currentBlockName = "Initialization";
