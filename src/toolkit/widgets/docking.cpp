@@ -188,6 +188,7 @@ void ToolBar::moveEvent(QMoveEvent* event) {
 void BarButton::setPressedLook(bool pressed) {
     setCheckable(pressed);
     setChecked(pressed);
+    update(); // a button that can no longer be pressed does not draw itself anew
 }
 
 void BarButton::setFlat(bool flat) {
