@@ -157,20 +157,20 @@ Word enquirePixels(const Arguments& call) {
     return 0;
 }
 
-// Pixels count upward from the bottom of the frame, as positions in windows do.
+// Pixels count from the top left of the frame, as positions of events do.
 Word enquirePixelPosition(const Arguments& call) {
     const GraphicsFrame* frame = activeFrame();
     const QPointF pixel =
         frame ? Mapping(drawing().view, frame->size()).toPixel({call.real(0), call.real(1)}) : QPointF();
     call.give(2, int(std::lround(pixel.x())));
-    call.give(3, frame ? int(std::lround(frame->height() - pixel.y())) : 0);
+    call.give(3, int(std::lround(pixel.y())));
     return 0;
 }
 
 Word enquirePositionOfPixel(const Arguments& call) {
     const GraphicsFrame* frame = activeFrame();
     const QPointF at = frame ? Mapping(drawing().view, frame->size())
-                                   .toUnits(QPointF(call.integer(0), frame->height() - call.integer(1)))
+                                   .toUnits(QPointF(call.integer(0), call.integer(1)))
                              : QPointF();
     call.give(2, float(at.x()));
     call.give(3, float(at.y()));
