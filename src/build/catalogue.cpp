@@ -308,6 +308,8 @@ void sortVersionNames(std::vector<std::string>& names) {
 int readCompilerCatalogue() {
     compiler = {};
     findCompiler();
+    switchDefaults.compiler = compiler.defaultCompilerSwitches;
+    switchDefaults.linker = compiler.defaultLinkerSwitches;
     project.projectLanguage = compiler.profile == COMPILER_VISUAL_C ? 99 : 90;
     return compiler.profile;
 }

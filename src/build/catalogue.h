@@ -30,7 +30,8 @@ struct CompilerState {
 
 extern CompilerState compiler;
 
-// Fills `compiler` and sets project.projectLanguage (99 for Visual C/C++, else 90). Returns the profile.
+// Fills `compiler` and the switches of new projects, and sets project.projectLanguage (99 for Visual C/C++, else 90).
+// Returns the profile.
 int readCompilerCatalogue();
 
 // Runs the setup batch file and takes PATH, LIB and INCLUDE over into this process. 1 on success, else 0.

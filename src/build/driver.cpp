@@ -7,12 +7,15 @@
 #include "build/log.h"
 #include "build/navigation.h"
 #include "build/run_logged.h"
+#include "codegen/check.h"
 #include "codegen/generate.h"
 #include "platform/environment.h"
 #include "platform/file_times.h"
 #include "platform/paths.h"
 #include "project/host.h"
 #include "project/records.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -112,6 +115,19 @@ void removeOldResults(const Build& build) {
     if (build.gnu) removeFile(build.scene.exe);
 }
 
+// What a compiler is likely to stumble over in generated text, told by form, widget and property ahead of its own
+// words.
+void writeComplaints(const Build& build) {
+    constexpr size_t MOST = 50;
+    std::vector<Complaint> complaints = checkProject();
+    for (size_t i = 0; i < std::min(complaints.size(), MOST); i++) {
+        writeLogFile(build.run.log, "Check: " + complaintLine(complaints[i]) + "\n");
+    }
+    if (complaints.size() > MOST) {
+        writeLogFile(build.run.log, "Check: and " + std::to_string(complaints.size() - MOST) + " more\n");
+    }
+}
+
 // What the compilers themselves may have left unsaid: each failed build must show why in its log.
 void completeLog(Build& build) {
     if (!build.gnu || build.result <= 0) return;
@@ -201,6 +217,7 @@ int buildProject(bool force, int compilerProfile, const std::string& sourcePath,
         return 0;
     }
     removeOldResults(build);
+    writeComplaints(build);
     runSteps(build);
     completeLog(build);
     closeLoggedRun(build.run);

@@ -201,10 +201,6 @@ const char* placeName(const CodeLocation& location) {
     }
 }
 
-void goToError(const std::string& message, int compilerProfile) {
-    showPosition(messagePosition(message, compilerProfile), compilerProfile);
-}
-
 void goToLogEntry(int entry, int compilerProfile) {
     showPosition(logPosition(compilerLog.lines, entry, compilerProfile, source.path), compilerProfile);
 }

@@ -36,6 +36,5 @@ bool buildSourceMapped();
 // statement it is, and otherwise to the end of the code ahead of it.
 CodeLocation findLocation(int line, int column);
 
-// Shows the place of a message, or of an entry of `compilerLog`. Nothing happens when it holds no usable line number.
-void goToError(const std::string& message, int compilerProfile);
+// Shows the place of an entry of `compilerLog`. Nothing happens when it holds no usable line number.
 void goToLogEntry(int entry, int compilerProfile);

@@ -89,9 +89,8 @@ ToolkitPlaces toolkitPlaces(const std::string& installDir) {
     ToolkitPlaces places;
     std::string text;
     if (readTextFile(joinPath(folderOf(programPath()), "wdesign.places"), text)) readPlacesFile(text, places);
-    if (places.includeDirs.empty() && places.moduleDirs.empty() && places.libraryDirs.empty()) {
-        return toolkitBelow(installDir);
-    }
+    bool built = std::any_of(places.libraryDirs.begin(), places.libraryDirs.end(), holdsLibrary);
+    if (!built) return toolkitBelow(installDir);
     noteFortranDouble(places);
     return places;
 }

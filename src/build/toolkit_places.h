@@ -16,7 +16,8 @@ struct ToolkitPlaces {
 // Looks, in this order, at
 //   1. the file "wdesign.places" beside the running program, which a build tree carries: lines "include=DIR",
 //   "module=DIR",
-//      "module_dbl=DIR", "library=DIR", each as often as needed, in the order of the search;
+//      "module_dbl=DIR", "library=DIR", each as often as needed, in the order of the search; passed over while its
+//      library is not built;
 //   2. an installation below `installDir`: include/orbawidg with menu-c.h; the modules there or in
 //      lib*/orbawidg/finclude, those for double precision in the folder dbl below; the library in lib, lib64 or
 //      lib/<multiarch name>.

@@ -61,6 +61,7 @@ BuildRoom::BuildRoom() {
     folders.dataDir = data;
     folders.architectureText = "x86";
     compiler = {};
+    switchDefaults = {};
     compilerLog = {};
 }
 

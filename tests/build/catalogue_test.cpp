@@ -2,6 +2,7 @@
 
 #include "platform/environment.h"
 #include "platform/paths.h"
+#include "project/tree.h"
 
 #include <gmock/gmock.h>
 
@@ -63,6 +64,10 @@ TEST_F(CatalogueTest, TheWordInTheScriptNamesTheCompiler) {
         EXPECT_EQ(compiler.name, row.name) << row.script;
         EXPECT_EQ(compiler.defaultCompilerSwitches, row.compile) << row.script;
         EXPECT_EQ(compiler.defaultLinkerSwitches, row.link) << row.script;
+        resetProject(); // a new project takes the switches of its compiler
+        EXPECT_EQ(project.compilerSwitches, row.compile);
+        EXPECT_EQ(project.linkerSwitches, row.link);
+        EXPECT_EQ(project.customSwitches, *row.compile || *row.link ? 1 : 0);
         EXPECT_EQ(project.projectLanguage, row.language) << row.script;
         EXPECT_THAT(compiler.varsCommand, IsEmpty()) << row.script;
     }

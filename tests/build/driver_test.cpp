@@ -5,6 +5,7 @@
 
 #include "platform/environment.h"
 #include "platform/file_times.h"
+#include "project/tree.h"
 
 #include <gmock/gmock.h>
 
@@ -21,6 +22,7 @@ constexpr char HELLO[] = "program hello\nend program\n";
 struct DriverTest : BuildRoom {
     DriverTest() {
         compiler.profile = COMPILER_GNU;
+        newForm()->formType = FORM_MASTER_SDI; // else there is something to complain of
         scratch.write("install/include/orbawidg/menu-c.h", "");
         scratch.write("install/include/orbawidg/menu_f90.mod", "");
     }
@@ -162,6 +164,19 @@ TEST_F(DriverTest, StaleSourcesAreGeneratedOrTheBuildEnds) {
     buildHooks.generateSource = generate;
 }
 
+TEST_F(DriverTest, WhatTheCompilerWouldRejectStandsAheadOfItsWords) {
+    useFakeCompiler("echo words");
+    useSource("app.f90", HELLO);
+    project.forms->name = "subroutine_1";
+    project.forms->bubbleHelp = "it's";
+    project.forms->child->name = std::string(70, 'x');
+    build();
+    ASSERT_THAT(notes.list, testing::SizeIs(testing::Ge(3U)));
+    EXPECT_THAT(notes.list.front(), testing::StartsWith("Check: subroutine_1: "));
+    EXPECT_THAT(notes.list.back(), "words");
+    EXPECT_TRUE(noted("watch 2000")) << "it is no reason not to build";
+}
+
 TEST_F(DriverTest, MissingCompiler) {
     ScopedVariable none("PATH", (scratch / "bin").c_str());
     useSource("app.f90", HELLO);
@@ -210,19 +225,15 @@ TEST_F(DriverTest, ManyMegabytesOfMessagesFillNoMemoryAndKeepTheError) {
 }
 
 TEST_F(DriverTest, LinesComeWhileTheCompilerRuns) {
-    useProgram("gfortran", "echo first; printf half; sleep 0.3; echo ' line'; exit 1\n");
+    useProgram("gfortran", "echo first; printf half; sleep 0.5; echo ' line'; exit 1\n");
     useSource("app.f90", HELLO);
-    static size_t seenEarly;
-    seenEarly = 0;
+    static bool seenEarly; // the driver's two lines and the compiler's first, while it goes on
+    seenEarly = false;
     auto idle = buildHooks.idle;
-    buildHooks.idle = [] {
-        notes.idles++;
-        seenEarly = notes.fed.size();
-    };
+    buildHooks.idle = [] { seenEarly = seenEarly || notes.fed.size() == 3; };
     build();
     buildHooks.idle = idle;
-    EXPECT_GE(notes.idles, 3);
-    EXPECT_EQ(seenEarly, 3U) << "the two lines of the driver and the compiler's first";
+    EXPECT_TRUE(seenEarly);
     EXPECT_THAT(notes.fed, ElementsAre("Building Project Executable", "Please wait ...", "first", "half line"));
     EXPECT_THAT(notes.list, ElementsAre("first", "half line", "", "wdesign: error: gfortran ended with code 1"));
 }
