@@ -56,7 +56,7 @@ int parentRow(const WidgetNode& node) {
 
 int makeRow(const WidgetNode& node, int parent) {
     const char* name = node.name.c_str();
-    const char* icon = hierarchyIcon(node);
+    const int icon = owGetIconResource(hierarchyIcon(node));
     const RowIcon* row = rowIcon(node.type);
     if (row && row->container)
         return owCreateTreeEntry(parent, OLASTCHILD, name, owCallback, CMD_HIERARCHY_ROW, owIcon, icon, owCloseIcon,

@@ -31,7 +31,9 @@ int levelBelow(const MenuEntryRec& pullDown, const MenuEntryRec* before) {
 }
 
 // Icons of one tree entry: those of the box replace its own.
-const char* iconOf(const std::string& ofBox, const std::string& own) { return (ofBox.empty() ? own : ofBox).c_str(); }
+int iconOf(const std::string& ofBox, const std::string& own) {
+    return owGetIconResource((ofBox.empty() ? own : ofBox).c_str());
+}
 
 int createTreeRow(const WidgetNode& box, const MenuEntryRec& entry, int parent) {
     if (box.subType != ORESOURCEICONS)
@@ -56,9 +58,10 @@ void buildLiveMenu(WidgetNode& form) {
             levels.open(levelBelow(*entry, before), entry->handle);
             break;
         case MENU_ENTRY:
-            entry->handle = owCreateMenuEntry(levels.at(entry->level), entry->label.c_str(), owAccel, entry->accel,
-                                              owHelp, entry->help.c_str(), owUncheckIcon, entry->icon1.c_str(),
-                                              owCheckIcon, entry->icon2.c_str(), owGreyIcon, entry->icon3.c_str(), 0);
+            entry->handle = owCreateMenuEntry(
+                levels.at(entry->level), entry->label.c_str(), owAccel, entry->accel, owHelp, entry->help.c_str(),
+                owUncheckIcon, owGetIconResource(entry->icon1.c_str()), owCheckIcon,
+                owGetIconResource(entry->icon2.c_str()), owGreyIcon, owGetIconResource(entry->icon3.c_str()), 0);
             if (entry->level > 0) {
                 entry->callbackId = entry->handle;
                 owDefineCallback(entry->handle, entry->handle);

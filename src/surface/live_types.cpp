@@ -105,9 +105,9 @@ int createPanel(const WidgetNode& n, int parent) {
     const int boundary = n.type == TYPE_RADIO_BOX ? n.borderType : n.subType;
     const std::string title = titled || (n.parent && n.parent->type == TYPE_TAB_BOX) ? n.text : "";
     return owCreatePanel(parent, BOX(n), owTitle, title.c_str(), owBorderType, boundary, owImage, n.icon.c_str(),
-                         owIcon, n.closeIcon.c_str(), owLineCol, n.colour1, owLineBorder, n.colour2, owFillCol,
-                         n.colour3, owFillBorder, n.colour4, owScrollMode, n.scrollMode, owTabList, n.tabList,
-                         PLACED(n), HELPED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
+                         owIcon, owGetIconResource(n.closeIcon.c_str()), owLineCol, n.colour1, owLineBorder, n.colour2,
+                         owFillCol, n.colour3, owFillBorder, n.colour4, owScrollMode, n.scrollMode, owTabList,
+                         n.tabList, PLACED(n), HELPED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
 }
 
 int createComboBox(const WidgetNode& n, int parent) {
