@@ -35,6 +35,10 @@ int insertForm(const std::string& folder, const std::string& name, WidgetNode** 
 // file's, nothing is asked. False after an error box. For the batch commands.
 bool loadFormAlone(const std::string& path);
 
+// What the file dialogues offer, patterns and captions by turns.
+inline constexpr char PROJECT_FILES[] = "*.wdp|ORBAWIDG Designer project files (*.wdp)|*.*|All Files (*.*)";
+inline constexpr char FORM_FILES[] = "*.wdf|ORBAWIDG Designer form files (*.wdf)|*.*|All Files (*.*)";
+
 // Asks for the name of a file to write. A name without a point gets `extension`. With `askOverwrite` an existing file
 // is asked about, No asks again. False when cancelled.
 bool chooseSaveFile(const std::string& title, const std::string& extension, bool askOverwrite, std::string& folder,

@@ -356,8 +356,7 @@ bool chooseSaveFile(const std::string& title, const std::string& extension, bool
     for (;;) {
         std::string chosenFolder = folder;
         std::string chosen = name;
-        const std::string filter =
-            "*" + extension + "|ORBAWIDG Designer files (*" + extension + ")|*.*|all files (*.*)";
+        const char* filter = extension == ".wdf" ? FORM_FILES : PROJECT_FILES;
         if (!host.fileDialogue(title, filter, true, chosenFolder, chosen) || chosen.empty()) return false;
         if (chosen.find('.') == std::string::npos) chosen += extension;
         const bool refused = askOverwrite && pathExists(joinPath(chosenFolder, chosen)) &&

@@ -55,6 +55,7 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_UNADOPT, .label = "Unadopt Widget|Ctrl+U", .mnemonic = 'U', .key = controlKey('U'), .menuIcon = "unadopt&", .barIcon = "Unadopt", .bubbleHelp = "Unadopt Widget", .handler = unadoptCommand},
     {.id = CMD_CLEAR_CODE, .label = "Clear code", .mnemonic = 'c', .menuIcon = "delete&", .when = WHEN_TEXT_MODE, .handler = clearCodeCommand},
     {.id = CMD_CLEAR_ALL_CODE, .label = "Clear all code", .mnemonic = 'a', .menuIcon = "recycle&", .when = WHEN_TEXT_MODE, .handler = clearAllCodeCommand},
+    {.id = CMD_TEXT_MENU, .label = "Text", .mnemonic = 'T', .when = WHEN_TEXT_MODE, .handler = [] {}},
     {.id = CMD_UPPERCASE, .label = "Uppercase", .mnemonic = 'U', .when = WHEN_TEXT_MODE, .handler = uppercaseCommand},
     {.id = CMD_LOWERCASE, .label = "Lowercase", .mnemonic = 'L', .when = WHEN_TEXT_MODE, .handler = lowercaseCommand},
     // The same entries while the code editor has the input

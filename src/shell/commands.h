@@ -61,6 +61,7 @@ enum ShellCommandId : int {
     CMD_AUTO_BACKUP = 15712,
     CMD_PRINT_ERRORS = 15809,
     CMD_WATCH = 19010,
+    CMD_TEXT_MENU = 19980, // the pull-down entry itself; it sends nothing
 };
 
 // Key codes beside those of the toolkit.

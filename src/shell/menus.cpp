@@ -19,6 +19,7 @@ struct MenuRow {
 };
 
 static constexpr MenuRow menu(const char* label, char mnemonic) { return {ROW_MENU, 0, label, mnemonic}; }
+static constexpr MenuRow menu(int command) { return {ROW_MENU, command}; } // one that is not always enabled
 static constexpr MenuRow item(int command) { return {ROW_COMMAND, command}; }
 static constexpr MenuRow RULE = {ROW_RULE};
 static constexpr MenuRow END = {ROW_END};
@@ -48,7 +49,7 @@ static constexpr MenuRow MENU_BAR_ROWS[] = {
         item(CMD_UNADOPT),
         RULE,
         item(CMD_CLEAR_CODE), item(CMD_CLEAR_ALL_CODE),
-        menu("Text", 'T'),
+        menu(CMD_TEXT_MENU),
             item(CMD_UPPERCASE), item(CMD_LOWERCASE),
         END,
     END,
@@ -124,7 +125,9 @@ static int addEntry(int parent, int id, bool withIcons) {
 }
 
 static int addPullDown(int parent, const MenuRow& row) {
-    const int entry = owCreateMenuEntry(parent, row.label, owAccel, row.mnemonic, 0);
+    const int entry = row.command ? addEntry(parent, row.command, true)
+                                  : owCreateMenuEntry(parent, row.label, owAccel, row.mnemonic, 0);
+    if (row.command) addCommandWidget(row.command, CommandWidget::MenuEntry, entry);
     return owCreatePullDownMenu(entry);
 }
 

@@ -22,9 +22,6 @@
 #include "surface/selection.h"
 #include "surface/state.h"
 
-static const char PROJECT_FILTER[] = "*.wdp|ORBAWIDG Designer project files (*.wdp)|*.*|All Files (*.*)";
-static const char FORM_FILTER[] = "*.wdf|ORBAWIDG Designer form files (*.wdf)|*.*|All Files (*.*)";
-
 // Where the form file dialogues were left; the name is also where Save Form goes.
 static FilePlace formFile;
 
@@ -131,7 +128,7 @@ void openProjectCommand() {
     selectTool(TOOL_SELECTOR);
     if (!saveQuestion("Open New Project", true)) return;
     FilePlace place = {project.projectDir.empty() ? currentFolder() : project.projectDir, ""};
-    if (!host.fileDialogue("Open Project", PROJECT_FILTER, false, place.folder, place.name)) place.name.clear();
+    if (!host.fileDialogue("Open Project", PROJECT_FILES, false, place.folder, place.name)) place.name.clear();
     openChosen(place);
 }
 
@@ -182,7 +179,7 @@ void exitCommand() {
 void insertFormCommand() {
     selectTool(TOOL_SELECTOR);
     FilePlace place = {formFile.folder.empty() ? currentFolder() : formFile.folder, formFile.name};
-    if (!host.fileDialogue("Insert Form", FORM_FILTER, false, place.folder, place.name) || place.name.empty()) return;
+    if (!host.fileDialogue("Insert Form", FORM_FILES, false, place.folder, place.name) || place.name.empty()) return;
     commitEditor();
     dropSelection();
     WidgetNode* first = nullptr;
