@@ -720,7 +720,7 @@ int owExtractWord(int text, int position, char* buffer, int length); /* position
 int owEnqTextLength(const char* string, ...);                   /* pixels; owFontFace, owPointSize, owBold, owItalic */
 int owEnqTextPos(int text, int property, ...);                  /* owPosition; 0 line of a position, 1 characters before
                                                                    a line, 2 length of the line that begins at a
-                                                                   position, 5 last position, 6 length */
+                                                                   position, 5 last position, 6 bytes of the text */
 void owEnqSelectedTextRange(int text, int* start, int* end, ...); /* owLength, owString: the text as well */
 void owSetSelectedTextRange(int text, int start, int end);      /* 1, 0 or 1, -1 all; 0, 0 nothing */
 void owEnqSelectedText(int text, char* buffer, int length);

@@ -381,7 +381,7 @@ void TextEntry::setText(std::string_view text, bool asRtf) {
 std::string TextEntry::text(bool asRtf) const {
     if (line_) return toProgram(line_->text());
     if (asRtf && rich()) return writeRtf(*edit_->document()).toStdString();
-    const std::string& bytes = index().bytes();
+    const std::string bytes = toProgram(index().text());
     if (!rich()) return bytes;
     std::string out;
     out.reserve(bytes.size() + std::size_t(index().lineCount()));
@@ -392,10 +392,7 @@ std::string TextEntry::text(bool asRtf) const {
     return out;
 }
 
-int TextEntry::textLength() const {
-    if (rich() && loadedRich_) return int(writeRtf(*edit_->document()).size());
-    return index().length() + (rich() ? index().lineCount() - 1 : 0);
-}
+int TextEntry::textLength() const { return int(text(loadedRich_).size()); }
 
 void TextEntry::replaceSelection(std::string_view text, bool asRtf) {
     Quiet quiet(*this);
@@ -418,7 +415,7 @@ const TextIndex& TextEntry::index() const {
         if (line_)
             index_.build(line_->text());
         else
-            index_.build(*edit_->document(), rich() ? "\n" : "\r\n");
+            index_.build(*edit_->document(), rich() ? QStringLiteral("\n") : QStringLiteral("\r\n"));
         indexed_ = true;
     }
     return index_;
@@ -443,7 +440,7 @@ int TextEntry::caret() const {
 std::string TextEntry::selectedText() const {
     int start = 0, end = 0;
     selection(start, end);
-    return index().bytes().substr(std::size_t(start - 1), std::size_t(end - start));
+    return toProgram(index().part(start, end));
 }
 
 void TextEntry::select(int start, int end) {
@@ -476,16 +473,13 @@ void TextEntry::scrollToCaret() {
 }
 
 std::string TextEntry::wordAt(int position, int& start) const {
-    const std::string& bytes = index().bytes();
-    auto part = [&](int at) {
-        auto c = static_cast<unsigned char>(bytes[std::size_t(at)]);
-        return c >= 0x80 || std::isalnum(c) || c == '_';
-    };
-    int from = std::clamp(position - 1, 0, int(bytes.size())), to = from;
+    const QString& text = index().text();
+    auto part = [&](int at) { return text[at].isLetterOrNumber() || text[at] == u'_'; };
+    int from = std::clamp(position - 1, 0, int(text.size())), to = from;
     while (from > 0 && part(from - 1)) --from;
-    while (to < int(bytes.size()) && part(to)) ++to;
+    while (to < int(text.size()) && part(to)) ++to;
     start = from < to ? from + 1 : 0;
-    return bytes.substr(std::size_t(from), std::size_t(to - from));
+    return toProgram(QStringView(text).mid(from, to - from));
 }
 
 // ------------------------------------------------------------------------------------------- undo and clipboard

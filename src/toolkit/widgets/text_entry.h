@@ -28,7 +28,7 @@ struct TextOptions {
     bool label = false; // display only: no caret, no focus
     bool readOnly = false;
     bool tabStop = true; // Tab comes here
-    int limit = 0;    // most bytes a user may enter, 0 any number
+    int limit = 0; // most characters a user may enter, 0 any number
     int justify = -1; // -1 left, 0 centre, 1 right
     TextBorder border = TextBorder::Default;
     ScrollMode scroll = ScrollMode::None;
@@ -77,7 +77,7 @@ public:
     std::string text(bool asRtf) const;
     void replaceSelection(std::string_view text, bool asRtf);
 
-    // Positions in bytes from 1, see TextIndex. The caret is where start equals end.
+    // Positions in characters from 1, see TextIndex. The caret is where start equals end.
     const TextIndex& index() const;
     void selection(int& start, int& end) const;
     int caret() const;

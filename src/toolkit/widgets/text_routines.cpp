@@ -53,13 +53,12 @@ Word saveText(const Arguments& call) { return entryOf(call).save(std::string(tri
 // ------------------------------------------------------------------------------------------- parts of a text
 
 Word extractText(const Arguments& call) {
-    const std::string& bytes = entryOf(call).index().bytes();
-    const int length = int(bytes.size());
+    const TextIndex& index = entryOf(call).index();
+    const int length = index.length();
     const int start = std::clamp(call.integer(1), 1, length + 1);
     const int end = call.integer(2) <= 0 ? length + 1 : std::clamp(call.integer(2), start, length + 1);
-    const std::string part = bytes.substr(std::size_t(start - 1), std::size_t(end - start));
-    giveBytes(call, 3, part);
-    return Word(part.size());
+    giveBytes(call, 3, toProgram(index.part(start, end)));
+    return end - start;
 }
 
 Word extractWord(const Arguments& call) {
@@ -136,7 +135,7 @@ Word enquireSelectedText(const Arguments& call) {
 }
 
 Word findText(const Arguments& call) {
-    return entryOf(call).index().find(call.bytes(2) ? call.bytes(2) : "", call.integer(1),
+    return entryOf(call).index().find(fromProgram(call.bytes(2) ? call.bytes(2) : ""), call.integer(1),
                                       call.keyword(owMatchCase) == OON);
 }
 
