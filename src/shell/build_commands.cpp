@@ -24,12 +24,14 @@ static int logList = 0;
 
 // ---- Generating -----------------------------------------------------------------------------------------------
 
-// Asks for the source file, with the project's name as the proposal while there is none.
+// Asks for the source file. While there is none, the project's own name and folder are the proposal.
 static bool askSourceFile() {
-    const bool proposed = project.sourceName.empty();
-    if (proposed) project.sourceName = project.projectTitle;
+    const std::string oldName = project.sourceName, oldFolder = project.sourceDir;
+    if (project.sourceName.empty()) project.sourceName = project.projectTitle;
+    if (project.sourceDir.empty()) project.sourceDir = project.projectDir;
     if (chooseSourceFile()) return true;
-    if (proposed) project.sourceName.clear();
+    project.sourceName = oldName;
+    project.sourceDir = oldFolder;
     return false;
 }
 

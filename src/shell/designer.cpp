@@ -61,7 +61,7 @@ static void buildWindows() {
     selectTool(TOOL_SELECTOR);
     buildControlWindows();
     loadRecentProjects(fileMenu());
-    if (!preferences.delDeletes) setCommandLabel(CMD_DELETE, "Delete Widget");
+    showPreferenceLabels();
 }
 
 static void makeFirstProject() {
