@@ -92,6 +92,7 @@ void writeDispatch(Generation& g) {
     for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
         writeWidgetBranches(g, *node);
         writeEntryBranches(g, *node);
+        passOn(g);
     }
     if (g.branchOpen) g.out += g.language.dispatch.chainEnd;
 }

@@ -128,6 +128,7 @@ void writeFormRoutine(Generation& g, WidgetNode& form) {
         Placed widget{*node, form, onWindow ? form.name : node->parent->name, node->width, node->height};
         if (const WidgetText* text = widgetText(node->type)) applySizing(widget, text->rule);
         writeWidget(g, widget);
+        passOn(g);
     }
 }
 
@@ -141,6 +142,7 @@ void writeIdentifiers(Generation& g, const WidgetNode& form) {
             const bool structure = entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN;
             if (node->type != TYPE_TREE_VIEW || !structure) write(g, g.language.declareEntry, entry->name);
         }
+        passOn(g);
     }
 }
 
@@ -216,10 +218,28 @@ void writeStatementSplit(Generation& g) {
     g.statement.clear();
 }
 
-void pasteCode(Generation& g, PastedCode place, std::string_view code, bool indented) {
+namespace {
+
+constexpr std::size_t PIECE = 1 << 18; // bytes that are passed on at once
+
+void countLines(Generation& g) {
     g.linesCounted +=
         static_cast<int>(std::count(g.out.begin() + static_cast<std::ptrdiff_t>(g.linesCountedTo), g.out.end(), '\n'));
     g.linesCountedTo = g.out.size();
+}
+
+} // namespace
+
+void passOn(Generation& g) {
+    if (!g.sink || g.out.size() < PIECE) return;
+    countLines(g);
+    g.sink(g.out);
+    g.out.clear();
+    g.linesCountedTo = 0;
+}
+
+void pasteCode(Generation& g, PastedCode place, std::string_view code, bool indented) {
+    countLines(g);
     place.firstLine = g.linesCounted + 1;
     place.lines = 1;
     place.indent = indented ? std::max(preferences.globalIndent, 0) : 0;

@@ -98,7 +98,7 @@ const PastedCode* pastedCodeAt(const GeneratedText& generated, int line) {
     return line < place.firstLine + place.lines ? &place : nullptr;
 }
 
-bool generateText(const std::string& path, GeneratedText& generated) {
+bool generateText(const std::string& path, GeneratedText& generated, const TextSink& sink) {
     generated.text.clear();
     generated.map.clear();
     WidgetNode* master = findMaster();
@@ -107,13 +107,18 @@ bool generateText(const std::string& path, GeneratedText& generated) {
 
     const Language& language = languageOf(project.projectLanguage);
     SavedStrings saved = escapeQuotes(project.forms, language.code);
-    Generation g{.language = language, .out = generated.text, .map = generated.map, .base = basePath(path)};
+    Generation g{
+        .language = language, .out = generated.text, .sink = sink, .map = generated.map, .base = basePath(path)};
     g.windows = project.projectPlatform == 'w';
     g.windowCallbacks = anyWindowCallback();
     for (const CreationRow& row : language.creation)
         g.creation[static_cast<std::size_t>(row.type - TYPE_FORM)] = row.write;
     noteOpenedForms(g);
     writeProgram(g);
+    if (sink) {
+        sink(g.out);
+        g.out.clear();
+    }
     restoreQuotes(saved);
     return true;
 }
@@ -150,12 +155,13 @@ bool reportUnwritable() {
 } // namespace
 
 bool generateSource(const std::string& path, const std::string& fileName, GeneratedText* generated) {
-    GeneratedText own;
-    GeneratedText& text = generated != nullptr ? *generated : own;
     SafeFile file;
     if (!openSafeFile(file, path)) return reportUnwritable();
     host.busyCursor(true);
-    if (!generateText(path, text)) {
+    const TextSink toFile = [&](std::string_view piece) { writeSafeFile(file, piece.data(), piece.size()); };
+    GeneratedText own;
+    const bool made = generated != nullptr ? generateText(path, *generated) : generateText(path, own, toFile);
+    if (!made) {
         abandonSafeFile(file);
         host.busyCursor(false);
         host.errorBox("Error during save",
@@ -163,7 +169,7 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
                       "Type of one form to Master, then try again");
         return false;
     }
-    writeSafeFile(file, text.text.data(), text.text.size());
+    if (generated != nullptr) toFile(generated->text);
     const bool written = commitSafeFile(file);
     if (written) {
         if (project.projectTitle.empty()) project.projectTitle = withoutExtension(fileName);

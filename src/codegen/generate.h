@@ -4,6 +4,7 @@
 
 #include "project/records.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,10 +48,14 @@ std::string sourcePath();
 // `path` up to the last "." of its file name: the stem of the resource script and the manifest.
 std::string basePath(std::string_view path);
 
-// The whole source text in memory, for a source file that will stand at `path`. Puts the master form first in the
-// chain and leaves dynamic forms of Fortran 90 with the parent name "Form1"; touches no file. False when the project
-// has no master form: then there is no text and nothing was changed.
-bool generateText(const std::string& path, GeneratedText& generated);
+// Takes the text piece by piece as it is written.
+using TextSink = std::function<void(std::string_view piece)>;
+
+// The whole source text, for a source file that will stand at `path`; with a sink it goes there instead, and
+// generated.text stays empty. Puts the master form first in the chain and leaves dynamic forms of Fortran 90 with the
+// parent name "Form1"; touches no file. False when the project has no master form: then there is no text and nothing
+// was changed.
+bool generateText(const std::string& path, GeneratedText& generated, const TextSink& sink = {});
 
 // Asks for the source file with host.fileDialogue, starting from sourceDir and sourceName, and asks before one is
 // overwritten. True when one was chosen; on cancelling both names are as before.

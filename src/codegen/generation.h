@@ -97,7 +97,8 @@ const Language& languageOf(int code);
 
 struct Generation {
     const Language& language;
-    std::string& out; // the source so far
+    std::string& out;     // the source so far, or what the sink has not taken yet
+    const TextSink& sink; // empty: the whole text stays in `out`
     std::vector<PastedCode>& map;
     std::string base;           // path of the source without its extension
     bool windows = false;       // the platform is Windows
@@ -127,6 +128,7 @@ template <class... Values> void add(Generation& g, std::string_view format, cons
     put(g.statement, format, values...);
 }
 void writeStatementSplit(Generation& g); // and begins the next one
+void passOn(Generation& g);              // a large piece of text to the sink; between two widgets
 
 // Pastes a block with its comment when it holds code.
 void writeBlock(Generation& g, CodeBlockIndex block);

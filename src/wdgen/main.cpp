@@ -59,11 +59,14 @@ std::string ownSource() {
 
 int printSource(const std::string& path) {
     GeneratedText generated;
-    if (!generateText(path, generated)) {
+    bool whole = true;
+    const TextSink toOutput = [&](std::string_view piece) {
+        whole = whole && std::fwrite(piece.data(), 1, piece.size(), stdout) == piece.size();
+    };
+    if (!generateText(path, generated, toOutput)) {
         std::fputs("wdgen: the project has no master form, so there is no program to generate\n", stderr);
         return 1;
     }
-    const bool whole = std::fwrite(generated.text.data(), 1, generated.text.size(), stdout) == generated.text.size();
     if (whole && std::fflush(stdout) == 0) return 0;
     std::fputs("wdgen: the source could not be written to the end\n", stderr);
     return 1;

@@ -238,6 +238,31 @@ TEST_F(Driver, TheMapLeadsFromTheSourceToTheUsersCode) {
     }
 }
 
+// Passing the text on in pieces changes neither the text nor the lines of the map.
+TEST_F(Driver, ASinkGetsTheSameText) {
+    std::string script = "2001 Form1\n  2002\n";
+    for (int i = 0; i < 3000; ++i) {
+        script +=
+            "    2006 T" + std::to_string(i) + "\n    .text " + std::string(200, 'x') + "\n    > Change: one\\ntwo\n";
+    }
+    readProjectScript(script);
+    GeneratedText whole;
+    GeneratedText passed;
+    std::string text;
+    int pieces = 0;
+    ASSERT_TRUE(generateText("prog", whole));
+    ASSERT_TRUE(generateText("prog", passed, [&](std::string_view piece) {
+        text += piece;
+        ++pieces;
+    }));
+    EXPECT_GT(pieces, 3);
+    EXPECT_TRUE(passed.text.empty());
+    const auto body = [](const std::string& all) { return all.substr(all.find("Using")); };
+    EXPECT_TRUE(body(text) == body(whole.text));
+    ASSERT_EQ(passed.map.size(), whole.map.size());
+    for (std::size_t i = 0; i < whole.map.size(); ++i) ASSERT_EQ(passed.map[i].firstLine, whole.map[i].firstLine);
+}
+
 // What error navigation searches for stands in the source ahead of the code, in every language.
 TEST_F(Driver, MarkersAndBranchHeadsAreInTheSource) {
     for (const int language : {77, 90, 99}) {
