@@ -104,6 +104,12 @@ void addCommandWidget(int id, CommandWidget kind, int handle) {
     showStatus(id);
 }
 
+int commandWidget(int id, CommandWidget kind) {
+    for (const ShownWidget& widget : stateOf(id).widgets)
+        if (widget.kind == kind) return widget.handle;
+    return 0;
+}
+
 void forgetCommandWidgets() {
     states.clear();
     textMode = modeInstalled = false;

@@ -9,7 +9,8 @@ enum CommandStatus : int { STATUS_HIDDEN = -1, STATUS_DISABLED = 0, STATUS_ENABL
 // An entry or button, by its toolkit handle, now shows the command's state.
 enum class CommandWidget { MenuEntry, PopupEntry, Button };
 void addCommandWidget(int command, CommandWidget kind, int handle);
-void forgetCommandWidgets(); // when the windows are gone
+int commandWidget(int command, CommandWidget kind); // handle of the first one, 0 for none
+void forgetCommandWidgets();                        // when the windows are gone
 
 // The state that the owner of the command asks for. A command whose conditions do not hold stays disabled until they
 // do.

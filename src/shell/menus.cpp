@@ -132,6 +132,7 @@ static int addPullDown(int parent, const MenuRow& row) {
 }
 
 void buildMenuBar(int masterWindow) {
+    filePullDown = 0;
     std::vector<int> parents = {owCreateMenuBar(masterWindow)};
     for (const MenuRow& row : MENU_BAR_ROWS) {
         switch (row.kind) {

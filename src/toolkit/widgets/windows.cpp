@@ -213,6 +213,7 @@ int finishWindow(Widget& window, const Arguments& call, int first) {
     window.place.hpos = call.keyword(owHpos);
     window.place.vpos = call.keyword(owVpos);
     window.view->setWindowTitle(call.text(first + 5));
+    window.view->setAttribute(Qt::WA_AlwaysShowToolTips); // while another window of the program is the active one
     setIcon(window, call.keywordText(owIconFile), call.keyword(owIconFormat));
     return 0;
 }
