@@ -113,9 +113,10 @@ void resetProject() {
     colourMarks.colourTop = FIXED_COLOURS - 1;
 }
 
-bool mendProject() {
+bool mendForms(WidgetNode* behind) {
     bool mended = false;
-    for (WidgetNode* node = project.forms; node;) {
+    const auto first = [&] { return behind ? behind->next : project.forms; };
+    for (WidgetNode* node = first(); node;) {
         WidgetNode* following = walkList(node, project.forms);
         const bool misplaced = (node->parent == nullptr) != (node->type == TYPE_FORM);
         if (misplaced || node->type == TYPE_NONE) {
@@ -128,16 +129,19 @@ bool mendProject() {
         }
         node = following;
     }
-    if (!project.forms) {
-        newForm();
-        return true;
-    }
-    for (WidgetNode* form = project.forms; form; form = form->next) {
+    for (WidgetNode* form = first(); form; form = form->next) {
         if (form->child && form->child->type == TYPE_MAIN_PANEL) continue;
         linkChildAfter(*form, nullptr, mainPanelFor(*form));
         mended = true;
     }
     return mended;
+}
+
+bool mendProject() {
+    const bool mended = mendForms(nullptr);
+    if (project.forms) return mended;
+    newForm();
+    return true;
 }
 
 void recountCounters() {

@@ -77,13 +77,13 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
     WidgetNode* forms = readRecords(source);
     closeReader(reader);
     if (header.version < VERSION_71) convertOldCode(forms);
-    const WidgetNode* last = lastForm();
+    WidgetNode* last = lastForm();
     if (!appendForms(forms)) return 0;
     project.widgetCount += source.namedRecords;
     project.formFileName = name;
     project.formFileDir = givenFolder;
     damagedFormFile.clear();
-    if (mendProject() || reader.damaged) {
+    if (mendForms(last) || reader.damaged) {
         damagedFormFile = path;
         reportIncomplete(path);
     }

@@ -63,9 +63,10 @@ WidgetNode* walkList(const WidgetNode* node, const WidgetNode* list);
 // stay. host.closeForms runs first when there are forms.
 void resetProject();
 
-// Brings a damaged project into a shape that can be shown and edited: records of no type go, every form has a main
-// panel, and there is a form. True when something had to be done.
+// Brings a damaged project into a shape that can be shown and edited: records of no type and records that hang where
+// they cannot go, every form has a main panel, and there is a form. True when something had to be done.
 bool mendProject();
+bool mendForms(WidgetNode* behind); // the same with the forms behind one; null for all. May leave none
 
 // Counters whose widgets are all gone start at 1 again.
 void recountCounters();
