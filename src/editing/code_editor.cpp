@@ -22,7 +22,9 @@ EditorWindow editor;
 
 namespace {
 
-constexpr int HEAD_HEIGHT = 50, ICON_SIZE = 22, ICON_TOP = 15, ICON_STEP = 30;
+// The head shows whole in a pane of the default width.
+constexpr int HEAD_HEIGHT = 50, BLOCK_WIDTH = 150, SELECTOR_LEFT = 160, SELECTOR_WIDTH = 214, ICONS_LEFT = 378;
+constexpr int ICON_SIZE = 22, ICON_TOP = 15, ICON_STEP = 29;
 constexpr int UNLIMITED = 2147483646; // characters
 
 struct EditorIcon {
@@ -40,17 +42,17 @@ constexpr EditorIcon ICONS[] = {
 };
 
 int makeTab(int box, const char* title) {
-    return owCreatePanel(box, 0, 0, 220, 20, owTitle, title, owBorderType, ONOBOUNDARY, 0);
+    return owCreatePanel(box, 0, 0, SELECTOR_WIDTH, 20, owTitle, title, owBorderType, ONOBOUNDARY, 0);
 }
 
 int makeTabList(int tab, const char* help, int command) {
-    return owCreateComboBox(tab, 0, 0, 220, 276, ONONE, ODISPLAY, owVpos, OMIDDLE, owHpos, OCENTRE, owExpand, 1, owHelp,
-                            help, owCallback, command, 0);
+    return owCreateComboBox(tab, 0, 0, SELECTOR_WIDTH, 276, ONONE, ODISPLAY, owVpos, OMIDDLE, owHpos, OCENTRE, owExpand,
+                            1, owHelp, help, owCallback, command, 0);
 }
 
 void makeSelector(int head) {
-    const int box =
-        owCreateTabDialogueBox(head, 200, 0, 220, HEAD_HEIGHT - 2, owVpos, OTOP, owCallback, CMD_SELECTOR_TABS, 0);
+    const int box = owCreateTabDialogueBox(head, SELECTOR_LEFT, 0, SELECTOR_WIDTH, HEAD_HEIGHT - 2, owVpos, OTOP,
+                                           owCallback, CMD_SELECTOR_TABS, 0);
     editor.widgetTab = makeTab(box, "Widgets");
     editor.menuTab = makeTab(box, "Menu");
     editor.treeTab = makeTab(box, "Tree");
@@ -63,8 +65,9 @@ void makeSelector(int head) {
 }
 
 void makeIcons(int head) {
-    const int panel = owCreatePanel(head, 430, 0, 200, HEAD_HEIGHT, owVpos, OTOP, owBorderType, ONOBOUNDARY, 0);
-    int x = ICON_TOP;
+    const int panel =
+        owCreatePanel(head, ICONS_LEFT, 0, 6 * ICON_STEP, HEAD_HEIGHT, owVpos, OTOP, owBorderType, ONOBOUNDARY, 0);
+    int x = 0;
     for (const EditorIcon& row : ICONS) {
         owCreateIcon(panel, x, ICON_TOP, ICON_SIZE, ICON_SIZE, row.icon, ODLLICON, 0, owVpos, OTOP, owType,
                      OMOUSESENSITIVE, owHelp, row.help, owCallback, row.command, 0);
@@ -140,7 +143,7 @@ void buildCodeEditor(int pane) {
                                    owBorderType, ONOBOUNDARY, 0);
     const int head = owCreatePanel(body, 0, 0, state.width, HEAD_HEIGHT, owVpos, OTOP, owHpos, OCENTRE, owExpand, 1,
                                    owBorderType, ONOBOUNDARY, 0);
-    editor.blockList = owCreateComboBox(head, 5, 22, 184, 276, ONONE, ODISPLAY, owVpos, OTOP, owHelp,
+    editor.blockList = owCreateComboBox(head, 5, 22, BLOCK_WIDTH, 276, ONONE, ODISPLAY, owVpos, OTOP, owHelp,
                                         "Select Code Block", owCallback, CMD_CODE_BLOCK, 0);
     makeSelector(head);
     makeIcons(head);
