@@ -82,21 +82,6 @@ void placeWithTool(WidgetNode& parent) {
 
 // ---- Selecting.
 
-bool shiftAdds(const WidgetNode& found) {
-    return owEnqShiftKey() && design.selectionList && design.selectionList->parentHandle != 0 && !found.onToolbar;
-}
-
-void addToSelection(WidgetNode& found) {
-    if (found.parentHandle != design.selectionList->parentHandle) return;
-    WidgetNode* list = copyNode(design.selectionList, true);
-    WidgetNode* last = list;
-    while (last->next) last = last->next;
-    last->next = copyNode(&found, false);
-    ++design.selectionCount;
-    groupSelection(found.parent, list);
-    showSelectionCount();
-}
-
 void restoreValue(const WidgetNode& node) {
     if (node.type == TYPE_SLIDER) owSetSliderValue(node.handle, static_cast<double>(node.value));
     if (node.type == TYPE_GAUGE) owSetGaugeValue(node.handle, static_cast<int>(node.value));
@@ -165,9 +150,7 @@ bool selectorEvent(WidgetNode* found) {
     found = standsFor(found);
     if (!found->selected) {
         restoreValue(*found);
-        if (shiftAdds(*found)) {
-            addToSelection(*found);
-        } else {
+        if (!shiftAdds(*found)) {
             design.selectionCount = 1;
             selectWidget(found);
         }

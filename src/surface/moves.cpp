@@ -95,6 +95,34 @@ bool liesWithin(const WidgetNode* node, const WidgetNode* root) {
     return false;
 }
 
+// Position along one axis in a new parent, for the corner that the drop left at `corner` from its left or top.
+int positionFrom(int origin, int corner, int extent, int parentExtent, int old) {
+    if (origin == 0) return old;
+    return origin < 0 ? corner : parentExtent - corner - extent;
+}
+
+// Gives the selection its place in the parent that it was dropped on.
+void placeInParent(const WidgetNode& target) {
+    constexpr int CORNER_VALUES = 2;
+    if (action.count < CORNER_VALUES) return;
+    const Box corner = inProjectUnit({action.iargs[0], action.iargs[1], 0, 0});
+    WidgetNode& first = *design.selectionList;
+    if (!first.next) {
+        first.xpos = positionFrom(first.hpos, corner.x, first.width, target.width, first.xpos);
+        first.ypos = positionFrom(-first.vpos, corner.y, first.height, target.height, first.ypos);
+        return;
+    }
+    int left = first.xpos, top = first.ypos;
+    for (const WidgetNode* copy = &first; copy; copy = copy->next) {
+        left = std::min(left, copy->xpos);
+        top = std::min(top, copy->ypos);
+    }
+    for (WidgetNode* copy = &first; copy; copy = copy->next) {
+        copy->xpos += corner.x - left;
+        copy->ypos += corner.y - top;
+    }
+}
+
 // True when the widgets have gone over to the widget of that handle.
 bool dropOn(int handle, WidgetNode* single) {
     WidgetNode* target = findHandle(handle);
@@ -113,6 +141,7 @@ bool dropOn(int handle, WidgetNode* single) {
     }
     readGeometry(single);
     if (!single) ungroupSelection(design.selectionList, nullptr);
+    placeInParent(*target);
     moveSelectionTo(target, !single);
     return true;
 }

@@ -98,6 +98,20 @@ void selectWidget(WidgetNode* node) {
     design.codeFocus = 0;
 }
 
+bool shiftAdds(WidgetNode& found) {
+    const WidgetNode* first = design.selectionList;
+    if (!owEnqShiftKey() || !first || first->parentHandle == 0 || found.onToolbar) return false;
+    if (found.parentHandle != first->parentHandle) return true; // of another parent: nothing happens
+    WidgetNode* list = copyNode(first, true);
+    WidgetNode* last = list;
+    while (last->next) last = last->next;
+    last->next = copyNode(&found, false);
+    ++design.selectionCount;
+    groupSelection(found.parent, list);
+    showSelectionCount();
+    return true;
+}
+
 void dropSelection() {
     if (!design.selectionList) return;
     ungroupSelection(design.selectionList, nullptr);

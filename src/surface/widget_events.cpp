@@ -77,7 +77,7 @@ void entrySelectedCommand() {
     WidgetNode* node = findHandle(action.widget);
     if (!node) return;
     if (node->type == TYPE_VALUE_ENTRY) design.valueWidget = node->handle;
-    if (design.activeTool != TOOL_SELECTOR || node->selected) return;
+    if (design.activeTool != TOOL_SELECTOR || node->selected || shiftAdds(*node)) return;
     selectWidget(node);
 }
 
@@ -99,7 +99,8 @@ void toggledCommand() {
     if (design.activeTool != TOOL_SELECTOR) return refusePlacement(*node);
     if (!node->selected) {
         owSetToggleSwitch(node->handle, node->initialStatus);
-        return selectWidget(node);
+        if (!shiftAdds(*node)) selectWidget(node);
+        return;
     }
     takeSwitch(*node);
 }

@@ -629,7 +629,9 @@ void owSetActiveWidget(int widget);     /* focus; a negative handle gives it bac
 int owEnqActiveWidget(void);
 void owSetGuiCursor(int widget, int format, int cursor); /* widget 0: everywhere */
 void owSetCursorPos(int widget, int xpos, int ypos);
-void owAdoptChild(int widget, int moved, int doubleClick); /* drag handles on one widget; three zeros end it */
+void owAdoptChild(int widget, int moved, int doubleClick); /* drag handles on one widget; three zeros end it. The event
+                                                              moved has the widget under the pointer as its status, and
+                                                              in iargs the new left and top in that widget, in pixels */
 void owSetTrackingPos(int xpos, int ypos);   /* -1, -1 follows the pointer again */
 void owEnqTrackingPos(int* xpos, int* ypos);
 void owSetScrollBarPos(int widget, int xpos, int ypos);

@@ -207,6 +207,15 @@ private:
         const int parent = widget->parent ? widget->parent->handle : 0;
         const int under = grip >= 0 ? parent : widgetUnder(insideContent(pointer));
         postIdentifier(moved, handle, session.lastKey, under, view->mapFromGlobal(QPointF(pointer)));
+        addCorner(widgetOf(under));
+    }
+
+    // Two values with the event: where the widget's top left corner lies in what it was dropped on, in pixels.
+    void addCorner(Widget* under) const {
+        const QWidget* room = under ? clientOf(under) : nullptr;
+        if (!room) return;
+        const QPoint corner = room->mapFromGlobal(view->mapToGlobal(QPoint(0, 0)));
+        for (const int value : {corner.x(), corner.y()}) addEventValue(static_cast<float>(value), value);
     }
 
     // The innermost widget below the pointer that is no part of the adopted one.
