@@ -156,11 +156,11 @@ bool open(int width, int height) {
     one.server = spawn({"Xvfb", "-displayfd", std::to_string(number[1]), "-screen", "0", size, "-nolisten", "tcp"}, {},
                        "", one.folder + "/xvfb.log", number[1]);
     close(number[1]);
-    char digits[16] = {};
-    const ssize_t got = read(number[0], digits, sizeof digits - 1);
+    std::string digits; // the server writes them piece by piece, a line end last
+    for (char digit = 0; read(number[0], &digit, 1) == 1 && digit != '\n';) digits += digit;
     close(number[0]);
-    if (got <= 0) return false;
-    one.display = ":" + std::to_string(std::atoi(digits));
+    if (digits.empty()) return false;
+    one.display = ":" + digits;
     one.manager =
         spawn({"openbox"}, {{"DISPLAY", one.display}, {"HOME", one.folder}}, one.folder, one.folder + "/openbox.log");
     return waitUntil([] {
