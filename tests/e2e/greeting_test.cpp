@@ -3,6 +3,7 @@
 #include "designer.h"
 
 #include "project/files.h"
+#include "project/tree.h"
 #include "support/records_equal.h"
 
 #include <filesystem>
