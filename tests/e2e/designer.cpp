@@ -20,7 +20,9 @@ desk::Thing labelCell(pid_t program, const std::string& label) {
     });
 }
 
-desk::Thing codeText(pid_t program) { return desk::waitFor(program, "the code editor", desk::inWindow(MAIN, desk::ofKind("QTextEdit"))); }
+desk::Thing codeText(pid_t program) {
+    return desk::waitFor(program, "the code editor", desk::inWindow(MAIN, desk::ofKind("QTextEdit")));
+}
 
 desk::Thing formWindow(pid_t program, const std::string& title) {
     return desk::waitFor(
@@ -85,9 +87,8 @@ void setProperty(pid_t program, const std::string& label, const std::string& tex
 
 void chooseBlock(pid_t program, const std::string& name) {
     desk::click(desk::waitFor(program, "the block list", desk::withTip("Select Code Block")));
-    desk::click(desk::waitFor(program, "the block " + name, [&](const desk::Thing& thing) {
-        return thing.kind == "Cell" && thing.text == name;
-    }));
+    desk::click(desk::waitFor(program, "the block " + name,
+                              [&](const desk::Thing& thing) { return thing.kind == "Cell" && thing.text == name; }));
     desk::click(codeText(program));
 }
 

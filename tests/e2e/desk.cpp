@@ -27,21 +27,24 @@ struct Desk {
     std::string display;
     std::string folder;
     std::vector<pid_t> programs;
-    ~Desk();
 };
 
 Desk one;
 
 std::string probeFolder() { return one.folder + "/probe"; }
 
-Desk::~Desk() {
-    for (pid_t program : programs) kill(program, SIGKILL);
-    if (manager > 0) kill(manager, SIGTERM);
-    if (server > 0) kill(server, SIGTERM);
-    if (server > 0) waitpid(server, nullptr, 0);
-    std::error_code ignored;
-    if (!folder.empty() && !::testing::UnitTest::GetInstance()->Failed()) fs::remove_all(folder, ignored);
-}
+// Clears the desk when all tests are over; what they left behind stays for a look when one failed.
+class Clearing : public testing::Environment {
+    void TearDown() override {
+        for (pid_t program : one.programs) kill(program, SIGKILL);
+        if (one.manager > 0) kill(one.manager, SIGTERM);
+        if (one.server > 0) kill(one.server, SIGTERM);
+        if (one.server > 0) waitpid(one.server, nullptr, 0);
+        std::error_code ignored;
+        if (!testing::UnitTest::GetInstance()->Failed()) fs::remove_all(one.folder, ignored);
+    }
+};
+const testing::Environment* const clearing = testing::AddGlobalTestEnvironment(new Clearing);
 
 pid_t spawn(const std::vector<std::string>& command, const std::map<std::string, std::string>& environment,
             const std::string& folder, const std::string& output, int passFd = -1) {

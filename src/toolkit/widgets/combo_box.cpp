@@ -1,4 +1,5 @@
 // Combo boxes, and the routines on entries that they share with list boxes.
+#include "toolkit/widgets/family_support.h"
 #include "toolkit/widgets/icons.h"
 #include "toolkit/widgets/list_contents.h"
 #include "toolkit/widgets/list_family.h"
@@ -33,12 +34,11 @@ public:
 protected:
     void focusInEvent(QFocusEvent* event) override {
         QComboBox::focusInEvent(event);
-        if (event->reason() != Qt::PopupFocusReason) post(handle, Slot::select, 1);
+        if (byUser(*event)) post(handle, Slot::select, 1);
     }
     void focusOutEvent(QFocusEvent* event) override {
         QComboBox::focusOutEvent(event);
-        if (event->reason() == Qt::PopupFocusReason) return;
-        post(handle, Slot::select, 0);
+        if (byUser(*event)) post(handle, Slot::select, 0);
     }
     // A combo box that only stands under the pointer leaves the wheel to what scrolls around it.
     void wheelEvent(QWheelEvent* event) override {

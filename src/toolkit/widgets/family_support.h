@@ -4,6 +4,7 @@
 #include "toolkit/widgets/core.h"
 
 #include <QByteArray>
+#include <QFocusEvent>
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -17,6 +18,12 @@ inline QColor textColourOrNone(int colour) { return colour > 1 ? colourOf(colour
 // owType stands for the type keyword of a family; each family also has one of its own.
 inline int typeKeyword(const Arguments& call, int ownKeyword) {
     return call.given(ownKeyword) ? call.keyword(ownKeyword) : call.keyword(owType);
+}
+
+// False for focus that comes and goes with a pop-up or with the whole window, which is no news for a program: a window
+// that becomes active gives the focus to what had it last, even when the user is about to click on something else.
+inline bool byUser(const QFocusEvent& event) {
+    return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::ActiveWindowFocusReason;
 }
 
 // A program's text byte by byte, without its trailing blanks.

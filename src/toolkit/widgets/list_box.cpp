@@ -1,6 +1,7 @@
 // List boxes.
 #include "toolkit/widgets/list_family.h"
 
+#include "toolkit/widgets/family_support.h"
 #include "toolkit/widgets/icons.h"
 #include "toolkit/widgets/list_contents.h"
 
@@ -40,11 +41,11 @@ public:
 protected:
     void focusInEvent(QFocusEvent* event) override {
         QListWidget::focusInEvent(event);
-        post(handle, Slot::select, 1);
+        if (byUser(*event)) post(handle, Slot::select, 1);
     }
     void focusOutEvent(QFocusEvent* event) override {
         QListWidget::focusOutEvent(event);
-        if (event->reason() != Qt::PopupFocusReason) post(handle, Slot::select, 0);
+        if (byUser(*event)) post(handle, Slot::select, 0);
     }
 
     void mousePressEvent(QMouseEvent* event) override {

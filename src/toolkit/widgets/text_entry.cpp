@@ -259,13 +259,21 @@ void TextEntry::userMoved() {
     if (hooks_.selected) hooks_.selected();
 }
 
-void TextEntry::focusCame() {
+void TextEntry::focusCame(Qt::FocusReason reason) {
     focused_ = true;
     changedSinceFocus_ = false;
     reportedStart_ = reportedEnd_ = -1;
     showColours();
+    awaitsUser_ = reason == Qt::ActiveWindowFocusReason;
+    if (awaitsUser_) return;
     if (selectOnFocus && line_) line_->selectAll();
     if (hooks_.selected) hooks_.selected();
+}
+
+// A window that becomes active gives the focus to what had it last, even when the user is about to click on something
+// else. The entry counts as selected only once the user turns to it.
+void TextEntry::userCame() {
+    if (std::exchange(awaitsUser_, false) && focused_ && hooks_.selected) hooks_.selected();
 }
 
 void TextEntry::focusLeft() {
@@ -318,7 +326,10 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event) {
     QWidget* const pointed = edit_ ? edit_->viewport() : static_cast<QWidget*>(line_);
     switch (event->type()) {
     case QEvent::FocusIn:
-        if (watched == field()) focusCame();
+        if (watched == field()) focusCame(static_cast<QFocusEvent*>(event)->reason());
+        break;
+    case QEvent::KeyPress:
+        if (watched == field()) userCame();
         break;
     case QEvent::FocusOut:
         if (watched == field()) {
@@ -328,6 +339,7 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::MouseButtonPress:
         if (watched != pointed) break;
+        userCame();
         dragged_ = false;
         if (hooks_.pressed) hooks_.pressed();
         if (options_.label && hooks_.selected) hooks_.selected();

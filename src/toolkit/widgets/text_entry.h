@@ -147,7 +147,8 @@ private:
     void placeField();
     void userChanged();
     void userMoved();
-    void focusCame();
+    void focusCame(Qt::FocusReason reason);
+    void userCame();
     void focusLeft();
     bool mouseReleased(QMouseEvent* event);
     QString linkAt(const QPoint& position) const;
@@ -166,6 +167,7 @@ private:
     int quiet_ = 0;
     int frozen_ = 0;
     bool focused_ = false;
+    bool awaitsUser_ = false; // the focus came with the window; the user has not turned to the entry yet
     bool changedSinceFocus_ = false;
     bool loadedRich_ = false;
     bool choosing_ = false;

@@ -140,8 +140,6 @@ QByteArray screen() {
     QByteArray out;
     for (QWidget* widget : QApplication::allWidgets()) {
         if (!widget->isVisible()) continue;
-        const QRegion seen = widget->visibleRegion();
-        if (seen.isEmpty() && !widget->isWindow()) continue;
         writeThing(out, {widget->metaObject()->className(),
                          {widget->mapToGlobal(QPoint(0, 0)), widget->size()},
                          stateOf(widget),
