@@ -1,4 +1,16 @@
 // Chains of records in a stream: read from any version with all upgrades, written in the current one.
+//
+// A file is one flat stream of fields with fixed places: numbers as text in slots of 25 bytes, strings in slots of 256,
+// keywords in slots of 7, each ended by a NUL with anything behind it; code and long texts as raw bytes whose count
+// stands in a number ahead of them. Nothing tells where a section lies, so a reader walks all of it:
+//
+//     chain   = record { "NEXT" record } end               end = "ENDFIL" behind a form, else "END"
+//     record  = fields slots [ "ARRAY" numbers ] [ "STABAR" bar ] [ "MENU" entries ] [ "LIST" rows ] [ "CHILD" chain ]
+//     entries = entry { "NEXT" entry } "END"               rows alike
+//
+//     project  = header grid chain colours counters compile-data blocks     (old versions: see project_file.cpp)
+//     form     = header snap snap chain
+//     defaults = header colours 24 x chain
 #pragma once
 
 #include "project/stream.h"

@@ -215,8 +215,13 @@ void writeReal(FileWriter& writer, float value, FieldKind kind) {
 }
 
 void writeString(FileWriter& writer, const std::string& value, std::size_t bytes) {
-    char* slot = room(writer, bytes);
-    std::memcpy(slot, value.c_str(), strnlen(value.c_str(), std::min(bytes - 1, value.size())));
+    std::size_t length = strnlen(value.c_str(), std::min(bytes - 1, value.size()));
+    const auto insideCharacter = [&](std::size_t at) {
+        return (static_cast<unsigned char>(value[at]) & 0xC0U) == 0x80U;
+    };
+    if (length == bytes - 1)
+        while (length > 0 && insideCharacter(length)) --length; // no half of a character at the end
+    std::memcpy(room(writer, bytes), value.data(), length);
 }
 
 void writeText(FileWriter& writer, const std::string& value, std::size_t bytes) {

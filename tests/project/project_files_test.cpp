@@ -313,4 +313,16 @@ TEST(ProjectFile, ChoosingANameAddsTheExtensionAndAsksBeforeItOverwrites) {
     EXPECT_EQ(name, "old.wdp") << "overwritten without a question";
 }
 
+TEST(ProjectFile, AStringTooLongForItsSlotLosesNoHalfCharacter) {
+    const BoxScript boxes;
+    const TempFolder folder;
+    WidgetNode* form = freshProject();
+    form->bubbleHelp = std::string(254, 'x') + "\xc3\xa4" + "y";
+    form->icon = std::string(300, 'z');
+    ASSERT_TRUE(saveProject(folder.path, "long.wdp", false));
+    ASSERT_TRUE(loadProject(folder.path, "long.wdp"));
+    EXPECT_EQ(project.forms->bubbleHelp, std::string(254, 'x'));
+    EXPECT_EQ(project.forms->icon, std::string(255, 'z'));
+}
+
 } // namespace
