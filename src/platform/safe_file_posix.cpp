@@ -29,7 +29,7 @@ std::string followLinks(const std::string& path) {
 }
 
 std::string folderToList(const std::string& path) {
-    const std::string folder = folderOf(path);
+    std::string folder = folderOf(path);
     if (!folder.empty()) return folder;
     return !path.empty() && path[0] == '/' ? "/" : ".";
 }
@@ -47,7 +47,7 @@ void clearLeftovers(const std::string& target) {
         char* end = nullptr;
         const long process = strtol(name.c_str() + prefix.size(), &end, 10);
         if (process <= 0 || strcmp(end, SUFFIX) != 0) continue;
-        if (kill(static_cast<pid_t>(process), 0) == -1 && errno == ESRCH) unlink((folder + "/" + name).c_str());
+        if (kill(static_cast<pid_t>(process), 0) == -1 && errno == ESRCH) unlink(joinPath(folder, name).c_str());
     }
     closedir(listing);
 }

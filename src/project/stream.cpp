@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::size_t BUFFER = 256 * 1024;
+constexpr std::size_t BUFFER = 1U << 18U;
 
 struct KeywordRow {
     Keyword keyword;
@@ -63,8 +63,8 @@ char* formatReal(char* slot, char* end, float value, FieldKind kind) {
     if (whole) {
         char* next = std::to_chars(slot, end, static_cast<int>(value)).ptr;
         if (kind != FIELD_REAL_F) return next;
-        std::memcpy(next, ".000000", 7);
-        return next + 7;
+        constexpr std::string_view zeros = ".000000";
+        return std::copy(zeros.begin(), zeros.end(), next);
     }
     const auto format = kind == FIELD_REAL_F ? std::chars_format::fixed : std::chars_format::general;
     const auto result = std::to_chars(slot, end, static_cast<double>(value), format, 6);
@@ -233,7 +233,7 @@ void writeText(FileWriter& writer, const std::string& value, std::size_t bytes) 
     for (std::size_t done = 0; done < bytes; done += PART) {
         const std::size_t count = std::min(PART, bytes - done);
         char* slot = room(writer, count);
-        if (done < value.size()) std::memcpy(slot, value.data() + done, std::min(count, value.size() - done));
+        if (done < value.size()) std::copy_n(value.data() + done, std::min(count, value.size() - done), slot);
     }
 }
 
