@@ -66,6 +66,7 @@ static void buildWindows() {
 
 static void makeFirstProject() {
     owManage();
+    raiseFloatingWindows();
     startNewProject();
     owSetActiveWindow(MASTER_WINDOW);
 }

@@ -128,7 +128,7 @@ void aboutCommand() {
         owCreateComplexDialogueBox(MASTER_WINDOW, 0, 0, ABOUT_SIZE, ABOUT_SIZE, ONONE, "", owInitState, OCENTRED, 0);
     const int panel = owCreatePanel(aboutBox, 0, 0, ABOUT_SIZE, ABOUT_SIZE, owType, OPROJECTED, 0);
     addAboutLine(panel, 24, environment.aboutTitle);
-    owCreateIcon(panel, 132, 62, 44, 44, "Light", ODLLICON, 0, owVpos, OTOP, 0);
+    owCreateIcon(panel, 132, 62, 44, 44, "Light", ODLLICON, 0, owVpos, OTOP, owType, OPICTOGRAM, 0);
     addAboutLine(panel, 124, "Fortran/C++ GUI Builder");
     addAboutLine(panel, 150, "");
     addAboutLine(panel, 176, "ORBA = " + environment.installDir);

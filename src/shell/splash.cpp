@@ -25,8 +25,8 @@ void showSplash() {
     if (environmentSet("ORBA_NO_SPLASH")) return;
     const int window = owCreateComplexDialogueBox(MASTER_WINDOW, 0, 0, WIDTH, HEIGHT, ONONE, "", owHpos, OCENTRE,
                                                   owVpos, OMIDDLE, owInitState, OCENTRED, 0);
-    const int panel = owCreatePanel(window, 0, 0, WIDTH, HEIGHT, owType, OPROJECTED, 0);
-    owCreateIcon(panel, WIDTH / 2 - 32, 24, 64, 64, "Light", ODLLICON, 0, owVpos, OTOP, 0);
+    const int panel = owCreatePanel(window, 0, 0, WIDTH, HEIGHT, owType, OPROJECTED, owSelectCallback, SPLASH_END, 0);
+    owCreateIcon(panel, WIDTH / 2 - 32, 24, 64, 64, "Light", ODLLICON, 0, owVpos, OTOP, owType, OPICTOGRAM, 0);
     addLine(panel, 100, environment.mainTitle, 18, 1);
     addLine(panel, 152, "Fortran/C++ GUI Builder", 10, 0);
     owDrawWindow(window, 1);

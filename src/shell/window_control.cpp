@@ -117,6 +117,16 @@ void buildControlWindows() {
     buildWidgetPopup(MASTER_WINDOW);
 }
 
+static void showAgain(int handle) {
+    owSetWidgetStatus(handle, OHIDDEN);
+    owSetWidgetStatus(handle, OSELECTABLE);
+}
+
+void raiseFloatingWindows() {
+    for (const ControlWindow& window : CONTROL_WINDOWS)
+        if (windowStates[window.row].state == POSITION_FLOATING) showAgain(handleOf(window));
+}
+
 // ---- Showing and hiding ---------------------------------------------------------------------------------------
 
 static constexpr int KIND_REMOVABLE = 2; // a window of its own: taken from the screen as a whole
@@ -200,8 +210,7 @@ void raiseWindowsCommand() {
     for (const ControlWindow& window : CONTROL_WINDOWS) {
         if (!isShown(window)) continue;
         if (window.bar) {
-            owSetWidgetStatus(handleOf(window), OHIDDEN);
-            owSetWidgetStatus(handleOf(window), OSELECTABLE);
+            showAgain(handleOf(window));
         } else if (window.row == WINDOW_PROPERTIES || window.row == WINDOW_HIERARCHY) {
             owDrawWidget(handleOf(window));
         }

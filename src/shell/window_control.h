@@ -6,6 +6,7 @@ inline constexpr int MASTER_WINDOW = 1; // its handle
 
 void buildMasterWindow(); // with its menus, bars and status bar, at the stored place
 void buildControlWindows();
+void raiseFloatingWindows(); // once the master window shows, above which they belong
 
 // Shows the window of a View entry if it is hidden, and checks the entry.
 void showControlWindow(int viewCommand);
