@@ -140,9 +140,9 @@ bool saveForms(const std::string& path, WidgetNode* form) {
         writeNumber(writer, project.snapGrid);
         writeNumber(writer, project.snapGrid);
         writeRecords(writer, form);
-        saved = closeWriter(writer, damagedFormFile == path);
+        saved = closeWriter(writer, sameFile(damagedFormFile, path));
     }
     if (!saved) reportSaveFailed(writer);
-    if (saved && damagedFormFile == path) damagedFormFile.clear();
+    if (saved && sameFile(damagedFormFile, path)) damagedFormFile.clear();
     return saved;
 }

@@ -5,7 +5,7 @@
 #include "project/host.h"
 
 #include <array>
-#include <cstring>
+#include <filesystem>
 
 namespace {
 
@@ -114,6 +114,11 @@ void reportSaveFailed(const FileWriter& writer) {
     host.errorBox("Error saving file", "File could not be written completely: " + errorText(writer.file.error) +
                                            "|An older file of that name is unchanged.|Please make room, or save to "
                                            "another place.");
+}
+
+bool sameFile(const std::string& first, const std::string& second) {
+    std::error_code ignored;
+    return !first.empty() && std::filesystem::equivalent(first, second, ignored);
 }
 
 void writeColours(FileWriter& writer) {

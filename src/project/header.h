@@ -23,6 +23,9 @@ void reportUnknownHeader(const FileHeader& header, const char* post);
 void reportIncomplete(const std::string& path);
 void reportSaveFailed(const FileWriter& writer); // says what the system said when it was not the opening that failed
 
+// Whether both paths lead to one file that exists; false for an empty path.
+bool sameFile(const std::string& first, const std::string& second);
+
 // The 236 triples behind the fixed colours.
 void writeColours(FileWriter& writer);
 void readProjectColours(FileReader& reader); // leaves the colours of the defaults alone

@@ -249,7 +249,7 @@ void settleOldGrid(int version) {
 std::string titleOf(const std::string& name) { return name.substr(0, name.rfind('.')); }
 
 // Whether the file at hand is the one that was read incomplete.
-bool overDamagedFile(const std::string& path) { return !project.damagedFile.empty() && project.damagedFile == path; }
+bool overDamagedFile(const std::string& path) { return sameFile(project.damagedFile, path); }
 
 } // namespace
 

@@ -1,7 +1,6 @@
 #include "upgrade.h"
 
 #include "batch_host.h"
-#include "platform/paths.h"
 #include "project/defaults.h"
 #include "project/files.h"
 #include "project/tree.h"
@@ -41,7 +40,7 @@ int usage(const char* text) {
 
 bool load(const std::string& path) {
     switch (fileKind(path)) {
-    case FILE_PROJECT: return loadProject(folderOf(path), fileNameOf(path));
+    case FILE_PROJECT: return loadProject("", path);
     case FILE_FORM: return loadFormAlone(path);
     case FILE_DEFAULTS: return loadDefaults(path);
     default: break;
@@ -55,7 +54,7 @@ bool save(const std::string& path, ProjectFileKind kind) {
     switch (kind) {
     case FILE_FORM: return saveForms(path, project.forms);
     case FILE_DEFAULTS: return saveDefaults(path);
-    default: return saveProject(folderOf(path), fileNameOf(path), true);
+    default: return saveProject("", path, true);
     }
 }
 

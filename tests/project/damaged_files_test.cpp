@@ -205,7 +205,7 @@ TEST_F(DamagedFile, TheFirstSaveOverItKeepsItBeside) {
     const std::string cut = projectBytes().substr(0, 9000);
     load(cut);
     ASSERT_TRUE(saveProject(folder.path, "elsewhere.wdp", true));
-    ASSERT_TRUE(saveProject(folder.path, "bad.wdp", false));
+    ASSERT_TRUE(saveProject(folder.path + "/.", "bad.wdp", false)) << "the same file under another name";
     EXPECT_EQ(readBytes(folder.file("bad.wdp.bak")), cut);
     const std::string first = readBytes(folder.file("bad.wdp"));
     project.forms->text = "changed";
