@@ -325,8 +325,10 @@ void DockPane::place(Dock dock, QPoint position, QSize size) {
         dock_ = dock;
         floatPosition_ = position;
         if (size.isValid()) floatSize_ = size;
-        setFloating(true);
-        resize(floatSize_);
+        const QSize wanted = floatSize_;
+        setFloating(true); // gives it some size of its own
+        floatSize_ = wanted;
+        resize(wanted);
         move(onScreen(floatPosition_, floatSize_));
         show();
     } else if (dock == Dock::hidden) {
