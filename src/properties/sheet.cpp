@@ -134,8 +134,11 @@ void writeCell(ShownRow& shown) {
         owSetPropertySetting(sheet.list, shown.number, owPropertyValue, content.number, owPropertyStatus, status, 0);
         break;
     case Cell::Colour:
-        owSetPropertySetting(sheet.list, shown.number, owString, content.text.c_str(), owBackCol, content.colour,
-                             owPropertyStatus, status, 0);
+        if (content.text.empty())
+            owSetPropertySetting(sheet.list, shown.number, owString, "", owBackCol, content.colour, owPropertyStatus,
+                                 status, 0);
+        else
+            owSetPropertySetting(sheet.list, shown.number, owString, content.text.c_str(), owPropertyStatus, status, 0);
         break;
     default:
         owSetPropertySetting(sheet.list, shown.number, owString, content.text.c_str(), owPropertyStatus, status, 0);
@@ -354,6 +357,7 @@ void showProperties(WidgetNode* widget) {
 }
 
 const std::string& selectedPropertyLabel() { return sheet.label; }
+int propertyList() { return sheet.list; }
 
 void propertySelectedCommand() {
     design.helpContext = "Properties Box";

@@ -29,7 +29,8 @@ WidgetNode* findByCallback(int id) {
     if (node && node->designCallbackId == id) return node;
     node = findHandle(id - OBJECT_SELECT_OFFSET);
     const bool selects = node && std::ranges::find(ANSWERS_TO_SELECT, node->type) != ANSWERS_TO_SELECT.end();
-    return selects && node->designSelectId == id ? node : nullptr;
+    const bool lostFocus = action.status == 0;
+    return selects && !lostFocus && node->designSelectId == id ? node : nullptr;
 }
 
 // ---- Placing.
@@ -48,6 +49,7 @@ WidgetNode* makeLive(WidgetNode& node, WidgetNode& parent) {
         owEraseWidget(design.placeholderChild);
         design.placeholderChild = 0;
     }
+    if (node.handle > 0) owEraseWidget(node.handle); // a parent that was converted brought it to life with it
     realiseWidget(node, parent.handle, false);
     buildHierarchyEntry(node);
     return &node;

@@ -136,6 +136,13 @@ void windowEvent(WidgetNode& form, int status) {
     }
 }
 
+// A window that comes to the front keeps the widgets that are selected in it: the same click may begin a drag of one.
+bool holdsSelection(const WidgetNode& node) {
+    if (node.selected || activeForm(project.forms) == &node) return true;
+    const WidgetNode* grouped = design.selectionList ? findHandle(design.selectionList->parentHandle) : nullptr;
+    return grouped && formOf(grouped, project.forms) == &node;
+}
+
 bool takesPresses(const WidgetNode& node) { return node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL; }
 
 } // namespace
@@ -172,7 +179,7 @@ void formEvent(int id) {
     if (!node) return;
     if (selectEvent) {
         if (takesPresses(*node)) return press(*node);
-        if (!node->selected && action.status == 1) selectWidget(node);
+        if (action.status == 1 && !holdsSelection(*node)) selectWidget(node);
         design.helpContext = "Form";
         hooks.leaveTextMode();
     } else if (node->type == TYPE_FORM && node->formCallbackId == id) {

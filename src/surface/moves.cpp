@@ -152,6 +152,7 @@ void moveSelectionTo(WidgetNode* target, bool group) {
     hooks.commitEditor();
     deleteList(design.pasteBuffer);
     design.pasteBuffer = copyNode(design.selectionList, true);
+    design.undoWidget = nullptr; // it comes back as another record; the step stays
     removeWidget(design.selectionList, true, true);
     project.currentWidget = target;
     WidgetNode* inserted = insertClones(design.pasteBuffer);

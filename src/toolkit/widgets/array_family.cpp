@@ -76,7 +76,6 @@ struct TextProperty {
     QString ArrayData::*field;
 };
 constexpr TextProperty textProperties[] = {{87, &ArrayData::columnLabels}, {88, &ArrayData::rowLabels}};
-constexpr int axisHeightProperty = 43, axisWidthProperty = 44;
 
 bool getArrayProperty(Widget& widget, int property, Value& value) {
     ArrayData& data = dataOf<ArrayData>(widget);
@@ -93,8 +92,6 @@ bool setArrayProperty(Widget& widget, int property, const Value& value) {
     bool known = setInteger(properties, data, property, value);
     for (const TextProperty& row : textProperties)
         if (row.number == property) data.*row.field = value.text, known = true;
-    if (property == axisHeightProperty) data.axisHeight = pixelsDown(value.integer);
-    if (property == axisWidthProperty) data.axisWidth = pixelsAcross(value.integer);
     if (known) showArray(widget);
     return known;
 }
@@ -136,8 +133,12 @@ Word create(const Arguments& call, bool values) {
     data->values = values;
     data->columns = call.integer(5);
     data->rows = call.integer(6);
-    data->axisWidth = call.given(owAxisW) ? pixelsAcross(call.keyword(owAxisW)) : 40;
-    data->axisHeight = call.given(owAxisH) ? pixelsDown(call.keyword(owAxisH)) : lineHeight();
+    // The label area is given in pixels in either mode; a negative size asks for the usual one.
+    const auto size = [&](int keyword, int usual) {
+        return call.given(keyword) && call.keyword(keyword) >= 0 ? call.keyword(keyword) : usual;
+    };
+    data->axisWidth = size(owAxisW, 40);
+    data->axisHeight = size(owAxisH, lineHeight());
     data->columnLabels = call.given(owXtext) ? call.keywordText(owXtext) : QStringLiteral("*letters");
     data->rowLabels = call.given(owYtext) ? call.keywordText(owYtext) : QStringLiteral("*digits");
     data->columnJustify = call.keyword(owXjust);

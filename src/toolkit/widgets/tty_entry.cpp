@@ -3,6 +3,7 @@
 #include "toolkit/widgets/program_text.h"
 #include "toolkit/widgets/text_family.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -69,7 +70,10 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == editor() && event->type() == QEvent::FocusIn && came) came();
+        // Focus that comes back with its window is no news.
+        const bool focused = watched == editor() && event->type() == QEvent::FocusIn &&
+                             static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason;
+        if (focused && came) came();
         if (watched == editor() && event->type() == QEvent::KeyPress && key(*static_cast<QKeyEvent*>(event)))
             return true;
         return TextEntry::eventFilter(watched, event);
