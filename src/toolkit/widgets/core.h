@@ -174,7 +174,7 @@ struct Placement {
     int hpos = OLEFT;
     int vpos = OBOTTOM;
     int expand = 0;
-    QSize inset; // owSize below 100 in grid mode: pixels left free in the widget's cells
+    QSize inset{0, 0}; // owSize below 100 in grid mode: pixels left free in the widget's cells
 };
 
 struct Widget {

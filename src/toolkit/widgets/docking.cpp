@@ -466,12 +466,13 @@ void DockPane::moveEvent(QMoveEvent* event) {
 
 void DockPane::resizeEvent(QResizeEvent* event) {
     QDockWidget::resizeEvent(event);
-    if (isHidden()) return;
+    const bool byUser = !byProgram_ && QGuiApplication::mouseButtons() != Qt::NoButton;
+    if (isHidden() || !byUser) return;
     if (isFloating())
         floatSize_ = size();
-    else if (isVisible() && !byProgram_)
+    else
         dockedSize_ = widget()->size();
-    if (!byProgram_ && QGuiApplication::mouseButtons() != Qt::NoButton) tellLater(DockEvent::resized);
+    tellLater(DockEvent::resized);
 }
 
 } // namespace orba

@@ -47,10 +47,18 @@ bool repeatsLast(int identifier, int handle, int status) {
     return last.identifier == identifier && last.handle == handle && last.status == status;
 }
 
+// A window that was closed for good goes once the program has read the event that says so.
 void eraseDoomed() {
     const std::vector<int> doomed = std::exchange(session.doomed, {});
     for (int handle : doomed) {
-        if (Widget* widget = widgetOf(handle)) eraseWidget(*widget);
+        const bool unread = std::any_of(session.queue.begin(), session.queue.end(),
+                                        [handle](const Event& event) { return event.handle == handle; });
+        Widget* widget = widgetOf(handle);
+        if (widget && unread) {
+            session.doomed.push_back(handle);
+        } else if (widget) {
+            eraseWidget(*widget);
+        }
     }
 }
 

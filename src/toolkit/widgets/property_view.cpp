@@ -554,11 +554,17 @@ bool PropertyView::eventFilter(QObject* watched, QEvent* event) {
     return QTableView::eventFilter(watched, event);
 }
 
-// Tab and Shift+Tab, and from a line of text the arrows up and down, take the text over and go to another row.
+// Return takes a line of text over. Tab and Shift+Tab, and from a line the arrows up and down, do so and go to another
+// row.
 bool PropertyView::movesOn(const QKeyEvent* event, QWidget* editor) {
     const int key = event->key();
     const bool tab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
     const bool isLine = !qobject_cast<QComboBox*>(editor) && lineOf(editor);
+    if (editor == editor_ && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        finishEditing();
+        setFocus();
+        return true;
+    }
     const bool arrow = isLine && (key == Qt::Key_Up || key == Qt::Key_Down);
     if (!tab && !arrow) return false;
     finishEditing();
