@@ -19,7 +19,7 @@ struct CodeLocation {
     MenuEntryRec* entry = nullptr;
     int slot = 0;   // WidgetSlot or EntrySlot
     int line = 1;   // of the block or slot, from 1
-    int column = 0; // byte in that line, from 1; 0: the message told none
+    int column = 0; // character in that line, from 1; 0: the message told none
 };
 
 // The name that the block or slot bears in the "Select Code Block" list: "Initialization", "General Callback".

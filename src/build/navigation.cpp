@@ -135,23 +135,30 @@ CodeLocation findByMap(int line, int column) {
     return location.widget ? location : endOfCodeAhead(line);
 }
 
-// g++ counts what a screen shows: a character is one column whatever its bytes, and tabs reach to the next eighth.
-int byteColumn(std::string_view line, int shownColumn) {
+bool startsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }
+
+// gfortran counts bytes. g++ counts what a screen shows: tabs reach to the next eighth.
+int characterColumn(std::string_view line, int told, bool asShown) {
     constexpr int TAB = 8;
-    int shown = 1;
-    size_t at = 0;
-    while (at < line.size() && shown < shownColumn) {
-        shown = line[at] == '\t' ? (shown - 1) / TAB * TAB + TAB + 1 : shown + 1;
-        do at++;
-        while (at < line.size() && (static_cast<unsigned char>(line[at]) & 0xC0U) == 0x80U);
+    int column = 0;
+    int counted = 0;
+    for (size_t at = 0; at < line.size() && counted < told; at++) {
+        bool starts = startsCharacter(line[at]);
+        if (starts) column++;
+        if (asShown && line[at] == '\t') {
+            counted = counted / TAB * TAB + TAB;
+        } else if (starts || !asShown) {
+            counted++;
+        }
     }
-    return static_cast<int>(at) + 1;
+    return column + (told - counted); // beyond the end of the line as far as it was told
 }
 
 void showPosition(MessagePosition position, int compilerProfile) {
     if (position.line < 1) return;
-    if (position.column > 0 && compilerProfile == COMPILER_GNU && project.projectLanguage == 99) {
-        position.column = byteColumn(sourceLine(position.line), position.column);
+    if (position.column > 0 && compilerProfile == COMPILER_GNU) {
+        bool asShown = project.projectLanguage == 99;
+        position.column = characterColumn(sourceLine(position.line), position.column, asShown);
     }
     buildHooks.commitEditor();
     host.busyCursor(true);

@@ -32,7 +32,7 @@ void noteGenerated(GeneratedText generated);
 void loadBuildSource(const std::string& sourcePath);
 bool buildSourceMapped();
 
-// The user's place for a line and column of the build's source. Text that no user wrote leads to the widget whose
+// The user's place for a line and column, in characters, of the build's source. Text that no user wrote leads to the widget whose
 // statement it is, and otherwise to the end of the code ahead of it.
 CodeLocation findLocation(int line, int column);
 

@@ -98,6 +98,10 @@ static void setLogFont() {
 }
 
 static void showLocation(const CodeLocation& location) {
+    if (location.place == CodePlace::widgetStatement) {
+        if (location.widget != project.currentWidget) selectWidget(location.widget);
+        return;
+    }
     showControlWindow(CMD_VIEW_CODE_EDITOR);
     showCode(placeName(location), location.widget, location.line, location.column);
 }

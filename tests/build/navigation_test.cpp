@@ -154,6 +154,21 @@ TEST_P(NavigationTest, PlantedErrorsLeadToTheirOwnLineAndColumn) {
     }
 }
 
+TEST_P(NavigationTest, ColumnsCountCharacters) {
+    if (!toolkitBuilt()) GTEST_SKIP() << "the toolkit is not built here";
+    const Place& place = PLACES[BLOCK_INITIALIZATION];
+    std::string line =
+        GetParam() == 99 ? "\tconst char* s = \"äö\"; \tundeclared x;" : "\tprint *, 'äö' ;garbage here ?";
+    if (GetParam() == 77) line.replace(0, 1, "      "); // a tab ahead of column 7 is its own matter there
+    store(place) = line;
+    generate();
+    compileCommand(true);
+    ASSERT_THAT(notes.shown, SizeIs(1)) << testing::PrintToString(notes.list);
+    std::string ahead = line.substr(0, line.find(GetParam() == 99 ? "undeclared" : "garbage"));
+    EXPECT_EQ(notes.shown[0].column, static_cast<int>(ahead.size()) - 2 + 1) << "two letters have two bytes each";
+    EXPECT_EQ(notes.shown[0].line, 1);
+}
+
 TEST_P(NavigationTest, AProgramIsBuiltStartedAndAborted) {
     if (!toolkitBuilt()) GTEST_SKIP() << "the toolkit is not built here";
     if (ORBA_SANITIZED) GTEST_SKIP() << "programs are linked without the sanitizers that this toolkit needs";
