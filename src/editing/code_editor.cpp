@@ -225,6 +225,10 @@ void showCode(const std::string& blockName, WidgetNode* widget, int line, int co
     else if (project.currentWidget)
         loadWorkingSlots(*project.currentWidget);
     showBoundCode();
+    showPlace(line, column);
+}
+
+void showPlace(int line, int column) {
     const int start = std::max(lineStart(editor.text, line - 1), 1);
     const int length = lineLength(editor.text, start);
     if (column > 0)

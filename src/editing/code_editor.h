@@ -19,6 +19,9 @@ void forgetCode(); // before a project is replaced: working copies go
 void showCode(const std::string& blockName, WidgetNode* widget, int line,
               int column); // brings up a place in the code; line from 1, column 0 for the whole line
 
+// The same for a slot, by its name in the list of blocks, of the menu or tree entry `entryName` of `owner`.
+void showEntryCode(WidgetNode* owner, const std::string& entryName, const std::string& slotName, int line, int column);
+
 // Brings a name of the lists up to date.
 void nameAdded(const std::string& name);
 void nameRemoved(const std::string& name);

@@ -9,6 +9,7 @@
 #include "surface/event.h"
 #include "surface/hierarchy.h"
 #include "surface/hooks.h"
+#include "surface/selection.h"
 #include "surface/state.h"
 
 #include <algorithm>
@@ -84,6 +85,21 @@ void entryChosen(int list) {
 }
 
 } // namespace
+
+void showEntryCode(WidgetNode* owner, const std::string& entryName, const std::string& slotName, int line, int column) {
+    if (owner != project.currentWidget) selectWidget(owner);
+    commitEditor();
+    rememberCaret();
+    const bool tree = owner->type == TYPE_TREE_VIEW;
+    const int list = tree ? editor.treeList : editor.menuList;
+    fillEntryList(list, *owner);
+    copyEntriesForEditing(owner);
+    showEntry(*owner, list, entryName);
+    owSetWidgetStatus(tree ? editor.treeTab : editor.menuTab, OCHECKED);
+    project.currentBlockName = slotName;
+    showBoundCode();
+    showPlace(line, column);
+}
 
 void nameAdded(const std::string& name) {
     if (!editor.widgetList || std::ranges::find(names, name) != names.end()) return;

@@ -20,5 +20,6 @@ extern EditorWindow editor;
 void fillList(int list, const char* const* begin, const char* const* end);
 void selectInList(int list, const char* name);
 
-void showBoundCode(); // the text of the shown name, its remembered selection, line and column
-void rememberCaret(); // of the shown name
+void showBoundCode();                 // the text of the shown name, its remembered selection, line and column
+void rememberCaret();                 // of the shown name
+void showPlace(int line, int column); // brings up the editor with that line selected, or the caret in its column

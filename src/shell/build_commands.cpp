@@ -103,6 +103,10 @@ static void showLocation(const CodeLocation& location) {
         return;
     }
     showControlWindow(CMD_VIEW_CODE_EDITOR);
+    if (location.place == CodePlace::entrySlot) {
+        showEntryCode(location.widget, location.entry->name, placeName(location), location.line, location.column);
+        return;
+    }
     showCode(placeName(location), location.widget, location.line, location.column);
 }
 
