@@ -3,11 +3,13 @@
 
 #include "editing/editor_window.h"
 #include "editing/modes.h"
+#include "editing/rename.h"
 #include "editing/text_commands.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
 #include "project/code_stores.h"
 #include "project/host.h"
+#include "project/preferences.h"
 #include "project/tree.h"
 #include "surface/commands.h"
 #include "surface/hooks.h"
@@ -94,6 +96,7 @@ void fillHooks() {
     hooks.nameRemoved = nameRemoved;
     hooks.nameChanged = nameChanged;
     hooks.namesCleared = clearNames;
+    hooks.renameInCode = renameInCode;
 }
 
 std::string chosenRow(int list) {
@@ -148,6 +151,7 @@ void buildCodeEditor(int pane) {
     makeSelector(head);
     makeIcons(head);
     makeTexts(body, state.width, std::max(state.height - HEAD_HEIGHT, HEAD_HEIGHT));
+    if (preferences.syntaxColours) owInitializeSyntaxTree();
     refreshFont(false, 0);
     fillHooks();
 }
