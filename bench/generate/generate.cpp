@@ -197,6 +197,7 @@ int main(int argc, char** argv) {
         std::printf("%6d widgets: wdgen %7.1f ms %6.1f MB, uic %7.1f ms %6.1f MB, ratio %.2f time, %.2f memory\n",
                     widgets, a.milliseconds, a.megabytes, b.milliseconds, b.megabytes, a.milliseconds / b.milliseconds,
                     a.megabytes / b.megabytes);
+        std::fflush(stdout);
     }
     std::printf("100,000 widgets take %.1f times what 10,000 take\n", own[1] / own[0]);
     std::error_code ignored;

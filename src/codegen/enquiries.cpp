@@ -18,7 +18,10 @@ bool isMdiChild(const WidgetNode& form) {
 bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
 bool hasStatusBar(const WidgetNode& form) { return project.projectPlatform == 'w' && form.statusBar != nullptr; }
 
-bool checksConfiguration() { return preferences.configCheck != 0 && !preferences.configDirExpr.empty(); }
+// A lone blank is what an empty field of the preferences holds.
+bool checksConfiguration() {
+    return preferences.configCheck != 0 && !preferences.configDirExpr.empty() && preferences.configDirExpr != " ";
+}
 
 bool hasWindowCode(const WidgetNode& node) {
     for (int slot = SLOT_WINDOW_MOVED; slot <= SLOT_WINDOW_LOST_FOCUS; ++slot) {
@@ -42,6 +45,8 @@ std::uint64_t typesBelow(const WidgetNode& form) {
 }
 
 bool holdsType(std::uint64_t types, WidgetType type) { return (types >> (type - TYPE_FORM) & 1) != 0; }
+
+int difference(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b)); }
 
 int wholeNumber(float value) {
     constexpr float LIMIT = 2147483648.0F;

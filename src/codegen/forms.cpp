@@ -159,8 +159,7 @@ struct Colour {
 std::array<Colour, COLOURS> startColours;
 
 Colour scaled(float red, float green, float blue) {
-    return {static_cast<int>(red * COLOUR_SCALE), static_cast<int>(green * COLOUR_SCALE),
-            static_cast<int>(blue * COLOUR_SCALE)};
+    return {wholeNumber(red * COLOUR_SCALE), wholeNumber(green * COLOUR_SCALE), wholeNumber(blue * COLOUR_SCALE)};
 }
 
 } // namespace

@@ -21,7 +21,8 @@ void resetMaximum(Generation& g) { write(g, "      CALL WIDMAX(0,0)\n"); }
 
 // 0 at the bottom left, 4 in the centre, 8 at the top right.
 void writePosition(Generation& g, const WidgetNode& node) {
-    write(g, "      CALL WIDPOS(%d,%d)\n", (node.vpos + 1) * 3 + node.hpos + 1, node.expand);
+    const unsigned code = (static_cast<unsigned>(node.vpos) + 1) * 3 + static_cast<unsigned>(node.hpos) + 1;
+    write(g, "      CALL WIDPOS(%d,%d)\n", static_cast<int>(code), node.expand);
 }
 
 void writeHelp(Generation& g, const WidgetNode& node) { writeHelpStatement(g, node.name, node.bubbleHelp); }
@@ -92,7 +93,7 @@ void createMaster(Generation& g, const Placed& w) {
     write(g, "C set up master window %s\n", form.name);
     writeMinimum(g, w);
     writeMaximum(g, w);
-    write(g, "      CALL WIDTTL(%d)\n", -form.titleFlag);
+    write(g, "      CALL WIDTTL(%d)\n", difference(0, form.titleFlag));
     writeTitleText(g, form);
     writePosition(g, form);
     writeInitialState(g, form);
@@ -115,7 +116,7 @@ void createDialogue(Generation& g, const Placed& w) {
     writeTitleText(g, form);
     if (isMdiChild(form)) {
         write(g, project.gridMode != 0 ? "      CALL DIAMDI(%s,%d,%d-1,%s)\n" : "      CALL DIAMDI(%s,%d-4,%d-24,%s)\n",
-              form.parentName, form.xpos - g.masterX, form.ypos - g.masterY, form.name);
+              form.parentName, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.name);
     } else {
         write(g, "      CALL DIACMP(%s,%d,%d,%s)\n", form.parentName, form.xpos, form.ypos, form.name);
     }

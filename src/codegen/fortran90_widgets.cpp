@@ -140,7 +140,8 @@ void beginDialogue(Generation& g, WidgetNode& form) {
         add(g,
             project.gridMode != 0 ? "   %s = owCreateMDIComplexDialogueBox(%s, %d, %d-1, %d, %d"
                                   : "   %s = owCreateMDIComplexDialogueBox(%s, %d-4, %d-24, %d, %d",
-            form.name, form.parentName, form.xpos - g.masterX, form.ypos - g.masterY, form.width, form.height);
+            form.name, form.parentName, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.width,
+            form.height);
     } else {
         add(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d", form.name, form.parentName, form.xpos,
             form.ypos, form.width, form.height);

@@ -138,8 +138,6 @@ bool chooseSourceFile() {
             project.sourceName = name;
             return true;
         }
-        folder = project.sourceDir;
-        name = project.sourceName;
     }
 }
 

@@ -147,6 +147,7 @@ bool needsGeneralCallback(const WidgetNode& node); // for its own code or for a 
 bool hasListEntries(const WidgetNode& list);       // of the user's own
 std::uint64_t typesBelow(const WidgetNode& form);  // one bit for each type of the form and below
 bool holdsType(std::uint64_t types, WidgetType type);
+int difference(int a, int b); // without overflow: a file may hold any numbers
 int wholeNumber(float value); // truncated, held to what an integer can be
 
 // The font of a widget asks for a statement. `standardFace`: it has the standard face and size.

@@ -163,7 +163,7 @@ TEST_F(Driver, AsksBeforeASourceIsOverwritten) {
     project.sourceName = "old.f90";
     int asked = 0;
     chooser = [&asked](std::string&, std::string& name) {
-        EXPECT_EQ(name, "old.f90"); // starts from the names before every time
+        EXPECT_EQ(name, asked == 0 ? "old.f90" : "there.f90"); // after a No it starts from the name just chosen
         name = asked++ == 0 ? "there.f90" : "free.f90";
         return true;
     };

@@ -791,7 +791,7 @@ void oCloseOrba(void);
 void oGuiwin(void);
 void oOglwin(void);
 void oCloseDevice(void);
-int oEnqConfigStatus(const char* directory); /* 0 ready */
+int oEnqConfigStatus(const char* cfgdir); /* 0 ready */
 void oEnqDrawingLimitsAt(ODIM* paper, int* type);
 void oSetDrawingLimits(ODIM paper, int type);
 

@@ -177,7 +177,7 @@ subroutine GenerateChild1
 
 ! Set up complex dialogue box Child1 child of Main
    Child1 = owCreateComplexDialogueBox(Main, 200, 130, 400, 550, OALL, 'Child of the master', owHpos=OCENTRE, owVpos=OMIDDLE, &
-      owExpand=2, owQuitMode=OREMOVE, owInitState=OTOP, owIconFormat=ODLLICON, owIconFile='Gee')
+      owQuitMode=OREMOVE, owInitState=OTOP, owIconFormat=ODLLICON, owIconFile='Gee')
 
 ! Create main panel for form
    Child1_MainPanel=owCreatePanel(Child1, 0, 0, 400, 550, owHpos=OCENTRE, owVpos=OMIDDLE, owExpand=OON, owType=ONOBOUNDARY, &
