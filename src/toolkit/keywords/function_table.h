@@ -11,15 +11,24 @@ namespace orba {
 // Stands in the rows of owSetWidgetProp and owEnqWidgetProp for every keyword with a property.
 inline constexpr int ANY = -1;
 
-// Fn::owCreatePanel and so on, in the order of functions.def.
+// Fn::owCreatePanel and so on, in the order of functions.def. Some are macros in menu-c.h.
+#pragma push_macro("owCreateToolBar")
 #undef owCreateToolBar
+#pragma push_macro("owCreateToolBarButton")
 #undef owCreateToolBarButton
+#pragma push_macro("owCreateToolBarSeparator")
 #undef owCreateToolBarSeparator
+#pragma push_macro("owCreateDockingPane")
 #undef owCreateDockingPane
+#pragma push_macro("owAddTableBoxColumn")
 #undef owAddTableBoxColumn
+#pragma push_macro("owCreateMenuBar")
 #undef owCreateMenuBar
+#pragma push_macro("owCreatePullDownMenu")
 #undef owCreatePullDownMenu
+#pragma push_macro("owCreateMenuSeparator")
 #undef owCreateMenuSeparator
+#pragma push_macro("owDrawWindow")
 #undef owDrawWindow
 enum class Fn : int {
 #define ROUTINE(name, result, arguments, ...) name,
@@ -29,6 +38,15 @@ enum class Fn : int {
 #undef BY_REFERENCE
     count
 };
+#pragma pop_macro("owCreateToolBar")
+#pragma pop_macro("owCreateToolBarButton")
+#pragma pop_macro("owCreateToolBarSeparator")
+#pragma pop_macro("owCreateDockingPane")
+#pragma pop_macro("owAddTableBoxColumn")
+#pragma pop_macro("owCreateMenuBar")
+#pragma pop_macro("owCreatePullDownMenu")
+#pragma pop_macro("owCreateMenuSeparator")
+#pragma pop_macro("owDrawWindow")
 
 enum class Result { NONE, INT, HANDLE };
 

@@ -212,6 +212,8 @@ Widget* windowOf(Widget* widget);
 // The Qt parent for a child's view.
 QWidget* clientOf(Widget* parent);
 bool isTopLevel(const Widget& widget);
+// What a menu entry shows; null for other widgets.
+class QAction* entryAction(const Widget& entry);
 // All live widgets, in no order.
 void forEachWidget(void (*visit)(Widget& widget));
 int widgetCount();
@@ -248,6 +250,8 @@ int statusOfEvent(const Widget& widget);
 int lastKey();
 // Runs Qt until a box that was opened is answered: no event of the program is read meanwhile.
 int runBox(class QDialog& box);
+// Is told of every box before it comes up; for tests that answer boxes. Null for none.
+void setBoxWatcher(void (*watcher)(QDialog& box));
 
 // --------------------------------------------------------------------------------------------------------- layout
 

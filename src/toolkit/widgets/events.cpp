@@ -32,6 +32,8 @@ constexpr SlotRow slotRows[] = {
 };
 static_assert(std::size(slotRows) == static_cast<std::size_t>(Slot::count));
 
+void (*boxWatcher)(QDialog& box) = nullptr;
+
 // While events wait, the screen still gets its turn this often.
 constexpr int PUMP_MILLISECONDS = 20;
 
@@ -190,8 +192,11 @@ void addEventValue(float value, int whole) {
 
 int lastKey() { return session.lastKey; }
 
+void setBoxWatcher(void (*watcher)(QDialog& box)) { boxWatcher = watcher; }
+
 int runBox(QDialog& box) {
     session.openBoxes++;
+    if (boxWatcher) boxWatcher(box);
     const int result = box.exec();
     session.openBoxes--;
     return result;

@@ -179,4 +179,10 @@ const Registration registration({
 });
 
 } // namespace
+
+QAction* entryAction(const Widget& entry) {
+    const bool hasAction = entry.kind == Kind::menuEntry || entry.kind == Kind::menuSeparator;
+    return hasAction && entry.data ? static_cast<EntryData&>(*entry.data).action.data() : nullptr;
+}
+
 } // namespace orba

@@ -395,15 +395,19 @@ void closeRequested(Widget& window) {
     obeyQuitMode(window);
 }
 
-// Set while the program makes a window active, until Qt says that it is.
-int expectedActivation = 0;
+// The program made a window active: what Qt tells of it for a while is no user's doing.
+QElapsedTimer sinceActivation;
+
+void expectActivation() { sinceActivation.start(); }
+
+bool activationIsExpected() { return sinceActivation.isValid() && sinceActivation.elapsed() < SETTLING_MILLISECONDS; }
 
 void activated(Widget& window) {
-    if (expectedActivation == window.handle || isSettling(window)) {
-        expectedActivation = 0;
-        return;
-    }
-    post(window, Slot::select, 1);
+    if (!activationIsExpected() && !isSettling(window)) post(window, Slot::select, 1);
+}
+
+void deactivated(Widget& window) {
+    if (!activationIsExpected() && !QApplication::activePopupWidget()) post(window, Slot::general, OLOSTFOCUS);
 }
 
 } // namespace
@@ -456,6 +460,7 @@ void showWindow(Widget& window, bool front) {
     QWidget* outer = outerOf(window);
     if (!outer->isVisible()) {
         startSettling(window);
+        expectActivation();
         if (!data.shown) {
             fitWindow(window);
             outer->move(topLeftOf(window));
@@ -470,6 +475,9 @@ void showWindow(Widget& window, bool front) {
             outer->show();
         }
         window.view->show();
+        // Only on the screen do the bars have their final height.
+        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        if (first) fitWindow(window);
     }
     window.view->update();
     if (!front) return;
@@ -486,12 +494,12 @@ void activateView(QWidget* view) {
     QWidget* top = view->window(); // a floating pane is a window of its own
     if (QMdiSubWindow* frame = dataOfWindow(*window).frame) {
         if (frame->mdiArea()->activeSubWindow() != frame) {
-            expectedActivation = window->handle;
+            expectActivation();
             frame->mdiArea()->setActiveSubWindow(frame);
         }
     }
     if (top->isActiveWindow()) return;
-    expectedActivation = window->handle;
+    expectActivation();
     top->activateWindow();
 }
 
@@ -548,7 +556,7 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event) {
         if (dataOfWindow(*window).frame->isVisible() && !isSettling(*window)) post(*window, Slot::general, OMOVED);
         return false;
     case QEvent::WindowActivate: activated(*window); return false;
-    case QEvent::WindowDeactivate: post(*window, Slot::general, OLOSTFOCUS); return false;
+    case QEvent::WindowDeactivate: deactivated(*window); return false;
     default: return false;
     }
 }
@@ -559,8 +567,8 @@ bool FormWindow::event(QEvent* event) {
         if (window && window->data && !dataOfWindow(*window).frame) {
             if (event->type() == QEvent::WindowActivate) {
                 activated(*window);
-            } else if (!QApplication::activePopupWidget()) {
-                post(*window, Slot::general, OLOSTFOCUS);
+            } else {
+                deactivated(*window);
             }
         }
     }
