@@ -122,6 +122,7 @@ private:
         const auto* handleView = dynamic_cast<HandleView*>(target);
         const bool onHandle = handleView && handleView->parentWidget() == content;
         if (!onHandle && !ownsMouse(target)) return false;
+        inputByUser();
         session.lastKey = OKEYLEFTBUTTON;
         grip = onHandle ? handleView->grip : -1;
         pressTarget = onHandle ? nullptr : static_cast<QWidget*>(target);

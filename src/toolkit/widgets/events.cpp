@@ -164,6 +164,10 @@ bool hasCallback(const Widget& widget, Slot slot) { return widget.callbacks[stat
 
 void post(int handle, Slot slot, int status, QPointF position, const QString& text) {
     if (session.programDepth > 0) return;
+    if (slot == Slot::select && handle == session.expectedFocus && handle != 0) {
+        session.expectedFocus = 0;
+        return;
+    }
     Widget* widget = widgetOf(handle);
     if (!widget) return;
     if (!hasCallback(*widget, slot)) {

@@ -43,6 +43,7 @@ struct Session {
     int entrySelection = 0;
     bool managed = false; // owManage ran
     int openBoxes = 0;    // boxes of the toolkit that wait for an answer
+    int expectedFocus = 0;         // widget that gets the focus once its window is active
     int programDepth = 0; // above 0 while the program's own calls run: what Qt signals then is no user's doing
 };
 
@@ -82,6 +83,7 @@ void forgetWidget(Widget& widget); // adoption, focus, queue
 // Windows.
 void raiseWindow(Widget& window);
 void showWindow(Widget& window, bool front);
+void inputByUser();               // a key or button: what happens now is the user's doing
 void activateView(QWidget* view); // its window takes the input; no event follows
 bool inputBlocked(const QObject* target);
 void fitWindow(Widget& window);            // gives the client area the size the program asked for

@@ -96,11 +96,13 @@ public:
         switch (event->type()) {
         case QEvent::KeyPress:
             if (!target->isWidgetType()) return false;
+            inputByUser();
             if (blocked(target)) return true;
             return takeKey(target, *static_cast<QKeyEvent*>(event));
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
             if (!target->isWidgetType()) return false;
+            inputByUser();
             if (blocked(target)) {
                 if (Widget* window = widgetOf(session.activeWindow)) raiseWindow(*window);
                 return true;

@@ -29,10 +29,17 @@ void preferX11() {
     }
 }
 
+// The call that does it is under way.
+void resetSession() {
+    const int depth = session.programDepth;
+    session = Session{};
+    session.programDepth = depth;
+}
+
 Word initializeMenu(const Arguments&) {
     if (session.state != 0) return 0;
     startQt();
-    session = Session{};
+    resetSession();
     resetRegistry();
     loadColours();
     installInputFilter();
@@ -57,9 +64,7 @@ Word closeMenu(const Arguments&) {
     eraseEverything();
     removeInputFilter();
     for (auto* closer : closers()) closer();
-    const int depth = session.programDepth;
-    session = Session{};
-    session.programDepth = depth;
+    resetSession();
     delete ownApplication;
     ownApplication = nullptr;
     return 0;

@@ -486,6 +486,11 @@ void showWindow(Widget& window, bool front) {
     if (data.frame) data.frame->mdiArea()->setActiveSubWindow(data.frame);
 }
 
+void inputByUser() {
+    sinceActivation.invalidate();
+    session.expectedFocus = 0;
+}
+
 void activateView(QWidget* view) {
     Widget* window = windowOf(widgetAt(view));
     if (!window) return;
@@ -500,6 +505,7 @@ void activateView(QWidget* view) {
     }
     if (top->isActiveWindow()) return;
     expectActivation();
+    session.expectedFocus = widgetAt(view)->handle;
     top->activateWindow();
 }
 
@@ -521,6 +527,9 @@ void FormWindow::moveEvent(QMoveEvent* event) {
     QMainWindow::moveEvent(event);
     Widget* window = windowRecord(*this);
     if (!window || !window->data || isMinimized() || !isVisible() || dataOfWindow(*window).frame) return;
+    QRect& known = dataOfWindow(*window).known;
+    if (known.topLeft() == pos()) return; // the same news again
+    known.moveTopLeft(pos());
     if (!isSettling(*window)) post(*window, Slot::general, OMOVED);
 }
 
@@ -528,8 +537,11 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     Widget* window = windowRecord(*this);
     if (!window || !window->data || isMinimized() || !isVisible()) return;
+    WindowData& data = dataOfWindow(*window);
+    if (data.known.size() == size()) return;
+    data.known.setSize(size());
     if (isSettling(*window)) return;
-    if (!dataOfWindow(*window).frame) dataOfWindow(*window).client = sizeOf(*window);
+    if (!data.frame) data.client = sizeOf(*window);
     post(*window, Slot::general, ORESIZED);
 }
 
