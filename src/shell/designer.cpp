@@ -84,7 +84,7 @@ void startDesigner(const std::string& commandLine) {
     loadStartupDefaults(settingsPlaces.dataDir);
     leaveTextMode();
     showSplash();
-    if (preferences.autoBackupOn) owDefineTimerCallback(preferences.autoBackupMinutes * 60000, CMD_AUTO_BACKUP);
+    startAutoBackup();
     makeFirstProject();
     const FilePlace place = placeFromCommandLine(commandLine);
     if (!place.name.empty()) {

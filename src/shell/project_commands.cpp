@@ -22,6 +22,8 @@
 #include "surface/selection.h"
 #include "surface/state.h"
 
+#include <algorithm>
+
 // Where the form file dialogues were left; the name is also where Save Form goes.
 static FilePlace formFile;
 
@@ -83,6 +85,14 @@ void saveProjectCommand() {
 void saveProjectAsCommand() {
     selectTool(TOOL_SELECTOR);
     saved(saveUnderChosenName());
+}
+
+static constexpr int MINUTE = 60000;           // milliseconds
+static constexpr int LONGEST_PERIOD = 24 * 60; // minutes; longer ones are kept in the file but not waited for
+
+void startAutoBackup() {
+    const int minutes = std::clamp(preferences.autoBackupMinutes, 1, LONGEST_PERIOD);
+    owDefineTimerCallback(preferences.autoBackupOn ? minutes * MINUTE : 0, CMD_AUTO_BACKUP);
 }
 
 void autoBackupCommand() { autoBackup(); }

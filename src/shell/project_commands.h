@@ -25,6 +25,7 @@ void startNewProject();
 
 void showProjectTitle(); // in the title bar
 void closeProject();     // at the end of the program: live forms and records go
+void startAutoBackup();  // with the period of the preferences, or stops it
 void forgetFormFile();   // the next Save Form asks for a name
 
 void newProjectCommand();    // CMD_NEW_PROJECT

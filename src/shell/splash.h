@@ -1,4 +1,5 @@
-// The pause before the windows show: the program's name and picture for three seconds, or until a key or the mouse is pressed.
+// The pause before the windows show: the program's name and picture for three seconds, or until a key or the mouse is
+// pressed.
 #pragma once
 
 // Nothing when the environment variable ORBA_NO_SPLASH is set.
