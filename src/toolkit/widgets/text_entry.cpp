@@ -21,6 +21,7 @@ constexpr int plainMargin = 3; // pixels around the text of many lines
 class RichField : public QTextEdit {
 public:
     using QTextEdit::QTextEdit;
+    std::function<int()> room; // characters that may still be entered, -1 any number
 
 protected:
     QMimeData* createMimeDataFromSelection() const override {
@@ -36,6 +37,9 @@ protected:
             QTextCursor cursor = textCursor();
             insertRtf(cursor, source->data("text/rtf"), cursor.charFormat());
             ensureCursorVisible();
+        } else if (const int left = room ? room() : -1; left >= 0 && source->text().size() > left) {
+            insertPlainText(source->text().left(left));
+            QApplication::beep();
         } else {
             QTextEdit::insertFromMimeData(source);
         }
@@ -115,15 +119,14 @@ void TextEntry::makeLine() {
 }
 
 void TextEntry::makeEdit() {
-    edit_ = new RichField(this);
+    auto* field = new RichField(this);
+    field->room = [this] { return room(); };
+    edit_ = field;
     edit_->installEventFilter(this);
     edit_->viewport()->installEventFilter(this);
     edit_->setAcceptRichText(rich());
     edit_->setTabChangesFocus(!rich());
-    connect(edit_->document(), &QTextDocument::contentsChange, this, [this](int position, int removed, int added) {
-        forgetIndex();
-        if (removed != added || removed > 0) limitLength(position, added);
-    });
+    connect(edit_->document(), &QTextDocument::contentsChange, this, [this] { forgetIndex(); });
     connect(edit_, &QTextEdit::textChanged, this, [this] { userChanged(); });
     connect(edit_, &QTextEdit::cursorPositionChanged, this, [this] { userMoved(); });
     connect(edit_, &QTextEdit::selectionChanged, this, [this] { userMoved(); });
@@ -283,27 +286,21 @@ void TextEntry::focusLeft() {
     if (hooks_.committed) hooks_.committed();
 }
 
-// Keeps what a user enters within the limit: what is too much goes again from the end of what came.
-void TextEntry::limitLength(int position, int added) {
-    if (quiet_ || options_.limit <= 0 || options_.label || added <= 0) return;
-    QMetaObject::invokeMethod(
-        this,
-        [this, position, added] {
-            if (!edit_) return;
-            const int excess = index().length() - options_.limit;
-            if (excess <= 0) return;
-            QTextCursor cursor(edit_->document());
-            const int last = edit_->document()->characterCount() - 1;
-            const int end = std::min(position + added, last);
-            const int endByte = index().fromCursor(end);
-            cursor.setPosition(std::max(position, index().toCursor(endByte - excess)));
-            cursor.setPosition(end, QTextCursor::KeepAnchor);
-            cursor.joinPreviousEditBlock();
-            cursor.removeSelectedText();
-            cursor.endEditBlock();
-            QApplication::beep();
-        },
-        Qt::QueuedConnection);
+// Characters that a user may still enter in place of the selection, -1 for any number.
+int TextEntry::room() const {
+    if (options_.limit <= 0 || options_.label) return -1;
+    int start = 0, end = 0;
+    selection(start, end);
+    return std::max(0, options_.limit - index().length() + end - start);
+}
+
+// A text edit has no limit of its own; keys beyond it are refused here.
+bool TextEntry::refusesKey(const QKeyEvent& key) const {
+    if (!edit_ || edit_->isReadOnly() || key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+    const bool newLine = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const bool enters = newLine || (!key.text().isEmpty() && key.text()[0].isPrint());
+    const int left = room();
+    return enters && left >= 0 && left < (newLine && !rich() ? 2 : 1);
 }
 
 QString TextEntry::linkAt(const QPoint& position) const {
@@ -337,6 +334,10 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event) {
             if (reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason) focusLeft();
         }
         break;
+    case QEvent::KeyPress:
+        if (watched != field() || !refusesKey(*static_cast<QKeyEvent*>(event))) break;
+        QApplication::beep();
+        return true;
     case QEvent::MouseButtonPress:
         if (watched != pointed) break;
         userCame();

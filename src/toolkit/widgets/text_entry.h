@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 
+class QKeyEvent;
 class QMouseEvent;
 
 namespace orba {
@@ -152,7 +153,8 @@ private:
     void focusLeft();
     bool mouseReleased(QMouseEvent* event);
     QString linkAt(const QPoint& position) const;
-    void limitLength(int position, int added);
+    int room() const;
+    bool refusesKey(const QKeyEvent& key) const;
     void mergeFormat(const QTextCharFormat& format);
     void forgetIndex() { indexed_ = false; }
     bool formatsWholeText() const;
