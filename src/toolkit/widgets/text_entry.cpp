@@ -325,9 +325,6 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusIn:
         if (watched == field()) focusCame(static_cast<QFocusEvent*>(event)->reason());
         break;
-    case QEvent::KeyPress:
-        if (watched == field()) userCame();
-        break;
     case QEvent::FocusOut:
         if (watched == field()) {
             auto reason = static_cast<QFocusEvent*>(event)->reason();
@@ -335,6 +332,7 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event) {
         }
         break;
     case QEvent::KeyPress:
+        if (watched == field()) userCame();
         if (watched != field() || !refusesKey(*static_cast<QKeyEvent*>(event))) break;
         QApplication::beep();
         return true;
