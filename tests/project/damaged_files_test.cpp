@@ -206,11 +206,11 @@ TEST_F(DamagedFile, TheFirstSaveOverItKeepsItBeside) {
     load(cut);
     ASSERT_TRUE(saveProject(folder.path, "elsewhere.wdp", true));
     ASSERT_TRUE(saveProject(folder.path + "/.", "bad.wdp", false)) << "the same file under another name";
-    EXPECT_EQ(readBytes(folder.file("bad.wdp.bak")), cut);
+    EXPECT_EQ(byteDifference(readBytes(folder.file("bad.wdp.bak")), cut), "");
     const std::string first = readBytes(folder.file("bad.wdp"));
     project.forms->text = "changed";
     ASSERT_TRUE(saveProject(folder.path, "bad.wdp", false));
-    EXPECT_EQ(readBytes(folder.file("bad.wdp.bak")), cut) << "the second save keeps nothing";
+    EXPECT_EQ(byteDifference(readBytes(folder.file("bad.wdp.bak")), cut), "") << "the second save keeps nothing";
     EXPECT_NE(readBytes(folder.file("bad.wdp")), first);
 }
 
