@@ -5,7 +5,7 @@
 
 #include <menu-c.h>
 
-enum { PAGE_WIDTH = 720, PAGE_HEIGHT = 480, ROW = 26 };
+static const int PAGE_WIDTH = 720, PAGE_HEIGHT = 480; /* pixels */
 
 typedef struct Page {
     const char* title;

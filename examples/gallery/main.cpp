@@ -6,7 +6,8 @@
 #include <string.h>
 
 static const Page* const pages[] = {&listPage, &treePage, &propertyPage, &boxPage, &iconPage, &tabPage, &barPage};
-enum { PAGES = sizeof pages / sizeof pages[0], MARGIN = 8, LIST_WIDTH = 170 };
+enum { PAGES = sizeof pages / sizeof pages[0] };
+static const int MARGIN = 8, LIST_WIDTH = 170; // pixels
 
 static int status, panels[PAGES], shown = -1;
 

@@ -1,6 +1,7 @@
 // List boxes in their three ways of choosing, sorted and filled by themselves, and combo boxes.
 #include "gallery.h"
 
+#include <initializer_list>
 #include <stdio.h>
 
 static int choices[3], logBox, combos[3];

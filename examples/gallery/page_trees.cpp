@@ -1,6 +1,7 @@
 // Tree views with each icon set, and with icons of the program.
 #include "gallery.h"
 
+#include <initializer_list>
 #include <stdio.h>
 
 static int tree(int panel, int x, const char* title, int set) {
