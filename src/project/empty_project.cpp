@@ -45,6 +45,22 @@ WidgetNode* mainPanelFor(const WidgetNode& form) {
     return panel;
 }
 
+// Columns and rows that an array or table box can be shown with: sizes for each, and not more than a damaged count in
+// the file may claim.
+bool mendCells(WidgetNode& node) {
+    constexpr int MOST = 10000; // beyond those whose sizes the file holds
+    if (node.type != TYPE_TEXT_ARRAY && node.type != TYPE_VALUE_ARRAY && node.type != TYPE_TABLE_BOX) return false;
+    const auto mendCount = [](int& count, const std::vector<int>& sizes) {
+        const int held = static_cast<int>(sizes.size());
+        const int sound = count < 0 || count > held + MOST ? held : count;
+        const bool changed = sound != count;
+        count = sound;
+        return changed;
+    };
+    const bool columns = mendCount(node.columns, node.columnWidths);
+    return mendCount(node.rows, node.rowHeights) || columns;
+}
+
 } // namespace
 
 std::string resourceName(std::string_view path) {
@@ -125,6 +141,8 @@ bool mendForms(WidgetNode* behind) {
             while (following && !following->next) following = following->parent;
             following = following ? following->next : nullptr;
             deleteNode(node);
+            mended = true;
+        } else if (mendCells(*node)) {
             mended = true;
         }
         node = following;

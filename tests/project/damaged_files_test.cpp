@@ -223,17 +223,26 @@ TEST_F(DamagedFile, MendingTakesAwayWhatCannotBeShown) {
     addRecord(form->child, TYPE_FORM, "Form1_Inner");
     addRecord(form->child, TYPE_SLIDER, "Form1_Slider1");
     addRecord(nullptr, TYPE_BUTTON, "Loose");
+    panel->columns = 2000000000; // means nothing on a panel
+    WidgetNode* array = addRecord(panel, TYPE_VALUE_ARRAY, "Form1_ValArray1");
+    array->columns = 2000000000;
+    array->rows = -5;
+    array->columnWidths.clear();
+    array->rowHeights.clear();
     addRecord(nullptr, TYPE_FORM, "Form2");
     writeBytes(folder.file("bad.wdp"), projectBytes());
     BoxScript boxes;
     ASSERT_TRUE(loadProject(folder.path, "bad.wdp")) << "read as it stands";
-    EXPECT_EQ(countRecords(), 10);
+    EXPECT_EQ(countRecords(), 11);
     boxes.expect(incompleteBox(folder.file("bad.wdp")));
     mendLoadedProject();
     std::string names;
     for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms)) names += n->name + " ";
-    EXPECT_EQ(names,
-              "Form1 Form1_MainPanel Form1_Button1 Form1_Panel1 Form1_Strange Form1_Slider1 Form2 Form2_MainPanel ");
+    EXPECT_EQ(names, "Form1 Form1_MainPanel Form1_Button1 Form1_Panel1 Form1_Strange Form1_ValArray1 Form1_Slider1 "
+                     "Form2 Form2_MainPanel ");
+    const WidgetNode* mended = findName(project.forms, "Form1_ValArray1", false);
+    EXPECT_EQ(std::pair(mended->columns, mended->rows), std::pair(0, 0));
+    EXPECT_EQ(findName(project.forms, "Form1_Panel1", false)->columns, 2000000000);
     mendLoadedProject();
 }
 
