@@ -53,3 +53,16 @@ function(add_room_tests name)
   gtest_discover_tests(${name}_tests DISCOVERY_MODE PRE_TEST
     PROPERTIES TIMEOUT ${ROOM_TIMEOUT} ENVIRONMENT "${ROOM_ENVIRONMENT}" LABELS ${name} ${serial})
 endfunction()
+
+# toolkit_beside(TARGET) lets a program of the build tree find the toolkit that generated programs are compiled against,
+# through a file beside it.
+function(toolkit_beside target)
+  if(TARGET orbawidg_f)
+    file(GENERATE OUTPUT $<TARGET_FILE_DIR:${target}>/wdesign.places CONTENT
+"include=${PROJECT_BINARY_DIR}/include/orbawidg
+module=${PROJECT_BINARY_DIR}/include/orbawidg
+module_dbl=${PROJECT_BINARY_DIR}/include/orbawidg/dbl
+library=$<TARGET_FILE_DIR:orbawidg>
+")
+  endif()
+endfunction()
