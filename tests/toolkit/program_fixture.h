@@ -62,8 +62,8 @@ protected:
         for (int id = owAction(nullptr); id != mark; id = owAction(nullptr)) {
             OACTION action;
             owEnqActionState(&action);
-            all.push_back({id, action.widget, action.status, action.text, action.xpos, action.ypos, action.count, action.iargs[0],
-                           action.iargs[1]});
+            all.push_back({id, action.widget, action.status, action.text, action.xpos, action.ypos, action.count,
+                           action.iargs[0], action.iargs[1]});
         }
         return all;
     }
@@ -82,8 +82,8 @@ protected:
     }
 
     int entry(const char* string, int height = 22, int type = OSTANDARD, int field = 0, int display = OEDIT) {
-        return owCreateTextEntry(panel, 10, 10, 200, height, string, field, display, owVpos, OTOP, owEntryType, type, owCallback, OIDENT,
-                                 owSelectCallback, OIDENT, owChangeCallback, OIDENT, 0);
+        return owCreateTextEntry(panel, 10, 10, 200, height, string, field, display, owVpos, OTOP, owEntryType, type,
+                                 owCallback, OIDENT, owSelectCallback, OIDENT, owChangeCallback, OIDENT, 0);
     }
 
     int window = 0, panel = 0;

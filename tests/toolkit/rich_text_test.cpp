@@ -10,7 +10,8 @@ using namespace orba;
 
 namespace {
 
-const QByteArray sample = R"({\rtf1\ansi\deff0{\fonttbl{\f0\fnil Sans;}{\f1 Courier New;}}{\colortbl ;\red255\green0\blue0;\red0\green0\blue255;}
+const QByteArray sample =
+    R"({\rtf1\ansi\deff0{\fonttbl{\f0\fnil Sans;}{\f1 Courier New;}}{\colortbl ;\red255\green0\blue0;\red0\green0\blue255;}
 \pard\qc\f0\fs28\b Title\b0\par
 \pard\ql\fs20 plain {\i slanted} {\ul under}{\cf1 red} \f1 code\f0  caf\'e9 \u8364? done\par
 {\*\pn\pnlvlblt\pnf0{\pntxtb\'b7}}\fi-360\li360 one\par
@@ -26,7 +27,8 @@ QTextCharFormat formatOf(const QTextDocument& document, const char* word) {
 }
 
 void check(const QTextDocument& document) {
-    EXPECT_EQ(document.toPlainText(), QString::fromUtf8("Title\nplain slanted underred code café € done\none\ntwo\nindented\nlink\nlast"));
+    EXPECT_EQ(document.toPlainText(),
+              QString::fromUtf8("Title\nplain slanted underred code café € done\none\ntwo\nindented\nlink\nlast"));
     EXPECT_EQ(formatOf(document, "Title").fontWeight(), int(QFont::Bold));
     EXPECT_EQ(formatOf(document, "Title").fontPointSize(), 14);
     EXPECT_NE(formatOf(document, "plain").fontWeight(), int(QFont::Bold));
@@ -79,11 +81,12 @@ TEST_F(RichText, EndsInSomeTextWhateverTheBytes) {
         read(document, sample.left(length));
         EXPECT_LE(document.characterCount(), 200);
     }
-    for (const QByteArray& bytes : {QByteArray("{\\rtf1 a") + QByteArray(200000, '{') + "b" + QByteArray(200000, '}') + "}",
-                                    QByteArray("{\\rtf1\\u99999999999 x\\fs-5 y\\li99999999999 z\\'zz\\'"),
-                                    QByteArray("{\\rtf1\\bin999999999 abc"), QByteArray("}}}}{{{{"),
-                                    QByteArray("{\\rtf1{\\fonttbl{\\f0 ") + QByteArray(100000, 'n') + ";}}\\f0 t\\f77 u}",
-                                    QByteArray("\\\\\\", 3), QByteArray("{\\rtf1\\cf5 c\\highlight9 d{\\colortbl;\\red999;}}")}) {
+    for (const QByteArray& bytes :
+         {QByteArray("{\\rtf1 a") + QByteArray(200000, '{') + "b" + QByteArray(200000, '}') + "}",
+          QByteArray("{\\rtf1\\u99999999999 x\\fs-5 y\\li99999999999 z\\'zz\\'"),
+          QByteArray("{\\rtf1\\bin999999999 abc"), QByteArray("}}}}{{{{"),
+          QByteArray("{\\rtf1{\\fonttbl{\\f0 ") + QByteArray(100000, 'n') + ";}}\\f0 t\\f77 u}",
+          QByteArray("\\\\\\", 3), QByteArray("{\\rtf1\\cf5 c\\highlight9 d{\\colortbl;\\red999;}}")}) {
         QTextDocument document;
         read(document, bytes);
         EXPECT_LT(document.characterCount(), 1000);
@@ -93,8 +96,9 @@ TEST_F(RichText, EndsInSomeTextWhateverTheBytes) {
 TEST(ProgramText, EveryByteComesBackAsItWentIn) {
     std::string all;
     for (int byte = 1; byte < 256; ++byte) all += char(byte);
-    for (const std::string& bytes : {all, std::string("plain"), std::string("caf\xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80"), std::string("\xC3"),
-                                     std::string("\xE2\x82"), std::string("\xED\xB2\x80"), std::string("\xC0\x80"), std::string()})
+    for (const std::string& bytes :
+         {all, std::string("plain"), std::string("caf\xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80"), std::string("\xC3"),
+          std::string("\xE2\x82"), std::string("\xED\xB2\x80"), std::string("\xC0\x80"), std::string()})
         EXPECT_EQ(toProgram(fromProgram(bytes)), bytes);
     EXPECT_EQ(fromProgram("caf\xC3\xA9").size(), 4);
     EXPECT_EQ(unifyLineEnds("a\r\nb\rc\nd\r\n"), "a\nb\nc\nd\n");

@@ -32,7 +32,8 @@ protected:
     static void paint(QTextDocument& document, SyntaxLanguage language) {
         for (int i = 0; i < syntaxCategoryCount; ++i) syntaxTree().fonts[std::size_t(i)].colour = i;
         syntaxChanged();
-        auto* highlighter = new SyntaxHighlighter(&document, language, [](int colour) { return QColor(colour, colour, colour); });
+        auto* highlighter =
+            new SyntaxHighlighter(&document, language, [](int colour) { return QColor(colour, colour, colour); });
         highlighter->rehighlight();
     }
 
@@ -47,8 +48,9 @@ protected:
 
 TEST_F(Syntax, ColoursFortran90) {
     QTextDocument document;
-    document.setPlainText("SUBROUTINE t ! note if\n  integer :: my1 = 42\n  x = 1.5d-3 + 'it''s' // \"two\"\n"
-                          "  call owCreatePanel(form, owExpand=OON)\n  if (a.eq.1.and.b) stop\n  call oMoveTo2D(1.0, 2.0)");
+    document.setPlainText(
+        "SUBROUTINE t ! note if\n  integer :: my1 = 42\n  x = 1.5d-3 + 'it''s' // \"two\"\n"
+        "  call owCreatePanel(form, owExpand=OON)\n  if (a.eq.1.and.b) stop\n  call oMoveTo2D(1.0, 2.0)");
     paint(document, SyntaxLanguage::Fortran90);
     expectWords(document, {{"SUBROUTINE", SyntaxCategory::Language},
                            {"note if", SyntaxCategory::Comments},
@@ -69,7 +71,9 @@ TEST_F(Syntax, ColoursFortran77CommentsByColumn) {
     QTextDocument document;
     document.setPlainText("C a comment\n      CALL BUTTON(1)\n* other");
     paint(document, SyntaxLanguage::Fortran77);
-    expectWords(document, {{"a comment", SyntaxCategory::Comments}, {"CALL", SyntaxCategory::Language}, {"BUTTON", SyntaxCategory::Widgets},
+    expectWords(document, {{"a comment", SyntaxCategory::Comments},
+                           {"CALL", SyntaxCategory::Language},
+                           {"BUTTON", SyntaxCategory::Widgets},
                            {"other", SyntaxCategory::Comments}});
 }
 
@@ -91,7 +95,8 @@ TEST_F(Syntax, ColoursCWithCommentsOverLines) {
 TEST_F(Syntax, KeepsAttributesAndKeywordsInItsFile) {
     QTemporaryDir folder;
     const std::string path = folder.filePath("a.syn").toStdString();
-    owSetSyntaxFont(5, owFontFace, "Courier New", owTextCol, 0x01123456, owBold, 1, owItalic, 1, owUnderline, 1, owStrikeout, 1, 0);
+    owSetSyntaxFont(5, owFontFace, "Courier New", owTextCol, 0x01123456, owBold, 1, owItalic, 1, owUnderline, 1,
+                    owStrikeout, 1, 0);
     owSetSyntaxFont(0, owTextCol, 3, 0);
     const SyntaxTree before = syntaxTree();
     ASSERT_EQ(owSaveSyntaxKeywords(path.c_str()), 1);

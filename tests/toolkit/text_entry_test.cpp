@@ -72,12 +72,13 @@ TEST_F(TextEntries, AnswersForPositionsAndLines) {
     struct {
         int handle, property, at, result;
     } const rows[] = {
-        {rich, 0, 1, 1},  {rich, 0, 4, 1},  {rich, 0, 5, 2},   {rich, 0, 6, 3},   {rich, 0, 14, 4},  {rich, 0, 999, 4}, {rich, 1, 0, 0},
-        {rich, 1, 1, 4},  {rich, 1, 2, 5},  {rich, 1, 3, 11},  {rich, 1, 4, -1},  {rich, 2, 1, 3},   {rich, 2, 5, 0},   {rich, 2, 6, 5},
-        {rich, 2, 12, 3}, {rich, 5, 0, 14}, {rich, 6, 0, 17},  {plain, 1, 1, 5},  {plain, 1, 2, 7},  {plain, 1, 3, 14}, {plain, 2, 8, 5},
-        {plain, 0, 8, 3}, {plain, 5, 0, 17}, {plain, 6, 0, 17},
+        {rich, 0, 1, 1},  {rich, 0, 4, 1},   {rich, 0, 5, 2},  {rich, 0, 6, 3},  {rich, 0, 14, 4},  {rich, 0, 999, 4},
+        {rich, 1, 0, 0},  {rich, 1, 1, 4},   {rich, 1, 2, 5},  {rich, 1, 3, 11}, {rich, 1, 4, -1},  {rich, 2, 1, 3},
+        {rich, 2, 5, 0},  {rich, 2, 6, 5},   {rich, 2, 12, 3}, {rich, 5, 0, 14}, {rich, 6, 0, 17},  {plain, 1, 1, 5},
+        {plain, 1, 2, 7}, {plain, 1, 3, 14}, {plain, 2, 8, 5}, {plain, 0, 8, 3}, {plain, 5, 0, 17}, {plain, 6, 0, 17},
     };
-    for (const auto& row : rows) EXPECT_EQ(position(row.handle, row.property, row.at), row.result) << row.property << ' ' << row.at;
+    for (const auto& row : rows)
+        EXPECT_EQ(position(row.handle, row.property, row.at), row.result) << row.property << ' ' << row.at;
     owSetSelectedTextRange(rich, 7, 7);
     EXPECT_EQ(position(rich, 0, -1), 3);
     EXPECT_EQ(position(rich, 1, -1), 5);
@@ -270,7 +271,8 @@ TEST_F(TextEntries, FontsGoToTheSelectionOfRichText) {
     owSetFontAttribs(text, owFontFace, "Courier New", owPointSize, 20, owBold, 1, 0);
     char face[64];
     int size = 0, bold = 0, underline = 1;
-    owEnqFontAttribs(text, owLength, 64, owFontFace, face, owPointSize, &size, owBold, &bold, owUnderline, &underline, 0);
+    owEnqFontAttribs(text, owLength, 64, owFontFace, face, owPointSize, &size, owBold, &bold, owUnderline, &underline,
+                     0);
     EXPECT_STREQ(face, "Courier New");
     EXPECT_EQ(size, 20);
     EXPECT_EQ(bold, 1);
@@ -287,7 +289,8 @@ TEST_F(TextEntries, ParagraphsKeepJustificationIndentsAndBullets) {
     owSetSelectedTextRange(text, 6, 6);
     owSetParagraphProp(text, owJustify, 1, owFirstIndent, 500, owRightIndent, 500, owLeftIndent, -500, owBullet, 1, 0);
     int justify = 9, first = 9, right = 9, left = 9, bullet = 9;
-    owEnqParagraphProp(text, owJustify, &justify, owFirstIndent, &first, owRightIndent, &right, owLeftIndent, &left, owBullet, &bullet, 0);
+    owEnqParagraphProp(text, owJustify, &justify, owFirstIndent, &first, owRightIndent, &right, owLeftIndent, &left,
+                       owBullet, &bullet, 0);
     EXPECT_EQ(justify, 1);
     EXPECT_EQ(first, 500);
     EXPECT_EQ(right, 500);
@@ -305,8 +308,8 @@ TEST_F(TextEntries, ParagraphsKeepJustificationIndentsAndBullets) {
 }
 
 TEST_F(TextEntries, AddressesAreLinksWhenAsked) {
-    const int text = owCreateTextEntry(panel, 10, 10, 300, 60, "", 0, OEDIT, owVpos, OTOP, owEntryType, ORICHEDIT, owAutoURL, OON, owLinkCallback,
-                                       OIDENT, 0);
+    const int text = owCreateTextEntry(panel, 10, 10, 300, 60, "", 0, OEDIT, owVpos, OTOP, owEntryType, ORICHEDIT,
+                                       owAutoURL, OON, owLinkCallback, OIDENT, 0);
     owSetTextSetting(text, "http://one.example/a, and more", 0);
     QTextEdit* edit = textEntryOf(widgetOf(text))->editor();
     QApplication::processEvents();
@@ -324,7 +327,8 @@ TEST_F(TextEntries, AddressesAreLinksWhenAsked) {
 }
 
 TEST_F(TextEntries, ShowsItsTwoBackgrounds) {
-    const int text = owCreateTextEntry(panel, 10, 10, 200, 22, "x", 0, OEDIT, owVpos, OTOP, owBack1Col, 5, owBack2Col, 6, owTextCol, 2, 0);
+    const int text = owCreateTextEntry(panel, 10, 10, 200, 22, "x", 0, OEDIT, owVpos, OTOP, owBack1Col, 5, owBack2Col,
+                                       6, owTextCol, 2, 0);
     const int other = entry("");
     EXPECT_EQ(field(text)->palette().color(QPalette::Base), colourOf(5));
     EXPECT_EQ(field(text)->palette().color(QPalette::Text), colourOf(2));

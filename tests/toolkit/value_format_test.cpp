@@ -14,27 +14,19 @@ struct Shown {
     const char* text;
 };
 
-constexpr ValueSign minus = ValueSign::Minus, square = ValueSign::SquareBrackets, round = ValueSign::RoundBrackets, red = ValueSign::Red;
+constexpr ValueSign minus = ValueSign::Minus, square = ValueSign::SquareBrackets, round = ValueSign::RoundBrackets,
+                    red = ValueSign::Red;
 
 const Shown shown[] = {
-    {ValueType::Decimal, 12.345, 2, minus, "12.35"},
-    {ValueType::Decimal, -12.345, 0, square, "[12]"},
-    {ValueType::Decimal, -0.001, 2, minus, "0.00"},
-    {ValueType::Scientific, -26500, 2, round, "(2.65E+04)"},
-    {ValueType::Binary, 10, 3, minus, "1010"},
-    {ValueType::Octal, -64, 0, minus, "-100"},
-    {ValueType::Hexadecimal, 255, 2, minus, "FF"},
-    {ValueType::Degrees, 45.5, 1, minus, "45.5°"},
-    {ValueType::Percent, -5, 0, red, "5%"},
-    {ValueType::Fahrenheit, 98.6, 1, minus, "98.6°F"},
-    {ValueType::Celsius, -40, 0, minus, "-40°C"},
-    {ValueType::Kelvin, 273.15, 2, minus, "273.15K"},
-    {ValueType::Pounds, 1.5, 2, minus, "£1.50"},
-    {ValueType::Dollars, -1.5, 2, round, "($1.50)"},
-    {ValueType::Deutschmarks, 7, 0, minus, "7 DM"},
-    {ValueType::Francs, 7, 0, minus, "7 FF"},
-    {ValueType::Yen, 700, 0, minus, "¥700"},
-    {ValueType::Euro, 0.5, 2, minus, "€0.50"},
+    {ValueType::Decimal, 12.345, 2, minus, "12.35"}, {ValueType::Decimal, -12.345, 0, square, "[12]"},
+    {ValueType::Decimal, -0.001, 2, minus, "0.00"},  {ValueType::Scientific, -26500, 2, round, "(2.65E+04)"},
+    {ValueType::Binary, 10, 3, minus, "1010"},       {ValueType::Octal, -64, 0, minus, "-100"},
+    {ValueType::Hexadecimal, 255, 2, minus, "FF"},   {ValueType::Degrees, 45.5, 1, minus, "45.5°"},
+    {ValueType::Percent, -5, 0, red, "5%"},          {ValueType::Fahrenheit, 98.6, 1, minus, "98.6°F"},
+    {ValueType::Celsius, -40, 0, minus, "-40°C"},    {ValueType::Kelvin, 273.15, 2, minus, "273.15K"},
+    {ValueType::Pounds, 1.5, 2, minus, "£1.50"},     {ValueType::Dollars, -1.5, 2, round, "($1.50)"},
+    {ValueType::Deutschmarks, 7, 0, minus, "7 DM"},  {ValueType::Francs, 7, 0, minus, "7 FF"},
+    {ValueType::Yen, 700, 0, minus, "¥700"},         {ValueType::Euro, 0.5, 2, minus, "€0.50"},
 };
 
 } // namespace
@@ -52,7 +44,8 @@ TEST(ValueFormat, ReadsBackWhatItShowsAndWhatItOffersToEdit) {
         for (ValueSign sign : {minus, square, round})
             for (double value : {-37.0, 0.0, 37.0, 123500.0}) {
                 ValueFormat format{valueType(type), sign, 3};
-                EXPECT_EQ(parseValue(formatValue(value, format), format), value) << type << ' ' << formatValue(value, format);
+                EXPECT_EQ(parseValue(formatValue(value, format), format), value)
+                    << type << ' ' << formatValue(value, format);
                 EXPECT_EQ(parseValue(editableValue(value, format), format), value) << type;
             }
 }
@@ -63,10 +56,10 @@ TEST(ValueFormat, ReadsWhatPeopleType) {
         ValueType type;
         double value;
     } rows[] = {
-        {" 1.5 ", ValueType::Decimal, 1.5}, {"+2", ValueType::Decimal, 2},      {"-.5", ValueType::Decimal, -0.5},
+        {" 1.5 ", ValueType::Decimal, 1.5}, {"+2", ValueType::Decimal, 2},        {"-.5", ValueType::Decimal, -0.5},
         {"1d3", ValueType::Decimal, 1000},  {"2.5D-1", ValueType::Decimal, 0.25}, {"1,5", ValueType::Decimal, 1.5},
-        {"(3)", ValueType::Decimal, -3},    {"ff", ValueType::Hexadecimal, 255}, {"£ 12", ValueType::Pounds, 12},
-        {"-£5", ValueType::Pounds, -5},     {"£-5", ValueType::Pounds, -5},      {"50 %", ValueType::Percent, 50},
+        {"(3)", ValueType::Decimal, -3},    {"ff", ValueType::Hexadecimal, 255},  {"£ 12", ValueType::Pounds, 12},
+        {"-£5", ValueType::Pounds, -5},     {"£-5", ValueType::Pounds, -5},       {"50 %", ValueType::Percent, 50},
         {"20", ValueType::Celsius, 20},
     };
     for (const auto& row : rows) EXPECT_EQ(parseValue(row.text, {row.type, minus, 2}), row.value) << row.text;

@@ -117,10 +117,9 @@ Word createFrame(const Arguments& call) {
     widget.data = std::move(data);
     frame->setLimits(rectOf(*limits));
     new FrameMouse(frame, widget.handle);
-    const int handle = finishCreation(widget, call);
-    frame->exposed = [handle] { postExpose(handle); };
+    frame->exposed = [handle = widget.handle] { postExpose(handle); };
     activateFrame(widget);
-    return handle;
+    return finishCreation(widget, call);
 }
 
 Word activate(const Arguments& call) {
@@ -169,9 +168,8 @@ Word enquirePixelPosition(const Arguments& call) {
 
 Word enquirePositionOfPixel(const Arguments& call) {
     const GraphicsFrame* frame = activeFrame();
-    const QPointF at = frame ? Mapping(drawing().view, frame->size())
-                                   .toUnits(QPointF(call.integer(0), call.integer(1)))
-                             : QPointF();
+    const QPointF at =
+        frame ? Mapping(drawing().view, frame->size()).toUnits(QPointF(call.integer(0), call.integer(1))) : QPointF();
     call.give(2, float(at.x()));
     call.give(3, float(at.y()));
     return 0;

@@ -296,7 +296,8 @@ int TextEntry::room() const {
 
 // A text edit has no limit of its own; keys beyond it are refused here.
 bool TextEntry::refusesKey(const QKeyEvent& key) const {
-    if (!edit_ || edit_->isReadOnly() || key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+    if (!edit_ || edit_->isReadOnly() || key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return false;
     const bool newLine = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     const bool enters = newLine || (!key.text().isEmpty() && key.text()[0].isPrint());
     const int left = room();

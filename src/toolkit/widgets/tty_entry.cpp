@@ -29,13 +29,14 @@ public:
     std::function<void()> came;
 
     void setPrompt(const QString& prompt) {
-        prompt_ = prompt;
+        named_ = prompt;
+        prompt_ = prompt.isEmpty() || prompt.endsWith(u' ') ? prompt : prompt + u' ';
         if (!asking_) return;
         const QString typed = input();
         replaceFrom(promptAt_, prompt_ + typed);
         inputAt_ = promptAt_ + int(prompt_.size());
     }
-    const QString& prompt() const { return prompt_; }
+    const QString& prompt() const { return named_; }
     void setLines(int lines) {
         editor()->document()->setMaximumBlockCount(lines > 0 ? std::min(lines, mostLines) : defaultLines);
     }
@@ -160,7 +161,8 @@ private:
         }
     }
 
-    QString prompt_;
+    QString named_;  // the prompt as the program gave it
+    QString prompt_; // with a blank behind it
     QString draft_;
     std::vector<QString> history_;
     int at_ = 0;

@@ -144,6 +144,7 @@ bool ValueEntry::enter(bool always) {
     }
     showValue();
     if (number) {
+        if (focused_) line_->selectAll();
         if (hooks_.committed) hooks_.committed();
     } else {
         if (focused_) line_->selectAll();
@@ -196,7 +197,9 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
             line_->selectAll();
         }
         showColours();
-        if (hooks_.selected) hooks_.selected();
+        // Focus that comes with the window is no news until the user turns to the entry.
+        awaitsUser_ = static_cast<QFocusEvent*>(event)->reason() == Qt::ActiveWindowFocusReason;
+        if (!awaitsUser_ && hooks_.selected) hooks_.selected();
         break;
     case QEvent::FocusOut: {
         auto reason = static_cast<QFocusEvent*>(event)->reason();
@@ -208,6 +211,7 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::KeyPress: {
         auto* key = static_cast<QKeyEvent*>(event);
+        if (std::exchange(awaitsUser_, false) && hooks_.selected) hooks_.selected();
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
             enter(true);
             return true;
@@ -224,6 +228,7 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     case QEvent::MouseButtonPress:
+        if (std::exchange(awaitsUser_, false) && hooks_.selected) hooks_.selected();
         if (hooks_.pressed) hooks_.pressed();
         if (options_.label && hooks_.selected) hooks_.selected();
         break;

@@ -77,6 +77,7 @@ private:
     double value_ = 0;
     bool empty_ = false;
     bool focused_ = false;
+    bool awaitsUser_ = false;
     bool edited_ = false;
 };
 
