@@ -19,13 +19,15 @@ mkdir -p "$findings"
 for target in "${targets[@]}"; do
   mkdir -p "build/fuzz/corpus/$target"
   echo "== fuzz_$target for $seconds seconds"
+  log=build/fuzz/$target.log
+  status=0
   # A slow input counts as a finding too: nothing takes longer than ten seconds.
   "build/fuzz/fuzz/fuzz_$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=250000 \
-    -artifact_prefix="$findings/$target-" -print_final_stats=1 -verbosity=1 \
-    "build/fuzz/corpus/$target" "$seeds/$target" 2>&1 | tee "build/fuzz/$target.log" |
-    grep -E '^(stat::|SUMMARY|==|.*ERROR)|DONE|Test unit written' || true
-  if [ "${PIPESTATUS[0]}" -ne 0 ] || grep -q 'ERROR: ' "build/fuzz/$target.log"; then
-    echo "== fuzz_$target found something; see build/fuzz/$target.log"
+    -artifact_prefix="$findings/$target-" -print_final_stats=1 "build/fuzz/corpus/$target" "$seeds/$target" \
+    >"$log" 2>&1 || status=$?
+  grep -aE '^stat::|SUMMARY|ERROR|runtime error|DONE|Test unit written' "$log" || true
+  if [ "$status" -ne 0 ]; then
+    echo "== fuzz_$target found something; see $log"
     exit 1
   fi
 done
