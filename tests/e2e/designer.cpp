@@ -63,6 +63,10 @@ void moveForm(pid_t program, const std::string& title, int x, int y) {
 
 void place(pid_t program, const std::string& tool, const std::string& form, int x, int y) {
     desk::click(desk::waitFor(program, "the tool " + tool, desk::inWindow(MAIN, desk::withTip(tool))));
+    clickForm(program, form, x, y);
+}
+
+void clickForm(pid_t program, const std::string& form, int x, int y) {
     const desk::Thing window = formWindow(program, form);
     desk::clickAt(window.x + x, window.y + y);
 }

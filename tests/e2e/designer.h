@@ -14,6 +14,7 @@ int close(pid_t program, const std::string& saveAnswer = "No");
 void moveForm(pid_t program, const std::string& title, int x, int y);
 // Places a widget: the Tool Box button of that bubble help, then a click at x, y from the top left of the form.
 void place(pid_t program, const std::string& tool, const std::string& form, int x, int y);
+void clickForm(pid_t program, const std::string& form, int x, int y);
 void select(pid_t program, const std::string& name); // by its row in the hierarchy
 std::string property(pid_t program, const std::string& label);
 void setProperty(pid_t program, const std::string& label, const std::string& text);

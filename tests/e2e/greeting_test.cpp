@@ -51,7 +51,7 @@ void drawGreeting(pid_t program) {
 
     designer::chooseBlock(program, "Local Variables");
     designer::replaceCode(program, "character(80) :: who");
-    designer::select(program, "Form1");
+    designer::clickForm(program, FORM, 300, 140);
 }
 
 // Answers a file browser: types the name and confirms.
