@@ -20,6 +20,8 @@ constexpr const char* FORM = "Greeting";
 void drawGreeting(pid_t program) {
     designer::moveForm(program, "Form 1", 740, 150);
     designer::setProperty(program, "Title", FORM);
+    designer::setProperty(program, "Xpos", "740");
+    designer::setProperty(program, "Ypos", "140");
     designer::setProperty(program, "Width", "360");
     designer::setProperty(program, "Height", "190");
 
