@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 seconds=${1:-60}
 shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(project form defaults)
+[ ${#targets[@]} -gt 0 ] || targets=(project form defaults log registry)
 
 cmake --preset fuzz >/dev/null
 ninja -C build/fuzz -j"${JOBS:-2}" make_seeds "${targets[@]/#/fuzz_}"
@@ -17,7 +17,7 @@ findings=build/fuzz/findings
 build/fuzz/fuzz/make_seeds "$seeds"
 mkdir -p "$findings"
 for target in "${targets[@]}"; do
-  mkdir -p "build/fuzz/corpus/$target"
+  mkdir -p "build/fuzz/corpus/$target" "$seeds/$target"
   echo "== fuzz_$target for $seconds seconds"
   log=build/fuzz/$target.log
   status=0

@@ -11,8 +11,8 @@ struct ColourMarks {
 };
 extern ColourMarks colourMarks;
 
-// Index of a colour, each part 0 to 1: the first equal one of its block, else a new one. When the table is full the
-// nearest of the block.
+// Index of a colour, red, green and blue each 0 to 1: the first equal one of its block, else a new one. When the table
+// is full the nearest of the block.
 int projectColourIndex(float red, float green, float blue);
 int defaultsColourIndex(float red, float green, float blue);
 

@@ -193,7 +193,7 @@ TEST(ProjectFile, ColoursOfTheProjectComeBackAndLeaveThoseOfTheDefaultsAlone) {
     EXPECT_EQ(defaultsColourIndex(0, 0, 1), 255);
     ASSERT_TRUE(saveProject(folder.path, "colours.wdp", false));
 
-    // Another session, whose defaults hold another colour at the top and use it.
+    // Another run, whose defaults hold another colour at the top and use it.
     for (int i = FIXED_COLOURS; i < COLOURS; ++i) host.defineColour(i, 0, 0, 0);
     colourMarks = ColourMarks();
     makeDefaults();
