@@ -149,8 +149,6 @@ const char* textProperty(const WidgetNode& node) {
 void checkOwnText(TextCheck& check, const WidgetNode& node) {
     if (node.type == TYPE_TTY_ENTRY) {
         check.checkEscaped("Text", withBars(node.text));
-    } else if (textUse(node) == SEVERAL_LINES) {
-        check.checkLineEnds("Text", withBars(node.text));
     } else if (textUse(node) == ONE_LINE) {
         check.checkEscaped(textProperty(node), node.text);
     }

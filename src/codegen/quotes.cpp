@@ -86,13 +86,13 @@ void restoreQuotes(SavedStrings& saved) {
     saved.clear();
 }
 
+// A line end of another kind than the stored one becomes a bar too: no language lets a string run over it.
 std::string withBars(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool lineEnd = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
-        result += lineEnd ? '|' : text[i];
-        if (lineEnd) ++i;
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+        result += text[i] == '\n' || text[i] == '\r' ? '|' : text[i];
     }
     return result;
 }
