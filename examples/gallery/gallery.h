@@ -14,6 +14,7 @@ typedef struct Page {
     void (*event)(const OACTION* action); /* may be null */
 } Page;
 
+extern const Page panelPage, buttonPage, textPage, valuePage, arrayPage, graphicsPage;
 extern const Page barPage, listPage, treePage, propertyPage, boxPage, iconPage, tabPage;
 
 /* Helpers of the frame. A label at a place measured from the top left of a panel; returns its handle. */

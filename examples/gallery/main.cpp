@@ -5,7 +5,9 @@
 #include <stdio.h>
 #include <string.h>
 
-static const Page* const pages[] = {&listPage, &treePage, &propertyPage, &boxPage, &iconPage, &tabPage, &barPage};
+static const Page* const pages[] = {&panelPage,    &buttonPage, &textPage, &valuePage,    &arrayPage,
+                                    &graphicsPage, &listPage,   &treePage, &propertyPage, &boxPage,
+                                    &iconPage,     &tabPage,    &barPage};
 enum { PAGES = sizeof pages / sizeof pages[0] };
 static const int MARGIN = 8, LIST_WIDTH = 170; // pixels
 
