@@ -10,15 +10,6 @@ namespace {
 
 // --- Pieces that many statements share.
 
-// At the start of each further line of a statement.
-constexpr std::string_view CONTINUATION = "              \t";
-
-// ", keyword,NAME" when the value has a name.
-template <class Table> void writeNamed(Generation& g, std::string_view keyword, const Table& table, int value) {
-    const std::string_view name = nameOf(table, value);
-    if (!name.empty()) write(g, ", %s,%s", keyword, name);
-}
-
 void writeSwitch(Generation& g, std::string_view keyword, bool on) {
     if (on) write(g, ", %s,OON", keyword);
 }
@@ -41,11 +32,6 @@ void writeHelp(Generation& g, const WidgetNode& node) {
     if (!nameOf(HELP_SIDE, node.helpJustify).empty()) write(g, "\n");
 }
 
-void writeOrigin(Generation& g, const WidgetNode& node) {
-    writeNamed(g, "owHpos", HORIZONTAL_ORIGIN, node.hpos);
-    writeNamed(g, "owVpos", VERTICAL_ORIGIN, node.vpos);
-}
-
 // Closes nearly every statement.
 void writeTail(Generation& g, const WidgetNode& node) {
     writeOrigin(g, node);
@@ -64,20 +50,6 @@ void writeScroll(Generation& g, const WidgetNode& node) {
 void writeBoundary(Generation& g, std::string_view keyword, int boundary, bool blankAhead) {
     const std::string_view name = nameOf(BOUNDARY, boundary, NO_BOUNDARY);
     write(g, blankAhead && name == "OINVERSECHISEL" ? " ,%s,%s\n" : ", %s,%s\n", keyword, name);
-}
-
-void writeBorder(Generation& g, const WidgetNode& node) {
-    write(g, ", owLineCol,%d, owLineBorder,%d, owFillCol,%d, owFillBorder,%d", node.colour1, node.colour2, node.colour3,
-          node.colour4);
-}
-
-void writeBackgroundImage(Generation& g, const WidgetNode& node) {
-    if (g.windows && node.format == 1) write(g, ", owImage,\"%s\"", node.backgroundImage);
-}
-
-// An image name that comes from the record's icon is a path, and its backslashes are doubled.
-std::string imageText(const Picture& picture) {
-    return picture.isIcon ? doubledBackslashes(picture.image) : std::string(picture.image);
 }
 
 // "   name = routine(parent, x, y, width, height"
@@ -120,116 +92,6 @@ void writeFont(Generation& g, const Placed& w) {
         writeOtherFont(g, w.node);
     }
     write(g, ", 0);\n");
-}
-
-// --- Forms.
-
-void writeTitle(Generation& g, const WidgetNode& form) {
-    const TitleFlags& flags = titleFlags(form.titleFlag);
-    write(g, flags.second.empty() ? "%s, " : "%s | ", flags.first);
-    if (!flags.second.empty()) write(g, "%s, ", flags.second);
-}
-
-void endFormWithIcon(Generation& g, const WidgetNode& form) {
-    const Picture picture = formPicture(g, form);
-    switch (picture.kind) {
-    case 0: write(g, ", owIconFormat,OMENUICON,owIconFile,\"%s\",owIconID,%d", imageText(picture), form.iconId); break;
-    case 1: write(g, ", owIconFormat,OBMPFILE,owIconFile,\"%s\"", imageText(picture)); break;
-    case 3: write(g, ", owIconFormat,ODLLICON,owIconFile,\"%s\"", form.backgroundImage); break;
-    case 4: write(g, ", owIconFormat,ODLLICON,owIconFile,\"%s\"", imageText(picture)); break;
-    default: break;
-    }
-    write(g, ",0);\n");
-}
-
-void beginMaster(Generation& g, const WidgetNode& form) {
-    write(g, "\n// Set up master window %s\n", form.name);
-    write(g, "   %s = %s(%d, %d, %d, %d, ", form.name,
-          form.formType == FORM_MASTER_MDI ? "owCreateMDIMasterWindow" : "owCreateMasterWindow", form.xpos, form.ypos,
-          form.width, form.height);
-    rememberMaster(g, form);
-}
-
-void beginDialogue(Generation& g, WidgetNode& form) {
-    borrowMasterName(form);
-    write(g, "\n// Set up complex dialogue box %s child of %s\n", form.name, form.parentName);
-    if (isMdiChild(form)) {
-        write(g,
-              project.gridMode != 0 ? "   %s = owCreateMDIComplexDialogueBox(%s, %d, %d-1, %d, %d, "
-                                    : "   %s = owCreateMDIComplexDialogueBox(%s, %d-4, %d-24, %d, %d, ",
-              form.name, form.parentName, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY),
-              form.width, form.height);
-    } else {
-        write(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d, ", form.name, form.parentName, form.xpos,
-              form.ypos, form.width, form.height);
-    }
-}
-
-void writeStatusBar(Generation& g, const WidgetNode& form) {
-    if (form.statusBar == nullptr) return;
-    const StatusBarRec& bar = *form.statusBar;
-    write(g, "\n// Create Statusbar for %s\n", form.name);
-    for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
-        write(g, "   ISTBAR[%d]=%d;\n", pane, bar.sizes[static_cast<std::size_t>(pane)]);
-    }
-    write(g, "   %s=owCreateStatusBar(%s, owPanes,%d,owSizes,ISTBAR,0);\n", bar.name, form.name, bar.panes);
-    for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
-        write(g, "   owSetStatusBarText(%s,%d,\"%s\" );\n", bar.name, pane, bar.texts[static_cast<std::size_t>(pane)]);
-    }
-}
-
-void beginRoutine(Generation& g, WidgetNode& form) {
-    if (g.masterWritten) write(g, "}\n"); // of the form before
-    const std::uint64_t types = typesBelow(form);
-    write(g, "void Generate%s(void)\n", form.name);
-    write(g, "{\n");
-    if (holdsType(types, TYPE_GRAPHICS_FRAME)) write(g, "   static OLIMIT Graphics_frame;\n");
-    if (holdsType(types, TYPE_SLIDER)) write(g, "   static OWIDGET Slider_attribs;\n");
-    if (hasStatusBar(form)) write(g, "   int ISTBAR[32];\n");
-    if (holdsType(types, TYPE_TEXT_ARRAY) || holdsType(types, TYPE_VALUE_ARRAY)) {
-        write(g, "   static OARRAYCELL arrayattribs;\n");
-    }
-}
-
-void createForm(Generation& g, const Placed& w) {
-    WidgetNode& form = w.node;
-    beginRoutine(g, form);
-    if (g.masterWritten) {
-        beginDialogue(g, form);
-    } else {
-        beginMaster(g, form);
-    }
-    writeTitle(g, form);
-    write(g, "\"%s\"\n", form.text);
-    write(g, CONTINUATION);
-    if (!isMdiChild(form)) writeOrigin(g, form);
-    writeNamed(g, "owInitState", INITIAL_STATE, form.initialState);
-    if (g.masterWritten) writeNamed(g, "owQuitMode", QUIT_MODE, form.quitMode);
-    if (!g.masterWritten && form.buildInfo == 0) write(g, ", owBuildInfo,OOFF");
-    if (form.formType == FORM_MASTER_MDI && form.child != nullptr) writeBackgroundImage(g, *form.child);
-    endFormWithIcon(g, form);
-    g.masterWritten = true;
-
-    writeStatusBar(g, form);
-    if (form.entries != nullptr) {
-        write(g, "\n// Create menu structure for %s\n", form.name);
-        writeMenu(g, form);
-    }
-    returnMasterName(g, form);
-}
-
-// Its place is fixed, whatever the record's origin says.
-void createMainPanel(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    if (w.form.formType == FORM_MASTER_MDI) return;
-    write(g, "\n// Create main panel for form\n");
-    write(g, "   %s=owCreatePanel(%s, 0, 0, %d, %d\n", node.name, w.form.name, node.width, node.height);
-    write(g, CONTINUATION);
-    write(g, ", owHpos,OCENTRE, owVpos,OMIDDLE, owExpand,OON, owBorderType,ONOBOUNDARY\n");
-    write(g, CONTINUATION);
-    writeBackgroundImage(g, node);
-    writeBorder(g, node);
-    write(g, ",0);\n");
 }
 
 // --- Widgets.
@@ -627,8 +489,8 @@ void createTableBox(Generation& g, const Placed& w) {
 }
 
 constexpr CreationRow CREATION[] = {
-    {TYPE_FORM, createForm},
-    {TYPE_MAIN_PANEL, createMainPanel},
+    {TYPE_FORM, createCForm},
+    {TYPE_MAIN_PANEL, createCMainPanel},
     {TYPE_BUTTON, createButton},
     {TYPE_TOGGLE, createToggle},
     {TYPE_TEXT_ENTRY, createText},
@@ -658,6 +520,24 @@ constexpr CreationRow CREATION[] = {
 } // namespace
 
 const std::span<const CreationRow> C_CREATION = CREATION;
+
+void writeOrigin(Generation& g, const WidgetNode& node) {
+    writeNamed(g, "owHpos", HORIZONTAL_ORIGIN, node.hpos);
+    writeNamed(g, "owVpos", VERTICAL_ORIGIN, node.vpos);
+}
+
+void writeBorder(Generation& g, const WidgetNode& node) {
+    write(g, ", owLineCol,%d, owLineBorder,%d, owFillCol,%d, owFillBorder,%d", node.colour1, node.colour2, node.colour3,
+          node.colour4);
+}
+
+void writeBackgroundImage(Generation& g, const WidgetNode& node) {
+    if (g.windows && node.format == 1) write(g, ", owImage,\"%s\"", node.backgroundImage);
+}
+
+std::string imageText(const Picture& picture) {
+    return picture.isIcon ? doubledBackslashes(picture.image) : std::string(picture.image);
+}
 
 void writeIconResource(Generation& g, std::string_view keyword, std::string_view icon) {
     if (!icon.empty()) write(g, ",%s,owGetIconResource(\"%s\")", keyword, iconResourceName(icon));

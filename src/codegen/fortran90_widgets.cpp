@@ -10,12 +10,6 @@ namespace {
 
 // --- Pieces that many statements share.
 
-// ", keyword=NAME" when the value has a name.
-template <class Table> void addNamed(Generation& g, std::string_view keyword, const Table& table, int value) {
-    const std::string_view name = nameOf(table, value);
-    if (!name.empty()) add(g, ", %s=%s", keyword, name);
-}
-
 // ", keyword=number" unless the number is the toolkit's own.
 void addNumber(Generation& g, std::string_view keyword, int value, int standard) {
     if (value != standard) add(g, ", %s=%d", keyword, value);
@@ -25,24 +19,10 @@ void addSwitch(Generation& g, std::string_view keyword, bool on) {
     if (on) add(g, ", %s=OON", keyword);
 }
 
-void addPosition(Generation& g, const WidgetNode& node) {
-    addNamed(g, "owHpos", HORIZONTAL_ORIGIN, node.hpos);
-    addNamed(g, "owVpos", VERTICAL_ORIGIN, node.vpos);
-    if (node.expand == 1) add(g, ", owExpand=OON");
-    if (node.expand > 1) add(g, ", owExpand=%d", node.expand);
-}
-
 void addColours(Generation& g, const WidgetNode& node) {
     addNumber(g, "owOnCol", node.colour1, 0);
     addNumber(g, "owOffCol", node.colour2, 0);
     addNumber(g, "owTextCol", node.colour3, 1);
-}
-
-void addBorder(Generation& g, const WidgetNode& node) {
-    addNumber(g, "owLineCol", node.colour1, 0);
-    if (node.colour2 == 0) add(g, ", owLineBorder=OOUTEREDGE");
-    addNumber(g, "owFillCol", node.colour3, 0);
-    if (node.colour4 == 0) add(g, ", owFillBorder=OOUTEREDGE");
 }
 
 void addHelp(Generation& g, const WidgetNode& node) {
@@ -62,15 +42,6 @@ void addBoundary(Generation& g, std::string_view keyword, int boundary) {
 }
 
 void addContents(Generation& g, const WidgetNode& node) { add(g, ", %s", nameOf(CONTENTS, node.contents, "ONONE")); }
-
-void addBackgroundImage(Generation& g, const WidgetNode& node) {
-    if (g.windows && node.format == 1) add(g, ", owImage='%s'", node.backgroundImage);
-}
-
-void endStatement(Generation& g) {
-    add(g, ")\n");
-    writeStatementSplit(g);
-}
 
 // "   name = routine(parent, x, y, width, height"
 void beginCreation(Generation& g, const Placed& w, std::string_view routine) {
@@ -99,112 +70,6 @@ void writeFont(Generation& g, const Placed& w) {
     if (node.type != TYPE_VALUE_ENTRY && node.type != TYPE_VALUE_LABEL) {
         addNamed(g, "owCharSet", CHARACTER_SET, node.charSet);
     }
-    endStatement(g);
-}
-
-// --- Forms.
-
-void addTitle(Generation& g, const WidgetNode& form) {
-    const TitleFlags& flags = titleFlags(form.titleFlag);
-    if (flags.second.empty()) {
-        add(g, ", %s", flags.first);
-    } else {
-        add(g, ", ior(%s,%s)", flags.first, flags.second);
-    }
-}
-
-void addFormIcon(Generation& g, const WidgetNode& form) {
-    const Picture picture = formPicture(g, form);
-    switch (picture.kind) {
-    case 0: add(g, ", owIconFormat=OMENUICON, owIconFile='%s', owIconID=%d", picture.image, form.iconId); break;
-    case 1: add(g, ", owIconFormat=OBMPFILE, owIconFile='%s'", picture.image); break;
-    case 3: add(g, ", owIconFormat=ODLLICON, owIconFile='%s'", form.backgroundImage); break;
-    case 4: add(g, ", owIconFormat=ODLLICON, owIconFile='%s'", picture.image); break;
-    default: break;
-    }
-}
-
-void beginMaster(Generation& g, const WidgetNode& form) {
-    write(g, "\n! Set up master window %s\n", form.name);
-    add(g, "   %s = %s(%d, %d, %d, %d", form.name,
-        form.formType == FORM_MASTER_MDI ? "owCreateMDIMasterWindow" : "owCreateMasterWindow", form.xpos, form.ypos,
-        form.width, form.height);
-    rememberMaster(g, form);
-}
-
-// A child of an MDI master stands at its offset from the master, less what the master's frame takes.
-void beginDialogue(Generation& g, WidgetNode& form) {
-    borrowMasterName(form);
-    write(g, "\n! Set up complex dialogue box %s child of %s\n", form.name, form.parentName);
-    if (isMdiChild(form)) {
-        add(g,
-            project.gridMode != 0 ? "   %s = owCreateMDIComplexDialogueBox(%s, %d, %d-1, %d, %d"
-                                  : "   %s = owCreateMDIComplexDialogueBox(%s, %d-4, %d-24, %d, %d",
-            form.name, form.parentName, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.width,
-            form.height);
-    } else {
-        add(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d", form.name, form.parentName, form.xpos,
-            form.ypos, form.width, form.height);
-    }
-}
-
-void writeStatusBar(Generation& g, const WidgetNode& form) {
-    if (form.statusBar == nullptr) return;
-    const StatusBarRec& bar = *form.statusBar;
-    write(g, "\n! Create Statusbar for %s\n", form.name);
-    for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
-        write(g, "   ISTBAR(%d)=%d\n", pane + 1, bar.sizes[static_cast<std::size_t>(pane)]);
-    }
-    add(g, "   %s=owCreateStatusBar(%s, owPanes=%d,owSizes=ISTBAR)\n", bar.name, form.name, bar.panes);
-    writeStatementSplit(g);
-    for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
-        add(g, "   call owSetStatusBarText(%s,%d,'%s' )\n", bar.name, pane, bar.texts[static_cast<std::size_t>(pane)]);
-        writeStatementSplit(g);
-    }
-}
-
-void createForm(Generation& g, const Placed& w) {
-    WidgetNode& form = w.node;
-    const std::uint64_t types = typesBelow(form);
-    write(g, "subroutine Generate%s\n", form.name);
-    if (holdsType(types, TYPE_SLIDER)) write(g, "type (OWIDGET) :: Slider_attribs\n");
-    if (hasStatusBar(form)) write(g, "integer :: ISTBAR(32)\n");
-    if (holdsType(types, TYPE_TEXT_ARRAY) || holdsType(types, TYPE_VALUE_ARRAY)) {
-        write(g, "type(OARRAYCELL) arrayattribs\n");
-    }
-
-    if (g.masterWritten) {
-        beginDialogue(g, form);
-    } else {
-        beginMaster(g, form);
-    }
-    addTitle(g, form);
-    add(g, ", '%s'", form.text);
-    if (!isMdiChild(form)) addPosition(g, form);
-    if (g.masterWritten) addNamed(g, "owQuitMode", QUIT_MODE, form.quitMode);
-    if (form.formType == FORM_MASTER_MDI && form.child != nullptr) addBackgroundImage(g, *form.child);
-    add(g, ", owInitState=%s", nameOf(INITIAL_STATE, form.initialState, "ONORMAL"));
-    if (!g.masterWritten && form.buildInfo == 0) add(g, ", owBuildInfo=OOFF");
-    addFormIcon(g, form);
-    endStatement(g);
-    g.masterWritten = true;
-
-    writeStatusBar(g, form);
-    if (form.entries != nullptr) {
-        write(g, "\n! Create menu structure for %s\n", form.name);
-        writeMenu(g, form);
-    }
-    returnMasterName(g, form);
-}
-
-void createMainPanel(Generation& g, const Placed& w) {
-    if (w.form.formType == FORM_MASTER_MDI) return;
-    write(g, "\n! Create main panel for form\n");
-    add(g, "   %s=owCreatePanel(%s, 0, 0, %d, %d", w.node.name, w.form.name, w.node.width, w.node.height);
-    addPosition(g, w.node);
-    add(g, ", owType=ONOBOUNDARY");
-    addBackgroundImage(g, w.node);
-    addBorder(g, w.node);
     endStatement(g);
 }
 
@@ -583,8 +448,8 @@ void createTableBox(Generation& g, const Placed& w) {
 }
 
 constexpr CreationRow CREATION[] = {
-    {TYPE_FORM, createForm},
-    {TYPE_MAIN_PANEL, createMainPanel},
+    {TYPE_FORM, createFreeForm},
+    {TYPE_MAIN_PANEL, createFreeMainPanel},
     {TYPE_BUTTON, createButton},
     {TYPE_TOGGLE, createToggle},
     {TYPE_TEXT_ENTRY, createText},
@@ -614,6 +479,29 @@ constexpr CreationRow CREATION[] = {
 } // namespace
 
 const std::span<const CreationRow> FORTRAN_90_CREATION = CREATION;
+
+void addPosition(Generation& g, const WidgetNode& node) {
+    addNamed(g, "owHpos", HORIZONTAL_ORIGIN, node.hpos);
+    addNamed(g, "owVpos", VERTICAL_ORIGIN, node.vpos);
+    if (node.expand == 1) add(g, ", owExpand=OON");
+    if (node.expand > 1) add(g, ", owExpand=%d", node.expand);
+}
+
+void addBorder(Generation& g, const WidgetNode& node) {
+    addNumber(g, "owLineCol", node.colour1, 0);
+    if (node.colour2 == 0) add(g, ", owLineBorder=OOUTEREDGE");
+    addNumber(g, "owFillCol", node.colour3, 0);
+    if (node.colour4 == 0) add(g, ", owFillBorder=OOUTEREDGE");
+}
+
+void addBackgroundImage(Generation& g, const WidgetNode& node) {
+    if (g.windows && node.format == 1) add(g, ", owImage='%s'", node.backgroundImage);
+}
+
+void endStatement(Generation& g) {
+    add(g, ")\n");
+    writeStatementSplit(g);
+}
 
 void addIconResource(Generation& g, std::string_view keyword, std::string_view icon) {
     if (!icon.empty()) add(g, ", %s=owGetIconResource('%s')", keyword, iconResourceName(icon));
