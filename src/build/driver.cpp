@@ -32,6 +32,7 @@ struct Build {
     int result = 1;          // above 0 as long as every step could be started
     bool gnu = false;        // this row alone looks at how its commands end
     bool failed = false;     // one of them reported errors or was ended
+    bool blocked = false;    // nothing may be built; the log says why
     std::string failedWords; // how the last of those ended
 };
 
@@ -109,10 +110,19 @@ void runSteps(Build& build) {
 
 // --- around the steps
 
-// A program left from an earlier build must not stand for one that could not be made.
-void removeOldResults(const Build& build) {
+// A program left from an earlier build must not stand for one that could not be made. Where programs have no extension
+// of their own, what bears the program's name may be something of the user's: then nothing is built.
+void removeOldResults(Build& build) {
     if (build.scene.profile == COMPILER_ABSOFT) removeFile(joinPath(build.scene.sourceDir, "wdesign.mod"));
-    if (build.gnu) removeFile(build.scene.exe);
+    if (!build.gnu || !pathExists(build.scene.exe)) return;
+    if (!findProgram(build.scene.exe).empty()) {
+        removeFile(build.scene.exe);
+        return;
+    }
+    build.blocked = true;
+    writeLogFile(build.run.log, "wdesign: error: " + build.scene.exe +
+                                    " is in the way of the program and is no program itself; rename it, or generate "
+                                    "the source under another name\n");
 }
 
 // What a compiler is likely to stumble over in generated text, told by form, widget and property ahead of its own
@@ -218,11 +228,11 @@ int buildProject(bool force, int compilerProfile, const std::string& sourcePath,
     }
     removeOldResults(build);
     writeComplaints(build);
-    runSteps(build);
-    completeLog(build);
+    if (!build.blocked) runSteps(build);
+    if (!build.blocked) completeLog(build);
     closeLoggedRun(build.run);
     if (build.result > 0) {
-        project.exeTime = fileTime(build.scene.exe);
+        project.exeTime = build.blocked ? 0 : fileTime(build.scene.exe);
         project.projectModified = 1;
     }
     removeIntermediates(build);

@@ -215,6 +215,16 @@ void reapLingering() {
     });
 }
 
+// Whoever started us may have said that ends of children are of no interest; then nobody could ask after them.
+void keepEndsOfChildren() {
+    struct sigaction action {};
+    if (sigaction(SIGCHLD, nullptr, &action) != 0) return;
+    if (action.sa_handler != SIG_IGN && (action.sa_flags & SA_NOCLDWAIT) == 0) return;
+    action = {};
+    action.sa_handler = SIG_DFL;
+    sigaction(SIGCHLD, &action, nullptr);
+}
+
 } // namespace
 
 LogHandle createLogFile(const std::string& path) {
@@ -234,6 +244,7 @@ bool writeLogFile(LogHandle log, const std::string& text) {
 
 bool startProcess(const ProcessStart& start, ChildProcess& child) {
     child = {};
+    keepEndsOfChildren();
     std::vector<std::string> words = splitCommandLine(start.commandLine);
     if (words.empty()) return fail(ENOENT);
     if (start.kind == ProcessKind::console) {

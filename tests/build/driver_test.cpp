@@ -149,6 +149,25 @@ TEST_F(DriverTest, AnOldProgramNeverStandsForOneThatFailed) {
     EXPECT_FALSE(std::filesystem::exists(work + "/app"));
 }
 
+TEST_F(DriverTest, FilesOfTheUserAreNotTakenForAnOldProgram) {
+    useFakeCompiler();
+    useSource("app.f90", HELLO);
+    std::string own = scratch.write("my project/app", "measured values");
+    build();
+    build();
+    expectFailedBuild();
+    EXPECT_EQ(textOf(own), "measured values");
+    EXPECT_THAT(notes.list, Contains(HasSubstr("is in the way of the program")));
+    EXPECT_THAT(commandsRun(), IsEmpty());
+
+    notes = {};
+    std::filesystem::remove(own);
+    std::filesystem::create_directory(own);
+    build();
+    expectFailedBuild();
+    EXPECT_THAT(notes.list, Contains(HasSubstr("is in the way of the program")));
+}
+
 TEST_F(DriverTest, StaleSourcesAreGeneratedOrTheBuildEnds) {
     useFakeCompiler();
     useSource("app.f90", HELLO);

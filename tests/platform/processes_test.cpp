@@ -79,6 +79,17 @@ TEST(Processes, EndsAreTold) {
     }
 }
 
+TEST(Processes, EndsAreKnownEvenIfOurOwnStarterIgnoredThem) {
+    signal(SIGCHLD, SIG_IGN);
+    ProcessStart start;
+    start.commandLine = "sh -c \"exit 5\"";
+    ChildProcess child;
+    ASSERT_TRUE(startProcess(start, child));
+    EXPECT_EQ(endOf(child), 5U);
+    releaseProcess(child, true);
+    signal(SIGCHLD, SIG_DFL);
+}
+
 TEST(Processes, FailedStartsSayWhy) {
     ScratchFolder folder;
     struct Row {
