@@ -99,7 +99,9 @@ public:
         row.text = text.left(cut);
         list->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, list);
         const bool lit = option.state & QStyle::State_Selected;
-        painter->setPen(option.palette.color(lit ? QPalette::HighlightedText : QPalette::PlaceholderText));
+        QColor ink = option.palette.color(lit ? QPalette::HighlightedText : QPalette::Text);
+        ink.setAlphaF(lit ? 0.85F : 0.65F);
+        painter->setPen(ink);
         QRect place = option.rect;
         place.setLeft(place.right() - list->descWidth + 1);
         const QString description = text.mid(cut + 1);
