@@ -83,6 +83,22 @@ TEST(ToolBars, HideAndComeBackToTheirSide) {
     EXPECT_EQ(placeOf(bar).position, ORIGHTSIDE);
 }
 
+TEST(ToolBars, ADoubleClickBesideTheButtonsLetsThemLooseAndBack) {
+    const Toolkit toolkit(Toolkit::Master::mdi);
+    const int bar = owCreateToolBar(toolkit.master, OBOTTOM, 22, owTitle, "Bar", owCallback, OIDENT);
+    const int button = addButton(bar, "save", 1);
+    settle();
+    for (const int position : {OFLOATING, OBOTTOM}) {
+        events();
+        QTest::mouseDClick(viewOf(bar), Qt::LeftButton, {},
+                           QPoint(rectOf(button).right() + 3, rectOf(button).center().y()));
+        EXPECT_EQ(placeOf(bar).position, position);
+        bool moved = false;
+        for (const OACTION& action : events()) moved = moved || (action.callback == bar && action.status == OMOVED);
+        EXPECT_TRUE(moved);
+    }
+}
+
 TEST(ToolBars, ButtonsReportAndTheProgramPressesThem) {
     const Toolkit toolkit(Toolkit::Master::mdi);
     const int bar = owCreateToolBar(toolkit.master, OTOP, 23, owTitle, "Bar");

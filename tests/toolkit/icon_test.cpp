@@ -102,6 +102,15 @@ TEST(Icons, LinesFollowADarkDesktop) {
     QGuiApplication::setPalette(before);
 }
 
+TEST(Icons, LinesOnASelectedRowAreInItsTextColour) {
+    const Toolkit toolkit(Toolkit::Master::none);
+    const QIcon icon = icons::iconByName("newform");
+    const QImage plain = icon.pixmap(22, 22).toImage(),
+                 selected = icon.pixmap(QSize(22, 22), QIcon::Selected).toImage();
+    EXPECT_NE(plain, selected);
+    EXPECT_EQ(selected.pixelColor(11, 5).rgb(), QGuiApplication::palette().color(QPalette::HighlightedText).rgb());
+}
+
 TEST(Icons, FilesByPathByNameAndByResourceScript) {
     const Toolkit toolkit(Toolkit::Master::none);
     const QTemporaryDir folder;

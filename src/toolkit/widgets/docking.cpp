@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QPainter>
@@ -33,6 +34,10 @@ const Side& sideOf(Dock dock) {
     return sides[1];
 }
 
+constexpr int restMilliseconds = 250;   // a bar that has not moved for so long has been let go
+constexpr int settleMilliseconds = 500; // moves so soon after the program's are the window manager's answer
+constexpr int sideWidth = 24;           // pixels at a side of the window that take a bar
+
 bool isSide(Dock dock) { return dock != Dock::hidden && dock != Dock::floating; }
 bool isColumn(Dock dock) { return dock == Dock::left || dock == Dock::right; }
 
@@ -61,6 +66,9 @@ ToolBar::ToolBar(QMainWindow* window, Dock dock, int iconSize, const QString& ti
     setFloatable(true);
     setMovable(true);
     setContextMenuPolicy(Qt::PreventContextMenu);
+    drag_.setSingleShot(true);
+    drag_.setInterval(restMilliseconds);
+    connect(&drag_, &QTimer::timeout, this, [this] { dragged(); });
     dockAt(dock_);
     connect(this, &QToolBar::topLevelChanged, this, [this](bool floating) {
         if (byProgram_) return;
@@ -72,6 +80,7 @@ ToolBar::ToolBar(QMainWindow* window, Dock dock, int iconSize, const QString& ti
 }
 
 void ToolBar::dockAt(Dock dock) {
+    side_ = dock;
     const Qt::ToolBarArea area = sideOf(dock).bar;
     bool shares = false;
     for (const QToolBar* other : window_->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
@@ -82,6 +91,7 @@ void ToolBar::dockAt(Dock dock) {
 
 void ToolBar::place(Dock dock, QPoint position, int width) {
     byProgram_ = true;
+    placed_.start();
     if (width > 0) floatWidth_ = width;
     if (dock == Dock::floating) {
         floatPosition_ = position;
@@ -180,7 +190,52 @@ void ToolBar::moveEvent(QMoveEvent* event) {
     QToolBar::moveEvent(event);
     if (!isWindow() || byProgram_) return;
     floatPosition_ = frameGeometry().topLeft();
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) moved_ = true;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        moved_ = true;
+    else if (isVisible() && placed_.isValid() && placed_.elapsed() > settleMilliseconds)
+        drag_.start();
+}
+
+// Moved by its frame, a bar is in the hands of the window manager: where it comes to rest with the pointer at a side of
+// the window, it docks.
+void ToolBar::dragged() {
+    if (!isWindow() || isHidden()) return;
+    const Dock side = sideUnderPointer();
+    if (side != Dock::floating) place(side, floatPosition_, 0);
+    if (report) report(DockEvent::moved);
+}
+
+Dock ToolBar::sideUnderPointer() const {
+    const QPoint pointer = window_->mapFromGlobal(QCursor::pos());
+    const QWidget* middle = window_->centralWidget();
+    const QRect inner = middle ? QRect(middle->mapTo(window_, QPoint()), middle->size()) : window_->rect();
+    if (!window_->rect().adjusted(-sideWidth, -sideWidth, sideWidth, sideWidth).contains(pointer))
+        return Dock::floating;
+    const int bars = menuAndBarsHeight();
+    if (pointer.y() < bars + sideWidth) return Dock::top;
+    if (pointer.y() > window_->height() - sideWidth && pointer.y() > inner.bottom()) return Dock::bottom;
+    if (pointer.x() < sideWidth) return Dock::left;
+    return pointer.x() > window_->width() - sideWidth ? Dock::right : Dock::floating;
+}
+
+// Pixels from the top of the window to the end of its upper bars.
+int ToolBar::menuAndBarsHeight() const {
+    int height = window_->menuWidget() ? window_->menuWidget()->geometry().bottom() : 0;
+    for (const QToolBar* bar : window_->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
+        if (bar != this && !bar->isWindow() && !bar->isHidden() && window_->toolBarArea(bar) == Qt::TopToolBarArea)
+            height = qMax(height, bar->geometry().bottom());
+    return height;
+}
+
+// A double click beside the buttons lets a bar loose or brings it back to its side.
+void ToolBar::mouseDoubleClickEvent(QMouseEvent* event) {
+    QToolBar::mouseDoubleClickEvent(event);
+    if (event->button() != Qt::LeftButton) return;
+    if (isWindow())
+        place(side_, floatPosition_, 0);
+    else
+        place(Dock::floating, mapToGlobal(QPoint(30, 30)), 0);
+    if (report) report(DockEvent::moved);
 }
 
 // ---- Buttons and separators

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QDockWidget>
+#include <QElapsedTimer>
 #include <QMainWindow>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <functional>
@@ -47,11 +49,15 @@ protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
     void dockAt(Dock dock);
     void floatNow();
     void decorate();
+    void dragged(); // the user has moved the floating bar and let it go
+    int menuAndBarsHeight() const;
+    Dock sideUnderPointer() const; // floating when the pointer is at no side of the window
     Dock currentDock() const;
 
     QMainWindow* window_;
@@ -61,6 +67,9 @@ private:
     int floatWidth_ = 0;
     bool byProgram_ = false;
     bool moved_ = false;
+    Dock side_ = Dock::top; // where it was docked last
+    QTimer drag_;           // runs out when a move by the window's frame has come to rest
+    QElapsedTimer placed_;  // since the program placed it
 };
 
 // A button of a tool bar. Its pressed look is the program's to set; a click only tells.

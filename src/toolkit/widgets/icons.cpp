@@ -87,9 +87,8 @@ QByteArray fileContents(const QString& path) {
 
 // The theme's line colours, as they stand in its files and in our drawings, replaced by the text colour of a dark
 // desktop.
-QByteArray recoloured(QByteArray svg, QRgb text) {
-    const QByteArray colour = QColor(text).name().toLatin1();
-    for (const char* line : {"#232629", "#31363b", "#4d4d4d"}) svg.replace(line, colour);
+QByteArray recoloured(QByteArray svg, const QString& colour) {
+    for (const char* line : {"#232629", "#31363b", "#4d4d4d"}) svg.replace(line, colour.toLatin1());
     return svg;
 }
 
@@ -103,20 +102,19 @@ public:
 
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal scale) override {
         if (size.isEmpty()) return {};
-        const bool dark = isDark();
         const bool disabled = mode == QIcon::Disabled || grey_;
-        const QString key =
-            QStringLiteral("orba-icon|%1|%2|%3x%4|%5|%6|%7")
-                .arg(theme_)
-                .arg(qHash(drawing_))
-                .arg(size.width())
-                .arg(size.height())
-                .arg(scale)
-                .arg(disabled)
-                .arg(dark ? QGuiApplication::palette().color(QPalette::WindowText).name() : QStringLiteral("light"));
+        const QString line = lineColour(mode);
+        const QString key = QStringLiteral("orba-icon|%1|%2|%3x%4|%5|%6|%7")
+                                .arg(theme_)
+                                .arg(qHash(drawing_))
+                                .arg(size.width())
+                                .arg(size.height())
+                                .arg(scale)
+                                .arg(disabled)
+                                .arg(line);
         QPixmap pixmap;
         if (QPixmapCache::find(key, &pixmap)) return pixmap;
-        pixmap = draw(size, qRound(qMin(size.width(), size.height()) / scale), dark, disabled);
+        pixmap = draw(size, qRound(qMin(size.width(), size.height()) / scale), line, disabled);
         QPixmapCache::insert(key, pixmap);
         return pixmap;
     }
@@ -136,9 +134,17 @@ public:
     bool isNull() override { return false; }
 
 private:
-    QPixmap draw(const QSize& size, int logicalSize, bool dark, bool disabled) const {
+    // Name of the colour that lines take instead of their own: that of the text around the icon. Empty on light
+    // desktops.
+    static QString lineColour(QIcon::Mode mode) {
+        const QPalette palette = QGuiApplication::palette();
+        if (mode == QIcon::Selected) return palette.color(QPalette::HighlightedText).name();
+        return isDark() ? palette.color(QPalette::WindowText).name() : QString();
+    }
+
+    QPixmap draw(const QSize& size, int logicalSize, const QString& line, bool disabled) const {
         QByteArray svg = theme_.isEmpty() ? drawing_ : fileContents(nearestFile(themeFiles(theme_), logicalSize));
-        if (dark) svg = recoloured(svg, QGuiApplication::palette().color(QPalette::WindowText).rgb());
+        if (!line.isEmpty()) svg = recoloured(svg, line);
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
