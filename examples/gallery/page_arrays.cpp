@@ -73,4 +73,4 @@ static void event(const OACTION* action) {
     say(line);
 }
 
-const Page arrayPage = {"Arrays, tables, TTY", "Array", build, event};
+const Page arrayPage = {"Arrays, tables, TTY", "textcel", build, event};

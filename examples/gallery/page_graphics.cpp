@@ -90,4 +90,4 @@ static void event(const OACTION* action) {
     say(line);
 }
 
-const Page graphicsPage = {"Graphics", "Graphics", build, event};
+const Page graphicsPage = {"Graphics", "graph", build, event};

@@ -75,4 +75,4 @@ static void event(const OACTION* action) {
     say(line);
 }
 
-const Page valuePage = {"Values and sliders", "Value", build, event};
+const Page valuePage = {"Values and sliders", "sval", build, event};

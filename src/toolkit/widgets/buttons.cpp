@@ -240,7 +240,10 @@ void ToggleButton::paintEvent(QPaintEvent*) {
             painter.drawPath(shape);
         }
         if (isChecked() && !filled)
-            drawMark(painter, area, row.mark, own ? look_.on : palette().color(group, QPalette::WindowText));
+            drawMark(painter, area, row.mark,
+                     own                   ? look_.on
+                     : look_.off.isValid() ? QColor(look_.off.lightnessF() > 0.5F ? Qt::black : Qt::white)
+                                           : palette().color(group, QPalette::WindowText));
     }
     QPalette colours = palette();
     if (look_.text.isValid() && isEnabled()) colours.setColor(QPalette::WindowText, look_.text);

@@ -99,7 +99,8 @@ void Panel::makeScroller() {
 
 void Panel::fitContent() {
     if (!area_) return;
-    area_->setGeometry(rect());
+    const int edge = boundaryWidth(look_.boundary);
+    area_->setGeometry(rect().adjusted(edge, edge, -edge, -edge));
     const QRect needed = sheet_->childrenRect();
     const QSize room = area_->maximumViewportSize();
     sheet_->resize(std::max(room.width(), look_.scrollHorizontal ? needed.right() + 1 : 0),
@@ -138,6 +139,9 @@ void Panel::paintEvent(QPaintEvent*) {
     const QColor colour = look_.line.isValid() ? look_.line : palette().color(QPalette::WindowText);
     drawBoundary(painter, line, look_.boundary, colour, palette());
     painter.restore();
+    // On a fill the title gets a plate of the window's own face, on which its text can be read.
+    if (!title.isEmpty() && look_.fill.isValid())
+        painter.fillRect(titleArea.adjusted(-titleGap, 0, titleGap, 0), palette().color(QPalette::Window));
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(titleArea, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title);
 }

@@ -11,7 +11,7 @@
 namespace orba {
 namespace {
 
-const QColor creditRed(0xC0, 0x10, 0x10);
+const QColor creditRed(0xC0, 0x10, 0x10), creditRedOnDark(0xFF, 0x6B, 0x60);
 
 // 1234567.5 as 1,234,567.5
 std::string groupThousands(std::string text) {
@@ -74,7 +74,12 @@ void ValueEntry::showColours() {
     if (options_.label && !back.isValid()) back = Qt::transparent;
     QColor text = options_.text;
     if (!text.isValid() && options_.label) text = colours.color(QPalette::WindowText);
-    if (options_.format.sign == ValueSign::Red && !focused_ && !empty_ && value_ < 0) text = creditRed;
+    if (options_.format.sign == ValueSign::Red && !focused_ && !empty_ && value_ < 0) {
+        const QColor page = back.isValid() && back.alpha() > 0
+                                ? back
+                                : colours.color(options_.label ? QPalette::Window : QPalette::Base);
+        text = page.lightnessF() < 0.5F ? creditRedOnDark : creditRed;
+    }
     for (auto group : {QPalette::Active, QPalette::Inactive}) {
         if (back.isValid()) colours.setColor(group, QPalette::Base, back);
         if (text.isValid()) colours.setColor(group, QPalette::Text, text);
