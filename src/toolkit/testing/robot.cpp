@@ -77,7 +77,8 @@ void answerMessage(QMessageBox& box, const ScriptLine& line) {
     EXPECT_EQ(plain(box.text()).toStdString(), plain(barsToLines(line.text)).toStdString());
     QAbstractButton* button = box.button(buttonOf(line.answer));
     if (!button) {
-        ADD_FAILURE() << "the box \"" << box.windowTitle().toStdString() << "\" has no button for answer " << line.answer;
+        ADD_FAILURE() << "the box \"" << box.windowTitle().toStdString() << "\" has no button for answer "
+                      << line.answer;
         box.reject();
         return;
     }
@@ -200,6 +201,16 @@ Toolkit::~Toolkit() {
     owCloseMenu();
     setReportSink(nullptr);
     setBoxWatcher(nullptr);
+}
+
+void watchProgram(bool on) {
+    if (on) {
+        startApplication();
+        reportedNumbers.clear();
+        script().clear();
+    }
+    setReportSink(on ? noteReport : nullptr);
+    setBoxWatcher(on ? watchBox : nullptr);
 }
 
 QWidget* viewOf(int handle) {

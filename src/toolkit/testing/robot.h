@@ -30,6 +30,9 @@ struct Toolkit {
     int panel = 0; // on a plain master
 };
 
+// For a program that opens and closes the toolkit itself: boxes are answered by the script from now on, or no longer.
+void watchProgram(bool on);
+
 // --- finding
 
 QWidget* viewOf(int handle);     // null when the handle names nothing or the widget has no view

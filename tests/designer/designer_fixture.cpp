@@ -1,0 +1,70 @@
+#include "designer_fixture.h"
+
+#include "project/host.h"
+#include "project/preferences.h"
+#include "project/tree.h"
+#include "surface/state.h"
+#include "toolkit/testing/robot.h"
+
+#include <cstdlib>
+
+static constexpr int END_OF_EVENTS = 19991; // posted behind the events that wait
+
+void DesignerTest::SetUp() {
+    before = std::filesystem::current_path();
+    const auto* info = testing::UnitTest::GetInstance()->current_test_info();
+    root = std::filesystem::temp_directory_path() / (std::string("orba-designer-") + info->name());
+    std::filesystem::remove_all(root);
+    data = root / "data";
+    std::filesystem::create_directories(data);
+    std::filesystem::current_path(root);
+    setenv("ORBADATA", data.c_str(), 1);
+    setenv("ORBA_NO_SPLASH", "1", 1);
+    orba::testing::watchProgram(true);
+}
+
+void DesignerTest::TearDown() {
+    if (running) end();
+    EXPECT_TRUE(orba::testing::scriptIsEmpty()) << "a box that was expected did not come";
+    EXPECT_TRUE(orba::testing::reports().empty());
+    orba::testing::watchProgram(false);
+    std::filesystem::current_path(before);
+    std::filesystem::remove_all(root);
+}
+
+void DesignerTest::start(const std::string& commandLine) {
+    project = {};
+    design = {};
+    startDesigner(commandLine);
+    running = true;
+    pump();
+}
+
+void DesignerTest::end() {
+    running = false;
+    endDesigner();
+}
+
+void DesignerTest::pump() {
+    for (int round = 0; round < 3; round++) {
+        orba::testing::settle(10);
+        owPostCallback(END_OF_EVENTS, 0);
+        for (int callback = 0; owAction(&callback) != END_OF_EVENTS;) handleEvent(callback);
+    }
+}
+
+void DesignerTest::send(int command) {
+    owPostCallback(command, 0);
+    pump();
+}
+
+int DesignerTest::live(const std::string& name) {
+    const WidgetNode* node = findName(project.forms, name, false);
+    return node ? node->handle : 0;
+}
+
+std::string DesignerTest::title() {
+    char text[256];
+    owEnqWidgetProp(1, owTitle, text, 0);
+    return text;
+}

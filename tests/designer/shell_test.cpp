@@ -1,0 +1,555 @@
+// The frame around the forms: commands, control windows, projects and the questions before one is left.
+#include "designer_fixture.h"
+
+#include "platform/paths.h"
+#include "platform/text_files.h"
+#include "project/files.h"
+#include "project/placement.h"
+#include "project/preferences.h"
+#include "project/tree.h"
+#include "settings/places.h"
+#include "settings/preferences_file.h"
+#include "settings/recent_projects.h"
+#include "shell/help.h"
+#include "shell/menus.h"
+#include "shell/project_commands.h"
+#include "shell/window_control.h"
+#include "surface/selection.h"
+#include "surface/state.h"
+#include "surface/window_states.h"
+#include "toolkit/testing/robot.h"
+
+#include <QWidget>
+
+using namespace orba::testing;
+
+static constexpr int BUTTON_TOOL = 15440;
+
+static std::string label(int entry) {
+    char text[256];
+    owEnqWidgetProp(entry, owLabel, text, 0);
+    return text;
+}
+
+// ---- The command line -----------------------------------------------------------------------------------------
+
+TEST(CommandLine, NamesOneProject) {
+    struct Case {
+        const char* line;
+        const char* folder; // null: the current one
+        const char* name;
+    };
+    const Case cases[] = {
+        {"", nullptr, ""},
+        {"bridge.wdp", nullptr, "bridge.wdp"},
+        {"bridge.wdp more words", nullptr, "bridge.wdp"},
+        {"\"two words.wdp\" behind", nullptr, "two words.wdp"},
+        {"C:\\work\\bridge.wdp", "C:\\work", "bridge.wdp"},
+        {"\"C:\\my work\\bridge.wdp\"", "C:\\my work", "bridge.wdp"},
+        {"\"/home/me/my work/bridge\"", "/home/me/my work", "bridge"},
+        {"bridge\"rest", nullptr, "bridge"},
+        {"sub/bridge.wdp", "sub", "bridge.wdp"},
+    };
+    for (const Case& one : cases) {
+        const FilePlace place = placeFromCommandLine(one.line);
+        EXPECT_EQ(place.name, one.name) << one.line;
+        EXPECT_EQ(place.folder, one.folder ? one.folder : currentFolder()) << one.line;
+    }
+}
+
+// ---- Start-up -------------------------------------------------------------------------------------------------
+
+TEST_F(DesignerTest, StartsWithOneUntitledForm) {
+    start();
+    ASSERT_NE(project.forms, nullptr);
+    EXPECT_EQ(project.forms->name, "Form1");
+    EXPECT_EQ(project.forms->next, nullptr);
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(project.currentWidget, project.forms);
+    EXPECT_TRUE(isShown(project.forms->handle));
+    EXPECT_EQ(title(), "ORBAWIDG Designer v8.5");
+    EXPECT_EQ(owEnqWidgetStatus(button(CMD_TOOL_SELECTOR)), OCHECKED);
+    for (const int command :
+         std::initializer_list<int>{CMD_PASTE, CMD_UNDO, CMD_REDO, CMD_FIND, CMD_PRINT_CODE, CMD_PRINT_ERRORS,
+                                    CMD_EXECUTE, CMD_ABORT, CMD_ALIGN, CMD_CLEAR_CODE, CMD_TEXT_MENU})
+        EXPECT_EQ(owEnqWidgetStatus(menuEntry(command)), OUNSELECTABLE) << command;
+    for (const int command :
+         std::initializer_list<int>{CMD_VIEW_ICON_BAR, CMD_VIEW_TOOL_BOX, CMD_VIEW_HIERARCHY, CMD_VIEW_PROPERTIES,
+                                    CMD_VIEW_CODE_EDITOR, CMD_VIEW_COMPILER_LOG})
+        EXPECT_EQ(owEnqWidgetStatus(menuEntry(command)), OCHECKED) << command;
+}
+
+TEST_F(DesignerTest, OpensTheProjectOfTheCommandLine) {
+    start();
+    send(BUTTON_TOOL);
+    placeWidget(17001, project.forms->child, 40, 40);
+    ASSERT_TRUE(saveProject(root.string(), "with blanks.wdp", false));
+    end();
+    start("\"" + file("with blanks.wdp") + "\"");
+    EXPECT_EQ(title(), "ORBAWIDG Designer v8.5 - [with blanks.wdp - F90 Windows Project]");
+    EXPECT_TRUE(isShown(live("Form1_Button1")));
+    EXPECT_EQ(recentProject(0), file("with blanks.wdp"));
+}
+
+TEST_F(DesignerTest, AMissingProjectLeavesTheFirstOne) {
+    expectBox("Error opening file", "Cannot open Project file :gone.wdp", OANSWEROK);
+    start("gone");
+    EXPECT_EQ(project.forms->name, "Form1");
+    EXPECT_TRUE(isShown(project.forms->handle));
+    EXPECT_EQ(title(), "ORBAWIDG Designer v8.5");
+}
+
+// ---- Commands and keys ----------------------------------------------------------------------------------------
+
+TEST_F(DesignerTest, AToolPlacesOneWidgetAndIsLaidDown) {
+    start();
+    click(button(BUTTON_TOOL));
+    pump();
+    EXPECT_EQ(design.activeTool, 17001);
+    EXPECT_EQ(owEnqWidgetStatus(button(BUTTON_TOOL)), OCHECKED);
+    EXPECT_EQ(owEnqWidgetStatus(button(CMD_TOOL_SELECTOR)), OSELECTABLE);
+    click(project.forms->child->handle, {50, 60});
+    pump();
+    ASSERT_NE(live("Form1_Button1"), 0);
+    EXPECT_EQ(design.activeTool, TOOL_SELECTOR);
+    EXPECT_EQ(owEnqWidgetStatus(button(CMD_TOOL_SELECTOR)), OCHECKED);
+    EXPECT_EQ(project.projectModified, 1);
+}
+
+TEST_F(DesignerTest, AToolStaysInHandWhenPreferred) {
+    preferences = {};
+    preferences.repeatPlacement = 1;
+    settingsPlaces.dataDir = data.string();
+    savePreferences();
+    start();
+    click(button(BUTTON_TOOL));
+    pump();
+    click(project.forms->child->handle, {50, 60});
+    pump();
+    click(project.forms->child->handle, {50, 160});
+    pump();
+    EXPECT_EQ(design.activeTool, 17001);
+    EXPECT_NE(live("Form1_Button2"), 0);
+}
+
+TEST_F(DesignerTest, KeysFollowTheModeOfInput) {
+    start();
+    struct Case {
+        int key;
+        int design;
+        int text;
+    };
+    const Case cases[] = {
+        {controlKey('X'), CMD_CUT, CMD_TEXT_CUT},
+        {controlKey('C'), CMD_COPY, CMD_TEXT_COPY},
+        {controlKey('V'), CMD_PASTE, CMD_TEXT_PASTE},
+        {OKEYDEL, CMD_DELETE, CMD_TEXT_DELETE},
+        {controlKey('Z'), CMD_UNDO, CMD_TEXT_UNDO},
+        {controlKey('Y'), CMD_REDO, CMD_TEXT_REDO},
+        {controlKey('S'), CMD_SAVE_PROJECT, CMD_COMMIT_CODE},
+        {controlKey('W'), 0, CMD_INSERT_NAME},
+        {controlKey('N'), CMD_NEW_PROJECT, 0},
+        {controlKey('D'), CMD_DUPLICATE, 0},
+        {controlKey('U'), CMD_UNADOPT, 0},
+        {OKEYRIGHTBUTTON, CMD_POPUP, 0},
+        {functionKey(1), CMD_HELP, CMD_CODE_HELP},
+        {functionKey(2), CMD_SHOW_ALL, CMD_SHOW_ALL},
+    };
+    for (const Case& one : cases) EXPECT_EQ(owEnqKeyCallback(one.key), one.design) << one.key;
+    EXPECT_EQ(owEnqKeyCallback(controlKey('F')), CMD_NEW_FORM);
+    setInputMode(true);
+    for (const Case& one : cases) EXPECT_EQ(owEnqKeyCallback(one.key), one.text) << one.key;
+    EXPECT_NE(owEnqKeyCallback(controlKey('F')), CMD_NEW_FORM);
+    setInputMode(false);
+    for (const Case& one : cases) EXPECT_EQ(owEnqKeyCallback(one.key), one.design) << one.key;
+}
+
+TEST_F(DesignerTest, SharedEntriesSayWhatTheyActOn) {
+    start();
+    EXPECT_EQ(label(menuEntry(CMD_CUT)), "Cut Widget|Ctrl+X");
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_PASTE)), OUNSELECTABLE);
+    setInputMode(true);
+    EXPECT_EQ(label(menuEntry(CMD_CUT)), "Cut Text|Ctrl+X");
+    EXPECT_EQ(toolTip(button(CMD_CUT)).toStdString(), "Cut Text");
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_PASTE)), OSELECTABLE);
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_CLEAR_CODE)), OSELECTABLE);
+    setInputMode(false);
+    EXPECT_EQ(label(menuEntry(CMD_CUT)), "Cut Widget|Ctrl+X");
+    EXPECT_EQ(toolTip(button(CMD_CUT)).toStdString(), "Cut Widget from Form to Paste Buffer");
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_PASTE)), OUNSELECTABLE);
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_CLEAR_CODE)), OUNSELECTABLE);
+}
+
+TEST_F(DesignerTest, CompileAndExecuteHaveTheirKeysOnlyWhileEnabled) {
+    start();
+    setCommandStatus(CMD_COMPILE, STATUS_ENABLED);
+    setCommandStatus(CMD_EXECUTE, STATUS_ENABLED);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(5)), CMD_COMPILE);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), CMD_EXECUTE);
+    setCommandStatus(CMD_COMPILE, STATUS_DISABLED);
+    setCommandStatus(CMD_EXECUTE, STATUS_DISABLED);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(5)), 0);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), 0);
+    EXPECT_EQ(owEnqWidgetStatus(button(CMD_EXECUTE)), OUNSELECTABLE);
+}
+
+TEST_F(DesignerTest, DelIsFreeWhenItIsNotToDelete) {
+    preferences = {};
+    preferences.delDeletes = 0;
+    settingsPlaces.dataDir = data.string();
+    savePreferences();
+    start();
+    EXPECT_EQ(owEnqKeyCallback(OKEYDEL), 0);
+    EXPECT_EQ(label(menuEntry(CMD_DELETE)), "Delete Widget");
+}
+
+TEST_F(DesignerTest, ToolsOfWindowsStayVisibleAndClosedElsewhere) {
+    start();
+    project.projectPlatform = 'x';
+    refreshCommands();
+    for (const int tool : {15454, 15457, 15466, 15456, 15459, 15464, 15460, 15461, 15462, 15463, 15465}) {
+        EXPECT_EQ(owEnqWidgetStatus(button(tool)), OUNSELECTABLE) << tool;
+        EXPECT_TRUE(isShown(button(tool))) << tool;
+    }
+    EXPECT_EQ(owEnqWidgetStatus(button(BUTTON_TOOL)), OSELECTABLE);
+    project.projectPlatform = 'w';
+    refreshCommands();
+    EXPECT_EQ(owEnqWidgetStatus(button(15464)), OSELECTABLE);
+}
+
+TEST_F(DesignerTest, AnUnknownIdentifierDoesNothing) {
+    start();
+    send(15999);
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(project.currentWidget, project.forms);
+}
+
+// ---- Control windows ------------------------------------------------------------------------------------------
+
+TEST_F(DesignerTest, ViewEntriesShowAndHideTheirWindows) {
+    start();
+    const struct {
+        int command;
+        WindowRow row;
+    } windows[] = {{CMD_VIEW_ICON_BAR, WINDOW_ICON_BAR},       {CMD_VIEW_TOOL_BOX, WINDOW_TOOL_BOX},
+                   {CMD_VIEW_HIERARCHY, WINDOW_HIERARCHY},     {CMD_VIEW_PROPERTIES, WINDOW_PROPERTIES},
+                   {CMD_VIEW_CODE_EDITOR, WINDOW_CODE_EDITOR}, {CMD_VIEW_COMPILER_LOG, WINDOW_COMPILER_LOG}};
+    for (const auto& window : windows) {
+        const int handle = windowStates[window.row].handle;
+        choose(menuEntry(window.command));
+        pump();
+        EXPECT_FALSE(isShown(handle)) << window.command;
+        EXPECT_EQ(owEnqWidgetStatus(menuEntry(window.command)), OSELECTABLE);
+        choose(menuEntry(window.command));
+        pump();
+        EXPECT_TRUE(isShown(handle)) << window.command;
+        EXPECT_EQ(owEnqWidgetStatus(menuEntry(window.command)), OCHECKED);
+    }
+}
+
+TEST_F(DesignerTest, ACloseBoxUnchecksTheEntryOfItsWindow) {
+    start();
+    const int pane = windowStates[WINDOW_PROPERTIES].handle;
+    viewOf(pane)->close();
+    pump();
+    EXPECT_FALSE(isShown(pane));
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_VIEW_PROPERTIES)), OSELECTABLE);
+    choose(menuEntry(CMD_VIEW_PROPERTIES));
+    pump();
+    EXPECT_TRUE(isShown(pane));
+}
+
+TEST_F(DesignerTest, AHiddenWindowIsHiddenAtTheNextStart) {
+    start();
+    choose(menuEntry(CMD_VIEW_HIERARCHY));
+    pump();
+    end();
+    start();
+    EXPECT_FALSE(isShown(windowStates[WINDOW_HIERARCHY].handle));
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_VIEW_HIERARCHY)), OSELECTABLE);
+    EXPECT_TRUE(isShown(windowStates[WINDOW_PROPERTIES].handle));
+    choose(menuEntry(CMD_DEFAULT_POSITIONS));
+    pump();
+    EXPECT_TRUE(isShown(windowStates[WINDOW_HIERARCHY].handle));
+    EXPECT_FALSE(pathExists((data / "wdesign.ini").string()));
+    // The entries keep what they showed.
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_VIEW_HIERARCHY)), OSELECTABLE);
+}
+
+TEST_F(DesignerTest, AllFormsHideAndShowTogether) {
+    start();
+    send(CMD_NEW_FORM);
+    ASSERT_NE(project.forms->next, nullptr);
+    send(CMD_SHOW_ALL);
+    for (const WidgetNode* form = project.forms; form; form = form->next) {
+        EXPECT_FALSE(isShown(form->handle));
+        EXPECT_EQ(form->formHidden, 1);
+    }
+    EXPECT_TRUE(textModeInForce());
+    EXPECT_EQ(toolTip(button(CMD_SHOW_ALL)).toStdString(), "Show all Forms");
+    send(CMD_SHOW_ALL);
+    for (const WidgetNode* form = project.forms; form; form = form->next) {
+        EXPECT_TRUE(isShown(form->handle));
+        EXPECT_EQ(form->formHidden, 0);
+    }
+    EXPECT_FALSE(textModeInForce());
+    EXPECT_EQ(toolTip(button(CMD_SHOW_ALL)).toStdString(), "Hide all Forms");
+}
+
+// ---- Projects -------------------------------------------------------------------------------------------------
+
+static const char SAVE_TEXT[] = "Do you wish to save the current project first?";
+
+TEST_F(DesignerTest, AnUnchangedProjectIsLeftWithoutAQuestion) {
+    start();
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, CancelKeepsTheProgramRunning) {
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERCANCEL);
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 0);
+    EXPECT_EQ(project.projectModified, 1);
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, NoExitsWithoutASave) {
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERNO);
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, YesWithoutANameAsksForOneAndExitsEvenWithoutIt) {
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERYES);
+    expectBrowser("Save Project As", "");
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, YesSavesUnderTheChosenNameWithoutAskingAboutAnOldFile) {
+    writeTextFile(file("old.wdp"), "something");
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERYES);
+    expectBrowser("Save Project As", file("old"));
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+    std::string bytes;
+    readTextFile(file("old.wdp"), bytes);
+    EXPECT_EQ(bytes.substr(0, 18), "ORBAWIDGDESIGNV8.0");
+}
+
+TEST_F(DesignerTest, TheOpenQuestionAsksBeforeItOverwrites) {
+    writeTextFile(file("old.wdp"), "something");
+    start();
+    project.projectModified = 1;
+    expectBox("Open New Project", SAVE_TEXT, OANSWERYES);
+    expectBrowser("Save Project As", file("old.wdp"));
+    expectBox("Overwrite existing file?", "File already exists. Overwrite?", OANSWERNO);
+    expectBrowser("Save Project As", file("new.wdp"));
+    expectBrowser("Open Project", "");
+    send(CMD_OPEN_PROJECT);
+    EXPECT_TRUE(pathExists(file("new.wdp")));
+    std::string bytes;
+    readTextFile(file("old.wdp"), bytes);
+    EXPECT_EQ(bytes, "something");
+}
+
+TEST_F(DesignerTest, AFailedSaveStopsWhatAskedForIt) {
+    start();
+    project.projectModified = 1;
+    project.projectName = "bridge.wdp";
+    project.projectDir = file("no/such/folder");
+    for (const char* what : {"Exit ORBAWIDG Designer", "Start New Project", "Open New Project"}) {
+        expectBox(what, SAVE_TEXT, OANSWERYES);
+        expectBox("Error saving file", "File to save to could not be opened or created", OANSWEROK);
+    }
+    send(CMD_EXIT);
+    send(CMD_NEW_PROJECT);
+    send(CMD_OPEN_PROJECT);
+    EXPECT_EQ(design.quitRequested, 0);
+    EXPECT_EQ(project.projectModified, 1);
+    EXPECT_EQ(project.projectName, "bridge.wdp");
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, SaveAsksForANameOnce) {
+    start();
+    project.projectModified = 1;
+    expectBrowser("Save Project As", file("bridge"));
+    click(button(CMD_SAVE_PROJECT));
+    pump();
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(title(), "ORBAWIDG Designer v8.5 - [bridge.wdp - F90 Windows Project]");
+    project.projectModified = 1;
+    choose(menuEntry(CMD_SAVE_PROJECT));
+    pump();
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_TRUE(pathExists(file("bridge.wdp")));
+}
+
+TEST_F(DesignerTest, RecentProjectsMoveToTheTopAndFallOffTheEnd) {
+    start();
+    for (const char* name : {"a.wdp", "b.wdp", "c.wdp", "d.wdp", "e.wdp", "f.wdp", "c.wdp"}) {
+        expectBrowser("Save Project As", file(name));
+        if (pathExists(file(name)))
+            expectBox("Overwrite existing file?", "File already exists. Overwrite?", OANSWERYES);
+        send(CMD_SAVE_PROJECT_AS);
+    }
+    std::string list;
+    readTextFile((data / "wdesign.lst").string(), list);
+    std::string expected;
+    for (const char* name : {"c.wdp", "f.wdp", "e.wdp", "d.wdp", "b.wdp"}) expected += file(name) + "\n";
+    EXPECT_EQ(list, expected);
+    send(CMD_RECENT_FIRST + 3);
+    EXPECT_EQ(project.projectName, "d.wdp");
+    EXPECT_EQ(recentProject(0), file("d.wdp"));
+}
+
+TEST_F(DesignerTest, AFailedOpenKeepsTheProjectAndItsChanges) {
+    writeTextFile(file("poem.wdp"), std::string(4000, 'x'));
+    start();
+    project.projectModified = 1;
+    expectBox("Open New Project", SAVE_TEXT, OANSWERNO);
+    expectBrowser("Open Project", file("poem.wdp"));
+    expectBox("Error opening file", "File is not a ORBAWIDG Designer file", OANSWEROK);
+    send(CMD_OPEN_PROJECT);
+    EXPECT_EQ(project.projectModified, 1);
+    EXPECT_TRUE(isShown(project.forms->handle));
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, ANewProjectStartsAgain) {
+    start();
+    placeWidget(17001, project.forms->child, 40, 40);
+    ASSERT_TRUE(saveProject(root.string(), "old.wdp", false));
+    project.projectModified = 1;
+    expectBox("Start New Project", SAVE_TEXT, OANSWERNO);
+    send(CMD_NEW_PROJECT);
+    EXPECT_EQ(live("Form1_Button1"), 0);
+    EXPECT_EQ(project.forms->name, "Form1");
+    EXPECT_EQ(project.projectName, "");
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(title(), "ORBAWIDG Designer v8.5");
+}
+
+TEST_F(DesignerTest, BackupsStandBesideTheProject) {
+    start();
+    project.projectModified = 1;
+    send(CMD_AUTO_BACKUP);
+    send(CMD_AUTO_BACKUP);
+    EXPECT_TRUE(pathExists(file("Auto_Backup.wdp")));
+    EXPECT_EQ(project.projectName, "");
+    EXPECT_EQ(project.projectModified, 0);
+    ASSERT_TRUE(saveProject(root.string(), "a.b.wdp", false));
+    send(CMD_AUTO_BACKUP);
+    EXPECT_TRUE(pathExists(file("a_Backup.b.wdp")));
+    EXPECT_EQ(project.projectName, "a.b.wdp");
+    send(CMD_EXIT); // asks nothing
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, AFormIsSavedAndInserted) {
+    start();
+    send(CMD_NEW_FORM);
+    expectBrowser("Save Form As", file("second"));
+    send(CMD_SAVE_FORM);
+    ASSERT_TRUE(pathExists(file("second.wdf")));
+    send(CMD_SAVE_FORM); // goes where it went before
+    expectBrowser("Insert Form", file("second.wdf"));
+    expectBox("Invalid Form Name", "Form of same name alredy exists in this project", OANSWEROK);
+    send(CMD_INSERT_FORM);
+    project.projectModified = 0;
+    send(CMD_NEW_PROJECT);
+    expectBrowser("Insert Form", file("second.wdf"));
+    send(CMD_INSERT_FORM);
+    ASSERT_NE(project.forms->next, nullptr);
+    EXPECT_EQ(project.forms->next->name, "Form2");
+    EXPECT_TRUE(isShown(project.forms->next->handle));
+    EXPECT_EQ(project.projectModified, 1);
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, GenerateSavesFirstAndAsksForTheSource) {
+    start();
+    expectBrowser("Save Project As", file("bridge"));
+    expectBrowser("Create ORBAWIDG code", file("bridge"));
+    send(CMD_GENERATE);
+    EXPECT_TRUE(pathExists(file("bridge.f90")));
+    EXPECT_EQ(project.sourceStale, 0);
+    EXPECT_EQ(project.sourceName, "bridge.f90");
+}
+
+TEST_F(DesignerTest, ACancelledGenerationLeavesNoName) {
+    preferences = {};
+    start();
+    preferences.generateSavesProject = 0;
+    project.projectTitle = "bridge";
+    expectBrowser("Create ORBAWIDG code", "");
+    expectBox("Source not generated", "Compilation aborted.", OANSWEROK);
+    send(CMD_COMPILE);
+    EXPECT_EQ(project.sourceName, "");
+    EXPECT_EQ(project.sourceDir, "");
+    EXPECT_EQ(project.sourceStale, 1);
+}
+
+// ---- Help -----------------------------------------------------------------------------------------------------
+
+TEST_F(DesignerTest, TopicsFollowWhatLastTookTheInput) {
+    start();
+    design.helpContext = "Object Hierarchy";
+    EXPECT_EQ(helpTopic(), "Object Hierarchy");
+    design.helpContext = "Form";
+    EXPECT_EQ(helpTopic(), "Form");
+    const WidgetNode* box = placeWidget(17002, project.forms->child, 40, 40).widget;
+    ASSERT_NE(box, nullptr);
+    project.currentWidget = const_cast<WidgetNode*>(box);
+    EXPECT_EQ(helpTopic(), "Check Box");
+    project.projectPlatform = 'x';
+    EXPECT_EQ(helpTopic(), "");
+    send(CMD_HELP); // opens nothing and says nothing
+    project.projectPlatform = 'w';
+    project.currentWidget = project.forms;
+}
+
+TEST_F(DesignerTest, MissingHelpIsReportedEachTime) {
+    setenv("ORBA", root.c_str(), 1);
+    start();
+    design.helpContext = "Tool Box";
+    const struct {
+        int command;
+        const char* text;
+    } cases[] = {
+        {CMD_HELP, "ORBAWIDG Designer help file could not be found"},
+        {CMD_HELP_DESIGNER, "ORBAWIDG Designer help file could not be found"},
+        {CMD_HELP_TOOLKIT, "ORBAWIDG help file could not be found"},
+        {CMD_HELP_BASE, "ORBA help file could not be found"},
+        {CMD_HELP_PLOT, "ORBAPLOT help file could not be found"},
+        {CMD_HELP_MESH, "ORBAMESH help file could not be found"},
+    };
+    for (const auto& one : cases) {
+        expectBox("Error opening help file", one.text, OANSWEROK);
+        send(one.command);
+    }
+    unsetenv("ORBA");
+}
+
+TEST_F(DesignerTest, TheAboutBoxClosesWithReturn) {
+    start();
+    choose(menuEntry(CMD_ABOUT));
+    pump();
+    EXPECT_EQ(owEnqKeySelectCallback(OKEYRETURN), CMD_ABOUT_OK);
+    const int box = owEnqActiveWindow();
+    EXPECT_TRUE(isShown(box));
+    send(CMD_ABOUT_OK);
+    EXPECT_EQ(owEnqKeySelectCallback(OKEYRETURN), 0);
+    EXPECT_EQ(viewOf(box), nullptr);
+    EXPECT_NE(owEnqActiveWindow(), box);
+}
