@@ -258,7 +258,8 @@ void entryErased(Widget& entry) {
     box.byProgram = true;
     delete item;
     box.byProgram = false;
-    if (entry.parent && entry.parent->kind == Kind::treeEntry) showPicture(*entry.parent);
+    const bool childless = entry.parent->kind == Kind::treeEntry && itemOf(*entry.parent)->childCount() == 0;
+    if (childless) showPicture(*entry.parent); // it is no branch any more
 }
 
 const Family treeEntries{.name = "tree entry",
