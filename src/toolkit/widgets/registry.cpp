@@ -113,7 +113,11 @@ void eraseWidget(Widget& widget) {
     while (!widget.children.empty()) eraseWidget(*widget.children.back());
     if (Widget* parent = widget.parent) {
         if (parent->family->childLeaving) parent->family->childLeaving(*parent, widget);
-        std::erase(parent->children, &widget);
+        if (parent->children.back() == &widget) { // as when a parent goes with all its children
+            parent->children.pop_back();
+        } else {
+            std::erase(parent->children, &widget);
+        }
     }
     if (widget.family->erased) widget.family->erased(widget);
     forgetWidget(widget);

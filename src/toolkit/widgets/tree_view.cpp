@@ -256,6 +256,9 @@ void entryErased(Widget& entry) {
     QTreeWidgetItem* item = itemOf(entry);
     box.forget(item);
     box.byProgram = true;
+    QTreeWidgetItem* above = item->parent() ? item->parent() : box.invisibleRootItem();
+    const int last = above->childCount() - 1;
+    if (above->child(last) == item) above->takeChild(last); // without a search among its siblings
     delete item;
     box.byProgram = false;
     const bool childless = entry.parent->kind == Kind::treeEntry && itemOf(*entry.parent)->childCount() == 0;
