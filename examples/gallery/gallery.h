@@ -15,10 +15,12 @@ typedef struct Page {
 } Page;
 
 extern const Page panelPage, buttonPage, textPage, valuePage, arrayPage, graphicsPage;
-extern const Page barPage, listPage, treePage, propertyPage, boxPage, iconPage, tabPage;
+extern const Page windowPage, barPage, listPage, treePage, propertyPage, boxPage, iconPage, tabPage;
 
 /* Helpers of the frame. A label at a place measured from the top left of a panel; returns its handle. */
 int label(int panel, int x, int y, int width, const char* text);
+/* The same in bold, above a group of widgets. */
+int heading(int panel, int x, int y, int width, const char* text);
 /* A line in the status bar of the gallery. */
 void say(const char* text);
 

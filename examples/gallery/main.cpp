@@ -1,13 +1,15 @@
 // The gallery: every widget of the toolkit, to be looked at and tried. Choose a page at the left; the status bar tells
 // of events.
+//     gallery [PAGE]             opens it, with the page of that title in front
+//     gallery PAGE FILE          saves a picture of the window with that page as PNG, and ends
 #include "gallery.h"
 
 #include <stdio.h>
 #include <string.h>
 
-static const Page* const pages[] = {&panelPage,    &buttonPage, &textPage, &valuePage,    &arrayPage,
-                                    &graphicsPage, &listPage,   &treePage, &propertyPage, &boxPage,
-                                    &iconPage,     &tabPage,    &barPage};
+static const Page* const pages[] = {&panelPage,    &buttonPage, &textPage,   &valuePage,    &arrayPage,
+                                    &graphicsPage, &listPage,   &treePage,   &propertyPage, &boxPage,
+                                    &iconPage,     &tabPage,    &windowPage, &barPage};
 enum { PAGES = sizeof pages / sizeof pages[0] };
 static const int MARGIN = 8, LIST_WIDTH = 170; // pixels
 
@@ -15,6 +17,12 @@ static int status, panels[PAGES], shown = -1;
 
 int label(int panel, int x, int y, int width, const char* text) {
     return owCreateTextEntry(panel, x, y, width, 20, text, 255, ODISPLAY, owVpos, OTOP, owBorderType, ONOBORDER, 0);
+}
+
+int heading(int panel, int x, int y, int width, const char* text) {
+    const int handle = label(panel, x, y, width, text);
+    owSetFontAttribs(handle, owBold, OON, 0);
+    return handle;
 }
 
 void say(const char* text) { owSetStatusBarText(status, 0, text); }
@@ -51,11 +59,17 @@ int main(int argc, char** argv) {
     owSetListEntry(list, OSELECT, owEntry, first + 1, 0);
     showPage(master, first);
     owManage();
+    enum { PICTURE = 90 };
+    if (argc > 2) owDefineTimerCallback(900, PICTURE);
     for (;;) {
         OACTION action;
         owAction(&callback);
         owEnqActionState(&action);
         if (callback == -1) break;
+        if (callback == PICTURE) {
+            if (!owDumpImage(master, argv[2])) return 1;
+            break;
+        }
         if (action.widget == list)
             showPage(master, action.status - 1);
         else if (pages[shown]->event)

@@ -133,8 +133,8 @@ TEST(Queue, AnErasedWidgetHasNoEventsLeft) {
 TEST(Queue, ChangesByTheProgramRaiseNothing) {
     Toolkit toolkit;
     const int toggle = owCreateToggleButton(toolkit.panel, 0, 0, 80, 24, "t", 0, owCallback, OIDENT, 0);
-    const int entry = owCreateTextEntry(toolkit.panel, 0, 40, 80, 24, "", 20, OEDIT, owCallback, OIDENT, owSelectCallback,
-                                        OIDENT, owChangeCallback, OIDENT, 0);
+    const int entry = owCreateTextEntry(toolkit.panel, 0, 40, 80, 24, "", 20, OEDIT, owCallback, OIDENT,
+                                        owSelectCallback, OIDENT, owChangeCallback, OIDENT, 0);
     owSetToggleSwitch(toggle, 1);
     owSetTextSetting(entry, "hello", 0);
     owSetActiveWidget(entry);
@@ -150,10 +150,10 @@ TEST(Keys, GoToTheProgramOrToBoth) {
         Qt::Key key;
         Qt::KeyboardModifiers held;
         int code;
-    } rows[] = {{Qt::Key_F1, Qt::NoModifier, 513},        {Qt::Key_F12, Qt::NoModifier, 524},
-                {Qt::Key_S, Qt::ControlModifier, 19},     {Qt::Key_Escape, Qt::NoModifier, 27},
-                {Qt::Key_Return, Qt::NoModifier, 13},     {Qt::Key_Delete, Qt::NoModifier, 127},
-                {Qt::Key_Tab, Qt::NoModifier, 9},         {Qt::Key_Backtab, Qt::ShiftModifier, 542},
+    } rows[] = {{Qt::Key_F1, Qt::NoModifier, 513},    {Qt::Key_F12, Qt::NoModifier, 524},
+                {Qt::Key_S, Qt::ControlModifier, 19}, {Qt::Key_Escape, Qt::NoModifier, 27},
+                {Qt::Key_Return, Qt::NoModifier, 13}, {Qt::Key_Delete, Qt::NoModifier, 127},
+                {Qt::Key_Tab, Qt::NoModifier, 9},     {Qt::Key_Backtab, Qt::ShiftModifier, 542},
                 {Qt::Key_X, Qt::NoModifier, 'x'}};
     for (const auto& row : rows) {
         owDefineKeyCallback(row.code, 700);

@@ -147,7 +147,8 @@ TEST(Dialogues, ActiveWindowHasTheInputAlone) {
 
 TEST(Mdi, DialoguesLiveInTheClientArea) {
     Toolkit toolkit(Toolkit::Master::mdi);
-    const int window = owCreateMDIComplexDialogueBox(toolkit.master, 20, 30, 200, 120, OALL, "Child", owCallback, OIDENT, 0);
+    const int window =
+        owCreateMDIComplexDialogueBox(toolkit.master, 20, 30, 200, 120, OALL, "Child", owCallback, OIDENT, 0);
     owDrawWindow(window, 1);
     EXPECT_FALSE(viewOf(window)->isWindow());
     EXPECT_EQ(frameOf(window)->pos(), QPoint(20, 30));

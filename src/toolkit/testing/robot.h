@@ -35,11 +35,11 @@ void watchProgram(bool on);
 
 // --- finding
 
-QWidget* viewOf(int handle);     // null when the handle names nothing or the widget has no view
-QAction* actionOf(int handle);   // of a menu entry
-QWidget* frameOf(int handle);    // the window on the screen: the view, or its frame inside an MDI master
-QRect rectOf(int handle);        // of the view in its parent
-bool isShown(int handle);        // on the screen, with all its parents
+QWidget* viewOf(int handle);   // null when the handle names nothing or the widget has no view
+QAction* actionOf(int handle); // of a menu entry
+QWidget* frameOf(int handle);  // the window on the screen: the view, or its frame inside an MDI master
+QRect rectOf(int handle);      // of the view in its parent
+bool isShown(int handle);      // on the screen, with all its parents
 
 // --- working. Positions are pixels in the view, from its top left; the middle unless told otherwise.
 
@@ -81,8 +81,8 @@ std::vector<int> identifiers();
 std::vector<int> reports();
 std::string lastReportedRoutine();
 
-// --- boxes. A script line is used up by the next box; a box that the script does not expect, and a line that no box used,
-// fail the test.
+// --- boxes. A script line is used up by the next box; a box that the script does not expect, and a line that no box
+// used, fail the test.
 
 // Answers as owDisplayMessageBox gives them: 4 OK, 1 Cancel, 6 Yes, 3 No.
 void expectBox(const char* title, const char* text, int answer);

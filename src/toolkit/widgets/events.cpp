@@ -170,6 +170,7 @@ void post(int handle, Slot slot, int status, QPointF position, const QString& te
     }
     Widget* widget = widgetOf(handle);
     if (!widget) return;
+    if (slot == Slot::general) obeyLinks(*widget);
     if (!hasCallback(*widget, slot)) {
         Widget* parent = widget->parent;
         if (parent && parent->family->childEvent) parent->family->childEvent(*parent, *widget, slot);

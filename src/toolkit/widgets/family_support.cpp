@@ -15,6 +15,7 @@ void bytesOut(std::string_view bytes, char* buffer, int length) {
         while (start > 0 && count - start < 3 && (static_cast<unsigned char>(bytes[start]) & 0xC0) == 0x80) --start;
         if (start + std::size_t(utf8SequenceLength(bytes, start)) > count) count = start;
     }
+    while (count > 0 && bytes[count - 1] == ' ') --count; // the cut may end in blanks
     std::memcpy(buffer, bytes.data(), count);
     buffer[count] = 0;
 }

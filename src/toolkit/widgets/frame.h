@@ -41,10 +41,10 @@ struct Session {
     bool bubbleHelp = true;
     int style = 0;
     int entrySelection = 0;
-    bool managed = false; // owManage ran
-    int openBoxes = 0;    // boxes of the toolkit that wait for an answer
-    int expectedFocus = 0;         // widget that gets the focus once its window is active
-    int programDepth = 0; // above 0 while the program's own calls run: what Qt signals then is no user's doing
+    bool managed = false;  // owManage ran
+    int openBoxes = 0;     // boxes of the toolkit that wait for an answer
+    int expectedFocus = 0; // widget that gets the focus once its window is active
+    int programDepth = 0;  // above 0 while the program's own calls run: what Qt signals then is no user's doing
 };
 
 extern Session session;
@@ -79,6 +79,11 @@ void resetRegistry();
 // Installs the filter that every view of a widget goes through.
 void watch(QWidget* view);
 void forgetWidget(Widget& widget); // adoption, focus, queue
+
+// Drag and drop; true when the event is used up.
+bool dragEvent(QObject* target, QEvent* event);
+// What hangs on a widget that the user worked.
+void obeyLinks(const Widget& widget);
 
 // Windows.
 void raiseWindow(Widget& window);

@@ -59,6 +59,8 @@ bool setEntryProperty(Widget& entry, int property, const Value& value) {
     case 21: entry.accel = value.integer; break;
     case 55: entry.help = value.text; break;
     case 111: entryData(entry).greyIcon = value.integer; break;
+    case 113: entryData(entry).checkIcon = value.integer; break;
+    case 114: entryData(entry).uncheckIcon = value.integer; break;
     default: return false;
     }
     showEntry(entry);

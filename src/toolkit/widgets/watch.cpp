@@ -43,7 +43,12 @@ public:
         case QEvent::Resize: resized(target); return false;
         case QEvent::ChildAdded: childAdded(*static_cast<QChildEvent*>(event)); return false;
         case QEvent::MouseButtonDblClick: doubleClicked(target, *static_cast<QMouseEvent*>(event)); return false;
-        case QEvent::MouseMove: moved(target, *static_cast<QMouseEvent*>(event)); return false;
+        case QEvent::MouseMove: moved(target, *static_cast<QMouseEvent*>(event)); return dragEvent(target, event);
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop: return dragEvent(target, event);
         case QEvent::ToolTip: return !session.bubbleHelp;
         default: return false;
         }
