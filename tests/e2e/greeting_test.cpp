@@ -111,13 +111,14 @@ TEST(Greeting, FromAnEmptyProjectToARunningProgram) {
     designer::select(program, "Greet");
     designer::replaceCode(program, "call owEnqTextSetting(NameField, nobody)");
     desk::key("F5");
-    EXPECT_TRUE(desk::waitUntil(
-        [&] {
-            for (const std::string& line : designer::logLines(program))
-                if (line.find("Error") != std::string::npos && line.find("nobody") != std::string::npos) return true;
-            return false;
+    desk::waitFor(
+        program, "the compiler's message",
+        [](const desk::Thing& thing) {
+            return thing.kind == "Cell" && thing.has('c') && thing.text.rfind("Error: ", 0) == 0;
         },
-        60));
+        60);
+    EXPECT_EQ(designer::shownCode(program), "call owEnqTextSetting(NameField, nobody)");
+    desk::waitFor(program, "the column of the message", desk::withText("Column: 40"));
     EXPECT_EQ(designer::startedProgram(program, 2), 0) << "a program was started in spite of the error";
     desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/error.png");
     EXPECT_EQ(designer::close(program), 0);
