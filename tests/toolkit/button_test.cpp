@@ -49,6 +49,29 @@ TEST_F(Buttons, AnswerToMouseKeysAndAccelerator) {
     EXPECT_TRUE(events().empty());
 }
 
+TEST_F(Buttons, ReturnPressesTheDefaultButtonOfTheWindow) {
+    const int button =
+        owCreatePushButton(panel, 10, 40, 88, 24, "OK", owVpos, OTOP, owType, ODEFAULTBUTTON, owCallback, OIDENT, 0);
+    const int other = owCreatePushButton(panel, 110, 40, 88, 24, "No", owVpos, OTOP, owCallback, OIDENT, 0);
+    const int line = entry("x"), lines = entry("x", 80);
+    for (int text : {line, lines}) {
+        focus(text);
+        events();
+        QTest::keyClick(field(text), Qt::Key_Return);
+        const std::vector<int> seen = identifiers();
+        EXPECT_EQ(std::count(seen.begin(), seen.end(), button), text == line ? 1 : 0);
+    }
+    focus(other);
+    events();
+    QTest::keyClick(view(other), Qt::Key_Return);
+    EXPECT_EQ(identifiers(), std::vector<int>{other});
+    owSetWidgetStatus(button, OUNSELECTABLE);
+    focus(line);
+    events();
+    QTest::keyClick(field(line), Qt::Key_Return);
+    EXPECT_EQ(identifiers(), std::vector<int>{line});
+}
+
 TEST_F(Buttons, MarkTheAcceleratorAndKeepAmpersands) {
     EXPECT_EQ(markedLabel("Save", 'S'), "&Save");
     EXPECT_EQ(markedLabel("save", 'A'), "s&ave");

@@ -264,12 +264,20 @@ struct IconData : FamilyData {
 
 IconButton& iconOf(Widget& widget) { return static_cast<IconButton&>(*widget.view); }
 
+// A picture of a file of many goes by the stock name of its number.
+QString pictureName(const IconData& data) {
+    if (data.format != OMENUICON || data.number <= 0) return data.file;
+    constexpr int firstNumber = 1000;
+    const char* set = data.file.contains(u"SML", Qt::CaseInsensitive) ? "MSML" : "MBIG";
+    return QLatin1String(set) + QString::number(firstNumber + data.number);
+}
+
 void showIcon(Widget& widget) {
     const IconData& data = dataOf<IconData>(widget);
     IconLook look = iconOf(widget).look();
     look.type = iconType(widget.type);
     look.label = data.label;
-    look.icon = data.resource ? icons::iconOfResource(data.resource) : icons::iconByName(data.file);
+    look.icon = data.resource ? icons::iconOfResource(data.resource) : icons::iconByName(pictureName(data));
     iconOf(widget).setLook(look);
 }
 

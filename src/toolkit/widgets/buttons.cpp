@@ -130,7 +130,33 @@ void PushButton::setLook(const ButtonLook& look) {
         setShortcut(QKeySequence(int(Qt::ALT) | QChar(look.accelerator).toUpper().unicode()));
     setAutoDefault(false);
     setDefault(look.type == ButtonType::Default);
+    watchWindow();
     update();
+}
+
+// Return that nothing else in the window wants presses its default button.
+void PushButton::watchWindow() {
+    QWidget* wanted = look_.type == ButtonType::Default ? window() : nullptr;
+    if (window_ == wanted) return;
+    if (window_) window_->removeEventFilter(this);
+    window_ = wanted;
+    if (window_) window_->installEventFilter(this);
+}
+
+void PushButton::showEvent(QShowEvent* event) {
+    QPushButton::showEvent(event);
+    watchWindow();
+}
+
+bool PushButton::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window_ && event->type() == QEvent::KeyPress && isVisible() && isEnabled()) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (returnKey(key) && !key->isAutoRepeat() && (key->modifiers() & ~Qt::KeypadModifier) == 0) {
+            click();
+            return true;
+        }
+    }
+    return QPushButton::eventFilter(watched, event);
 }
 
 void PushButton::paintEvent(QPaintEvent*) {

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QColor>
 #include <QIcon>
+#include <QPointer>
 #include <QPushButton>
 #include <QString>
 #include <array>
@@ -37,10 +38,14 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     QSize minimumSizeHint() const override { return {1, 1}; }
 
 private:
+    void watchWindow();
     ButtonLook look_;
+    QPointer<QWidget> window_; // whose Return keys press the default button
 };
 
 enum class ToggleType { BevelSquare, BevelDiamond, SimpleSquare, TickBox, SimpleCircle, CheckBox, Radio3D, CheckBox3D };

@@ -219,7 +219,7 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
         if (std::exchange(awaitsUser_, false) && hooks_.selected) hooks_.selected();
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
             enter(true);
-            return true;
+            break; // a default button of the window may want it, too
         }
         if (options_.increment > 0 && !line_->isReadOnly() &&
             (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down)) {
