@@ -80,7 +80,7 @@ static int widgetsOwner(int id) {
 
 static bool conditionsHold(const Command& command) {
     const unsigned when = command.when;
-    return command.handler && !(when & NOT_YET) && (!(when & WHEN_TEXT_MODE) || textMode) &&
+    return command.handler && (!(when & WHEN_TEXT_MODE) || textMode) &&
            (!(when & WHEN_WINDOWS) || project.projectPlatform == 'w') &&
            (!(when & WHEN_PIXELS) || project.gridMode == 0) && (!(when & WHEN_SYNTAX) || preferences.syntaxColours);
 }

@@ -76,7 +76,6 @@ enum CommandCondition : unsigned {
     WHEN_PIXELS = 4,      // a project in pixel mode
     WHEN_SYNTAX = 8,      // syntax colouring is on
     STARTS_DISABLED = 16, // until someone enables it
-    NOT_YET = 32,         // what it works on is not there yet
 };
 
 // Which key map binds the key of a command.

@@ -126,10 +126,13 @@ bool openProjectFile(const std::string& folder, const std::string& name) {
     return true;
 }
 
+// After a file that could not be read: the selection that was dropped for it comes back, or a form takes it.
+static void selectAgain() { selectWidget(project.currentWidget ? project.currentWidget : project.forms); }
+
 static void openChosen(const FilePlace& place) {
     if (!place.name.empty()) {
         dropSelection();
-        openProjectFile(place.folder, place.name);
+        if (!openProjectFile(place.folder, place.name)) selectAgain();
     }
     activateWidget(project.currentWidget);
 }
@@ -190,11 +193,12 @@ void insertFormCommand() {
     selectTool(TOOL_SELECTOR);
     FilePlace place = {formFile.folder.empty() ? currentFolder() : formFile.folder, formFile.name};
     if (!host.fileDialogue("Insert Form", FORM_FILES, false, place.folder, place.name) || place.name.empty()) return;
+    if (place.name.find('.') == std::string::npos) place.name += ".wdf";
     commitEditor();
     dropSelection();
     WidgetNode* first = nullptr;
     if (insertForm(place.folder, place.name, &first) == 0) {
-        if (!project.currentWidget && project.forms) selectWidget(project.forms);
+        selectAgain();
         return;
     }
     realiseForms(first);
@@ -224,10 +228,9 @@ void saveFormCommand() {
 }
 
 void closeProject() {
-    dropSelection();
-    eraseForms(project.forms);
+    host.closeForms();
     deleteList(project.forms);
-    project.forms = project.currentWidget = nullptr;
+    project.forms = nullptr;
     deleteList(design.pasteBuffer);
     design.pasteBuffer = nullptr;
 }
