@@ -6,21 +6,36 @@
 #include "project/preferences.h"
 #include "project/tree.h"
 
+#include <algorithm>
+#include <cctype>
+
 namespace {
 
 // A dynamic form is made by the user's own code, so it has a module of its own and no master at hand: a private
 // constant stands for its parent.
+constexpr std::string_view PARENT_CONSTANT = "Form1";
+
+// A name may be declared only once, in whatever case: in the module of a form that bears the constant's own name the
+// constant gets another one.
+std::string_view parentConstant(const WidgetNode& form) {
+    const bool taken =
+        std::equal(form.name.begin(), form.name.end(), PARENT_CONSTANT.begin(), PARENT_CONSTANT.end(),
+                   [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == std::tolower(b); });
+    return taken ? "Form1_Parent" : PARENT_CONSTANT;
+}
+
 void writeDynamicModule(Generation& g, WidgetNode& form) {
+    form.parentName = parentConstant(form);
     write(g, "module %s_mod\n", form.name);
     write(g, "use menu_f90\n");
-    write(g, "integer,private :: Form1 = 1\n");
-    form.parentName = "Form1";
+    write(g, "integer,private :: %s = 1\n", form.parentName);
     writeIdentifiers(g, form);
     write(g, "contains\n");
     writeFormRoutine(g, form);
     write(g, "return\n");
     write(g, "end subroutine\n");
     write(g, "end module %s_mod\n\n", form.name);
+    form.parentName = PARENT_CONSTANT;
 }
 
 template <class Visit> void eachForm(bool dynamic, Visit visit) {
