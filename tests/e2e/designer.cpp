@@ -124,13 +124,6 @@ void replaceCode(pid_t program, const std::string& code) {
 
 std::string shownCode(pid_t program) { return codeText(program).text; }
 
-std::vector<std::string> logLines(pid_t program) {
-    std::vector<std::string> lines;
-    for (const desk::Thing& thing : desk::look(program))
-        if (thing.kind == "Cell" && thing.y > 800) lines.push_back(thing.text); // the log is docked at the bottom
-    return lines;
-}
-
 void chooseMenu(pid_t program, const std::string& menu, const std::string& entry) {
     desk::click(desk::waitFor(program, "the menu " + menu, [&](const desk::Thing& thing) {
         return thing.kind == "Action" && desk::withText(menu)(thing);

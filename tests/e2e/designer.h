@@ -22,7 +22,6 @@ void setProperty(pid_t program, const std::string& label, const std::string& tex
 void chooseBlock(pid_t program, const std::string& name);
 void replaceCode(pid_t program, const std::string& code); // of the block or slot that is shown
 std::string shownCode(pid_t program);
-std::vector<std::string> logLines(pid_t program);
 void chooseMenu(pid_t program, const std::string& menu, const std::string& entry);
 
 // The program that the designer started, once its window is there; 0 when none comes.

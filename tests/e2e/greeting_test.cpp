@@ -118,7 +118,8 @@ TEST(Greeting, FromAnEmptyProjectToARunningProgram) {
         },
         60);
     EXPECT_EQ(designer::shownCode(program), "call owEnqTextSetting(NameField, nobody)");
-    desk::waitFor(program, "the column of the message", desk::withText("Column: 40"));
+    desk::waitFor(program, "the column of the message",
+                  [](const desk::Thing& thing) { return thing.text.find("Line: 1; Column: 40") != std::string::npos; });
     EXPECT_EQ(designer::startedProgram(program, 2), 0) << "a program was started in spite of the error";
     desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/error.png");
     EXPECT_EQ(designer::close(program), 0);

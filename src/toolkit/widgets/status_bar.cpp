@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QPainter>
 #include <QStatusBar>
+#include <QStringList>
 #include <QToolTip>
 
 namespace orba {
@@ -30,6 +31,8 @@ public:
     }
     void setText(int pane, const QString& text) {
         texts_[static_cast<size_t>(pane)] = text;
+        setAccessibleDescription(
+            QStringList(texts_.begin(), texts_.end()).join("; ")); // a screen reader sees no painting
         update(paneRect(pane));
     }
 

@@ -65,6 +65,8 @@ QString shownText(const QWidget* widget) {
     if (auto* menu = qobject_cast<const QMenu*>(widget)) return menu->title();
     if (auto* bar = qobject_cast<const QProgressBar*>(widget)) return QString::number(bar->value());
     if (auto* slider = qobject_cast<const QAbstractSlider*>(widget)) return QString::number(slider->value());
+    if (!widget->accessibleDescription().isEmpty())
+        return widget->accessibleDescription(); // painted, as status bars are
     return widget->windowTitle();
 }
 
