@@ -276,6 +276,19 @@ TEST_F(DesignerTest, AHiddenWindowIsHiddenAtTheNextStart) {
     EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_VIEW_HIERARCHY)), OSELECTABLE);
 }
 
+TEST_F(DesignerTest, TheMasterWindowComesBackWhereItWasLeft) {
+    writeTextFile((data / "wdesign.ini").string(), "50 60 700 500 1\n");
+    start();
+    moveByUser(MASTER_WINDOW, {90, 80});
+    pump();
+    resizeByUser(MASTER_WINDOW, {640, 480});
+    pump();
+    end();
+    std::string text;
+    readTextFile((data / "wdesign.ini").string(), text);
+    EXPECT_EQ(text.substr(0, text.find('\n')), "    90     80    640    480   1");
+}
+
 TEST_F(DesignerTest, AllFormsHideAndShowTogether) {
     start();
     send(CMD_NEW_FORM);
@@ -498,6 +511,77 @@ TEST_F(DesignerTest, ACancelledGenerationLeavesNoName) {
     EXPECT_EQ(project.sourceName, "");
     EXPECT_EQ(project.sourceDir, "");
     EXPECT_EQ(project.sourceStale, 1);
+}
+
+// ---- The built program ----------------------------------------------------------------------------------------
+
+// A program that stands where a build would have put it.
+static void placeProgram(const std::filesystem::path& folder, const std::string& script) {
+    project.sourceDir = folder.string();
+    project.sourceName = "prog.f90";
+    const std::string path = (folder / "prog").string();
+    writeTextFile(path, "#!/bin/sh\n" + script + "\n");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    setCommandStatus(CMD_EXECUTE, STATUS_ENABLED);
+    setCommandStatus(CMD_COMPILE, STATUS_ENABLED);
+}
+
+struct RunStatus {
+    int compile, execute, abort;
+    bool operator==(const RunStatus&) const = default;
+};
+static RunStatus runStatus() {
+    return {commandStatus(CMD_COMPILE), commandStatus(CMD_EXECUTE), commandStatus(CMD_ABORT)};
+}
+static constexpr RunStatus RUNNING = {STATUS_DISABLED, STATUS_DISABLED, STATUS_ENABLED};
+static constexpr RunStatus IDLE = {STATUS_ENABLED, STATUS_ENABLED, STATUS_DISABLED};
+
+// Ticks of the watch until the program's end has been noticed.
+static void watchUntilIdle(void (*tick)(int)) {
+    for (int tries = 0; tries < 100 && !(runStatus() == IDLE); tries++) {
+        settle(50);
+        tick(CMD_WATCH);
+    }
+}
+
+TEST_F(DesignerTest, AProgramThatEndsIsNoticed) {
+    start();
+    placeProgram(root, "sleep 0.2; exit 3");
+    send(CMD_EXECUTE);
+    EXPECT_EQ(runStatus(), RUNNING);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), 0);
+    watchUntilIdle(send);
+    EXPECT_EQ(runStatus(), IDLE);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), CMD_EXECUTE);
+}
+
+TEST_F(DesignerTest, AProgramThatCrashesIsReported) {
+    start();
+    placeProgram(root, "kill -SEGV $$");
+    expectBox("Application Terminted", "Unhandled Exception or Missing DLL", OANSWEROK);
+    send(CMD_EXECUTE);
+    watchUntilIdle(send);
+    EXPECT_EQ(runStatus(), IDLE);
+}
+
+TEST_F(DesignerTest, AbortEndsTheProgram) {
+    start();
+    placeProgram(root, "echo $$ > started; exec sleep 60");
+    send(CMD_EXECUTE);
+    for (int tries = 0; tries < 100 && !pathExists(file("started")); tries++) settle(20);
+    settle(50);
+    click(button(CMD_ABORT));
+    pump();
+    EXPECT_EQ(runStatus(), IDLE);
+    std::string pid;
+    readTextFile(file("started"), pid);
+    EXPECT_FALSE(std::filesystem::exists("/proc/" + pid.substr(0, pid.find('\n')) + "/exe"));
+}
+
+TEST_F(DesignerTest, ExecuteNeedsABuild) {
+    start();
+    expectBox("Execute Project", "Must Compile & Link first", OANSWEROK);
+    send(CMD_EXECUTE);
 }
 
 // ---- Help -----------------------------------------------------------------------------------------------------
