@@ -5,6 +5,8 @@
 
 #include <QAction>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -123,6 +125,67 @@ TEST(Dialogues, ClientAreaKeepsItsSizeBesideBars) {
     owDrawWindow(window, 1);
     settle();
     EXPECT_EQ(viewOf(panel)->size(), QSize(200, 150));
+}
+
+TEST(Dialogues, TellThatTheyWereScrolled) {
+    Toolkit toolkit;
+    const int window = dialogue(toolkit.master);
+    const int panel = owCreatePanel(window, 0, 0, 100, 80, owVpos, OTOP, owScrollMode, OBOTHBARS, 0);
+    owCreatePanel(panel, 0, 300, 50, 50, owVpos, OTOP, 0);
+    owDrawWindow(window, 1);
+    events();
+    auto* area = viewOf(panel)->findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr);
+    area->verticalScrollBar()->setValue(40);
+    Ids statuses;
+    for (const OACTION& event : events()) {
+        if (event.callback == window) statuses.push_back(event.status);
+    }
+    EXPECT_EQ(statuses, Ids{OSCROLLED});
+}
+
+TEST(Dialogues, TitleFlagsChooseTheButtons) {
+    Toolkit toolkit;
+    const struct {
+        int flag;
+        bool title, quit, maximize, minimize;
+    } rows[] = {{OALL, true, true, true, true},
+                {OTITLE, true, false, false, false},
+                {OQUIT, true, true, false, false},
+                {OMAXIMIZE, true, false, true, false},
+                {OMAXIMIZE + OQUIT, true, true, true, false},
+                {OMINIMIZE + OQUIT, true, true, false, true},
+                {OMINIMIZE + OMAXIMIZE, true, false, true, true}};
+    for (const auto& row : rows) {
+        const int window = owCreateComplexDialogueBox(toolkit.master, 0, 0, 100, 100, row.flag, "x", 0);
+        const Qt::WindowFlags flags = viewOf(window)->windowFlags();
+        EXPECT_EQ(flags.testFlag(Qt::WindowTitleHint), row.title) << row.flag;
+        EXPECT_EQ(flags.testFlag(Qt::WindowCloseButtonHint), row.quit) << row.flag;
+        EXPECT_EQ(flags.testFlag(Qt::WindowMaximizeButtonHint), row.maximize) << row.flag;
+        EXPECT_EQ(flags.testFlag(Qt::WindowMinimizeButtonHint), row.minimize) << row.flag;
+    }
+    const int bare = owCreateComplexDialogueBox(toolkit.master, 0, 0, 100, 100, ONONE, "x", 0);
+    EXPECT_TRUE(viewOf(bare)->windowFlags().testFlag(Qt::FramelessWindowHint));
+    const int tool = owCreateComplexDialogueBox(toolkit.master, 0, 0, 100, 100, OTOOL, "x", 0);
+    EXPECT_EQ(viewOf(tool)->windowType(), Qt::Tool);
+}
+
+TEST(Dialogues, InitialStates) {
+    Toolkit toolkit;
+    const auto make = [&](int state) {
+        const int window = owCreateComplexDialogueBox(toolkit.master, 50, 60, 200, 100, OALL, "x", owVpos, OTOP,
+                                                      owInitState, state, 0);
+        owDrawWindow(window, 1);
+        return window;
+    };
+    const QSize screen = viewOf(toolkit.master)->screen()->size();
+    EXPECT_EQ(frameOf(make(OTOP))->pos(), QPoint(50, 0));
+    EXPECT_EQ(frameOf(make(OCENTRED))->pos(), QPoint((screen.width() - 200) / 2, (screen.height() - 100) / 2));
+    OWIDGET info;
+    owEnqWidgetInfo(make(OMAXIMIZE), &info);
+    EXPECT_EQ(info.state, OMAXIMIZE);
+    owEnqWidgetInfo(make(ONORMAL), &info);
+    EXPECT_EQ(info.state, 1);
 }
 
 TEST(Dialogues, ActiveWindowHasTheInputAlone) {
@@ -281,6 +344,18 @@ TEST(Menus, ADialogueThatHangsOnAnEntryComesUp) {
     ASSERT_GT(window, 0);
     choose(menu.save);
     EXPECT_TRUE(isShown(window));
+}
+
+TEST(Menus, PopUpsComeUpAtThePointer) {
+    MenuFixture menu;
+    const int popup = owCreatePopupMenu(1, 0, 0, ONONE, "", 0);
+    const int entry = owCreateMenuEntry(popup, "Cut Widget|Ctrl+X", owCallback, 15131, 0);
+    owDrawWindow(popup, 1);
+    EXPECT_TRUE(isShown(popup));
+    choose(entry);
+    owRemoveWindow(popup);
+    EXPECT_FALSE(isShown(popup));
+    EXPECT_EQ(identifiers(), Ids{15131});
 }
 
 TEST(Menus, WrongParentsAreRefused) {

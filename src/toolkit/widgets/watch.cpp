@@ -41,6 +41,7 @@ public:
     bool eventFilter(QObject* target, QEvent* event) override {
         switch (event->type()) {
         case QEvent::Resize: resized(target); return false;
+        case QEvent::Move: scrolled(target); return false;
         case QEvent::ChildAdded: childAdded(*static_cast<QChildEvent*>(event)); return false;
         case QEvent::MouseButtonDblClick: doubleClicked(target, *static_cast<QMouseEvent*>(event)); return false;
         case QEvent::MouseMove: moved(target, *static_cast<QMouseEvent*>(event)); return dragEvent(target, event);
@@ -58,6 +59,13 @@ private:
     static void resized(QObject* target) {
         Widget* widget = widgetAt(target);
         if (widget && clientOf(widget) == target) placeChildren(*widget);
+    }
+
+    // A client area moves in its panel only when it is scrolled.
+    static void scrolled(const QObject* target) {
+        Widget* widget = widgetAt(target);
+        if (!widget || widget->kind != Kind::panel || widget->client != target || widget->view == target) return;
+        if (const Widget* window = windowOf(widget)) post(*window, Slot::general, OSCROLLED);
     }
 
     // Inner parts of a view, such as viewports, get the mouse in its place.
