@@ -292,6 +292,19 @@ TEST(ComboBoxes, EditableOnesTakeAnyText) {
     EXPECT_EQ(currentText(combo), "something else");
 }
 
+TEST(ComboBoxes, ShowTheirEntryWithoutItsDescription) {
+    const Toolkit toolkit;
+    const int plain = owCreateComboBox(toolkit.panel, 0, 0, 150, 100, ONONE, ODISPLAY, owVpos, OTOP, 0);
+    const int described =
+        owCreateComboBox(toolkit.panel, 0, 40, 150, 100, ONONE, ODISPLAY, owVpos, OTOP, owDescWidth, 60, 0);
+    owSetListEntry(plain, OADD, owString, "Fe", 0);
+    owSetListEntry(described, OADD, owString, "Fe|iron", 0);
+    for (const int combo : {plain, described}) owSetListEntry(combo, OSELECT, owEntry, 1, 0);
+    settle();
+    EXPECT_EQ(picture(plain), picture(described));
+    EXPECT_EQ(currentText(described), "Fe|iron");
+}
+
 TEST(ComboBoxes, SortedOnesPutEachEntryInItsPlace) {
     const Toolkit toolkit;
     const int combo = owCreateComboBox(toolkit.panel, 0, 0, 100, 100, ONONE, ODISPLAY, owSort, OSORTED, 0);

@@ -1,9 +1,13 @@
 // Tree view boxes and their entries.
 #include "toolkit/testing/robot.h"
 
+#include <QApplication>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTest>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace orba::testing;
 
@@ -180,6 +184,27 @@ TEST(TreeViews, DoubleClickAndReturn) {
     events();
     QTest::keyClick(tree.view(), Qt::Key_Return);
     EXPECT_EQ(heard(), (Heard{{15529, tree.label}}));
+}
+
+TEST(TreeViews, ADropTellsItsTargetOfTheDraggedEntry) {
+    const Tree tree;
+    owTreeViewAction(tree.form, OOPENENTRY);
+    owDefineDragDropCallback(tree.panel, 4712);
+    settle();
+    tree.clickRow(tree.label);
+    events();
+    const QPoint place = tree.view()->visualItemRect(tree.item(tree.panel)).center();
+    const std::unique_ptr<QMimeData> data(tree.view()->model()->mimeData({tree.view()->currentIndex()}));
+    QDragEnterEvent enter(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(tree.view()->viewport(), &enter);
+    QDropEvent drop(place, Qt::MoveAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(tree.view()->viewport(), &drop);
+    const std::vector<OACTION> heard = events();
+    ASSERT_EQ(heard.size(), 1U);
+    EXPECT_EQ(heard[0].callback, 4712);
+    EXPECT_EQ(heard[0].widget, tree.panel);
+    EXPECT_EQ(heard[0].status, tree.label);
+    EXPECT_EQ(tree.item(tree.form)->childCount(), 2) << "moving entries is the program's to do";
 }
 
 TEST(TreeViews, ManyRowsAreBuiltInTimeInProportion) {

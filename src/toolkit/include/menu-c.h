@@ -322,7 +322,7 @@ enum OKEYWORD {
     owLanguage = 32138,           /* syntax: 1 Fortran 77, 2 Fortran 90, 3 C */
     owHelpDelay = 32139,          /* milliseconds, -1 the default */
     owSeparatorType = 32140,
-    owDescWidth = 32141,
+    owDescWidth = 32141,          /* list, combo: width of the description, which stands behind a bar in the entry's text */
     owColumnWidth = 32158,        /* property list: width of the label column */
     owPropertyValue = 32160,      /* property list: a real */
     owPropertyWidget = 32161,     /* property list: handle of the widget in the cell */

@@ -1,4 +1,5 @@
 // Combo boxes, and the routines on entries that they share with list boxes.
+#include "toolkit/widgets/described_row.h"
 #include "toolkit/widgets/family_support.h"
 #include "toolkit/widgets/icons.h"
 #include "toolkit/widgets/list_contents.h"
@@ -20,6 +21,7 @@ public:
     using QComboBox::QComboBox;
 
     int handle = 0;
+    DescribedRow* rows = nullptr;
     int listHeight = 0; // pixels that the list may open to, 0 as it likes
 
     void showPopup() override {
@@ -27,11 +29,15 @@ public:
             const int row = qMax(1, view()->sizeHintForRow(0));
             setMaxVisibleItems(qMax(4, listHeight / row));
         }
-        view()->setMinimumWidth(qMax(width(), view()->sizeHintForColumn(0) + 24));
+        view()->setMinimumWidth(qMax(width(), view()->sizeHintForColumn(0) + 24 + rows->width));
         QComboBox::showPopup();
     }
 
 protected:
+    void initStyleOption(QStyleOptionComboBox* option) const override {
+        QComboBox::initStyleOption(option);
+        if (rows && rows->width > 0) option->currentText = withoutDescription(option->currentText);
+    }
     void focusInEvent(QFocusEvent* event) override {
         QComboBox::focusInEvent(event);
         if (byUser(*event)) post(handle, Slot::select, 1);
@@ -73,6 +79,7 @@ bool getComboProperty(Widget& widget, int property, Value& value) {
     switch (property) {
     case sortProperty: value.integer = dataOf<ComboData>(widget).sorted ? OSORTED : OUNSORTED; return true;
     case accessProperty: value.integer = comboOf(widget).isEditable() ? OEDIT : ODISPLAY; return true;
+    case descWidthProperty: value.integer = unitsAcross(comboOf(widget).rows->width); return true;
     case heightProperty: value.integer = unitsDown(comboOf(widget).listHeight); return true;
     default: return false;
     }
@@ -87,6 +94,7 @@ bool setComboProperty(Widget& widget, int property, const Value& value) {
         if (value.integer == OSORTED) combo.model()->sort(0);
         return true;
     case accessProperty: combo.setEditable(value.integer == OEDIT); return true;
+    case descWidthProperty: combo.rows->width = pixelsAcross(value.integer); return true;
     case heightProperty: combo.listHeight = pixelsDown(value.integer); return true;
     default: return false;
     }
@@ -132,6 +140,9 @@ Word createComboBox(const Arguments& call) {
     view->setEditable(call.integer(6) == OEDIT);
     view->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     view->setMinimumContentsLength(1);
+    view->rows = new DescribedRow(view);
+    if (call.given(owDescWidth)) view->rows->width = pixelsAcross(call.keyword(owDescWidth));
+    view->setItemDelegate(view->rows);
     Widget& combo = addWidget(Kind::comboBox, comboBoxes, parent, view);
     view->handle = combo.handle;
     view->listHeight = pixelsDown(call.integer(4));

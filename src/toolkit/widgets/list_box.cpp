@@ -1,6 +1,7 @@
 // List boxes.
 #include "toolkit/widgets/list_family.h"
 
+#include "toolkit/widgets/described_row.h"
 #include "toolkit/widgets/family_support.h"
 #include "toolkit/widgets/icons.h"
 #include "toolkit/widgets/list_contents.h"
@@ -8,9 +9,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QListWidget>
-#include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 namespace orba {
 namespace {
@@ -36,7 +35,7 @@ public:
 
     int handle = 0;
     bool wholeRows = false; // the height is cut to whole rows
-    int descWidth = 0;      // pixels of the description at the right of each row, 0 for none
+    DescribedRow* rows = nullptr;
 
 protected:
     void focusInEvent(QFocusEvent* event) override {
@@ -81,35 +80,6 @@ private:
     }
 };
 
-// Draws the description, which stands behind a bar or tab in the row's text, in a column of its own.
-class DescribedRow : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const auto* list = static_cast<const ListView*>(option.widget);
-        const QString text = index.data().toString();
-        const qsizetype cut = list && list->descWidth > 0 ? text.indexOf(QLatin1Char('|')) : -1;
-        if (cut < 0) {
-            QStyledItemDelegate::paint(painter, option, index);
-            return;
-        }
-        QStyleOptionViewItem row = option;
-        initStyleOption(&row, index);
-        row.text = text.left(cut);
-        list->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, list);
-        const bool lit = option.state & QStyle::State_Selected;
-        QColor ink = option.palette.color(lit ? QPalette::HighlightedText : QPalette::Text);
-        ink.setAlphaF(lit ? 0.85F : 0.65F);
-        painter->setPen(ink);
-        QRect place = option.rect;
-        place.setLeft(place.right() - list->descWidth + 1);
-        const QString description = text.mid(cut + 1);
-        painter->drawText(place.adjusted(3, 0, -3, 0), Qt::AlignVCenter | Qt::TextSingleLine,
-                          option.fontMetrics.elidedText(description, Qt::ElideRight, place.width() - 6));
-    }
-};
-
 struct ListData : FamilyData {
     bool sorted = false;
     bool icons = true;
@@ -137,7 +107,7 @@ bool setListProperty(Widget& widget, int property, const Value& value) {
         return true;
     case styleProperty: list.wholeRows = value.integer == OAPPROX; return true;
     case descWidthProperty:
-        list.descWidth = pixelsAcross(value.integer);
+        list.rows->width = pixelsAcross(value.integer);
         list.viewport()->update();
         return true;
     default: return false;
@@ -150,7 +120,7 @@ bool getListProperty(Widget& widget, int property, Value& value) {
     case typeProperty: value.integer = widget.type; return true;
     case sortProperty: value.integer = dataOf<ListData>(widget).sorted ? OSORTED : OUNSORTED; return true;
     case styleProperty: value.integer = list.wholeRows ? OAPPROX : OEXACT; return true;
-    case descWidthProperty: value.integer = unitsAcross(list.descWidth); return true;
+    case descWidthProperty: value.integer = unitsAcross(list.rows->width); return true;
     default: return false;
     }
 }
@@ -172,7 +142,9 @@ const Family listBoxes{
 Word createListBox(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* view = new ListView(clientOf(parent));
-    view->setItemDelegate(new DescribedRow(view));
+    auto* rows = new DescribedRow(view);
+    view->rows = rows;
+    view->setItemDelegate(rows);
     view->setUniformItemSizes(true);
     view->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     Widget& list = addWidget(Kind::listBox, listBoxes, parent, view);
@@ -188,7 +160,7 @@ Word createListBox(const Arguments& call) {
     const int handle = finishCreation(list, call);
     setListType(list, type);
     view->wholeRows = (call.given(owListStyle) ? call.keyword(owListStyle) : call.keyword(owStyle)) == OAPPROX;
-    if (call.given(owDescWidth)) view->descWidth = pixelsAcross(call.keyword(owDescWidth));
+    if (call.given(owDescWidth)) rows->width = pixelsAcross(call.keyword(owDescWidth));
     constexpr std::pair<int, int> colours[] = {{owOffCol, offColour}, {owOnCol, onColour}, {owTextCol, textColour}};
     for (const auto& [keyword, property] : colours)
         if (call.given(keyword))

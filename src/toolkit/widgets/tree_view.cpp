@@ -52,7 +52,8 @@ public:
         setExpandsOnDoubleClick(true);
         header()->setStretchLastSection(false);
         header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-        setDragDropMode(QAbstractItemView::NoDragDrop);
+        setDragDropMode(QAbstractItemView::DragDrop);
+        setDropIndicatorShown(false);
         selection_.setSingleShot(true);
         selection_.setInterval(0);
         connect(&selection_, &QTimer::timeout, this, [this] { showSelection(); });
@@ -120,10 +121,15 @@ protected:
         if (currentItem() && (currentItem() != before || confirmed)) chosen(currentItem(), before, {});
         if (confirmed) event->ignore();
     }
+    // Only entries that tell of drops can be dragged. Copied, so that Qt takes none away: moving them is the program's
+    // to do.
+    void startDrag(Qt::DropActions) override {
+        const Widget* entry = widgetOf(handleOf(currentItem()));
+        if (entry && hasCallback(*entry, Slot::dragDrop)) QTreeWidget::startDrag(Qt::CopyAction);
+    }
     void dropEvent(QDropEvent* event) override {
         QTreeWidgetItem* target = itemAt(event->position().toPoint());
         const QTreeWidgetItem* dragged = currentItem();
-        event->setDropAction(Qt::IgnoreAction); // the program moves entries, not the box
         event->accept();
         if (target && dragged && target != dragged)
             post(handleOf(target), Slot::dragDrop, handleOf(dragged), event->position());
@@ -296,12 +302,7 @@ Word createTreeEntry(const Arguments& call) {
     above->insertChild(placeAmong(above, call.integer(1)), item);
     showPicture(entry);
     if (above->childCount() == 1) showPicture(*parent);
-    const int handle = finishCreation(entry, call);
-    if (hasCallback(entry, Slot::dragDrop)) {
-        box.setDragDropMode(QAbstractItemView::InternalMove);
-        box.setDropIndicatorShown(false);
-    }
-    return handle;
+    return finishCreation(entry, call);
 }
 
 Word treeViewAction(const Arguments& call) {
