@@ -244,6 +244,8 @@ TEST_F(Arrays, TableBoxesHoldLabelledColumnsAndReportRows) {
     ASSERT_EQ(seen.size(), 1U);
     EXPECT_EQ(seen[0].status, 2);
     EXPECT_EQ(seen[0].text, "second");
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(10, view->viewport()->height() - 3));
+    EXPECT_EQ(identifiers(), std::vector<int>{table});
 }
 
 TEST_F(Arrays, TtyEntriesTakeLinesBehindThePromptAndRememberThem) {

@@ -284,6 +284,7 @@ ArrayGrid::ArrayGrid(const ArrayOptions& options, const ArrayHooks& hooks, QWidg
         header->setSectionResizeMode(QHeaderView::Interactive);
         header->setHighlightSections(false);
         header->setSectionsClickable(true);
+        header->viewport()->installEventFilter(this);
     }
     horizontalHeader()->setDefaultSectionSize(std::max(smallestCell, options.cellWidth));
     verticalHeader()->setDefaultSectionSize(std::max(smallestCell, options.cellHeight));
@@ -510,6 +511,12 @@ bool ArrayGrid::event(QEvent* event) {
     QPainter painter(this);
     drawBoundary(painter, rect(), options_.boundary, palette().color(QPalette::WindowText), palette());
     return true;
+}
+
+bool ArrayGrid::eventFilter(QObject* watched, QEvent* event) {
+    const bool header = watched == horizontalHeader()->viewport() || watched == verticalHeader()->viewport();
+    if (header && event->type() == QEvent::MouseButtonPress && hooks_.pressedElsewhere) hooks_.pressedElsewhere();
+    return QTableView::eventFilter(watched, event);
 }
 
 void ArrayGrid::keyPressEvent(QKeyEvent* event) {

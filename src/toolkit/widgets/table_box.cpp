@@ -2,6 +2,7 @@
 #include "toolkit/widgets/family_support.h"
 
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <QTableWidget>
 
 namespace orba {
@@ -35,6 +36,24 @@ void postRow(int handle, Slot slot, int row) {
     addEventValue(float(row + 1), row + 1);
 }
 
+// A press beside the rows, or on a label, is an event as well: row 0.
+class ElsewherePress : public QObject {
+public:
+    ElsewherePress(QTableWidget* table, int handle) : QObject(table), table_(table), handle_(handle) {
+        for (QWidget* part : {table->viewport(), table->horizontalHeader()->viewport()}) part->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonPress) return false;
+        const bool onRow = watched == table_->viewport() && table_->itemAt(static_cast<QMouseEvent*>(event)->pos());
+        if (!onRow) post(handle_, Slot::general, 0);
+        return false;
+    }
+
+private:
+    QTableWidget* table_;
+    int handle_;
+};
+
 Word createTableBox(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* table = new QTableWidget(clientOf(parent));
@@ -54,8 +73,9 @@ Word createTableBox(const Arguments& call) {
     table->horizontalHeader()->setMinimumSectionSize(4);
     fontChanged(widget);
     const int handle = widget.handle;
+    new ElsewherePress(table, handle);
     QObject::connect(table, &QTableWidget::itemSelectionChanged, table, [table, handle] {
-        if (!table->signalsBlocked()) postRow(handle, Slot::general, table->currentRow());
+        if (!table->selectedItems().isEmpty()) postRow(handle, Slot::general, table->currentRow());
     });
     QObject::connect(table, &QTableWidget::cellDoubleClicked, table,
                      [handle](int row, int) { postRow(handle, Slot::doubleClick, row); });

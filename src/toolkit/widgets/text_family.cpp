@@ -109,6 +109,7 @@ bool setTextProperty(Widget& widget, int property, const Value& value) {
         textEntryOf(&widget)->setTextFont(font);
         return true;
     }
+    if (property == tabListProperty && widget.tabList == value.integer) return true;
     if (property == tabListProperty)
         widget.tabList = value.integer;
     else if (!setInteger(properties, dataOf<TextData>(widget), property, value))

@@ -103,6 +103,7 @@ bool setValueProperty(Widget& widget, int property, const Value& value) {
         entryOf(widget).setValue(value.real);
         return true;
     }
+    if (property == tabListProperty && widget.tabList == value.integer) return true;
     bool known = setInteger(properties, data, property, value);
     if (property == tabListProperty) widget.tabList = value.integer, known = true;
     for (const RealProperty& row : realProperties)
