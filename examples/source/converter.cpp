@@ -59,16 +59,17 @@ void addMaterials(WidgetNode& form) {
                           {0, "Ceramics", "Ceramics"},
                           {1, "Alumina", "Alumina", "showMaterial(6);"},
                           {1, "Glass", "Glass", "showMaterial(7);"}});
-    WidgetNode& array = add(form, TYPE_TEXT_ARRAY, "Properties", 330, 16, 300, 160);
+    WidgetNode& array = add(form, TYPE_TEXT_ARRAY, "Properties", 330, 16, 300, 150);
     array.columns = 1;
     array.rows = 5;
-    array.columnWidths = {180};
+    array.columnWidths = {196};
     array.rowHeights = {24, 24, 24, 24, 24};
     array.xLabels = "Value";
     array.yLabels = "Density|Modulus|Strength|Conductivity|Expansion";
     array.yLabelsWidth = 100;
     array.xLabelsHeight = 24;
     array.readOnly = 1;
+    array.scrollMode = -1;
 }
 
 void addCode() {

@@ -1,9 +1,7 @@
 #include "designer.h"
 
 #include <algorithm>
-#include <chrono>
 #include <gtest/gtest.h>
-#include <thread>
 
 namespace designer {
 namespace {
@@ -26,20 +24,10 @@ desk::Thing codeText(pid_t program) {
     return desk::waitFor(program, "the code editor", desk::inWindow(MAIN, desk::ofKind("QTextEdit")));
 }
 
-// Once it stands still: the window manager may move a window after it has come up.
 desk::Thing formWindow(pid_t program, const std::string& title) {
-    const auto isForm = [&](const desk::Thing& thing) {
-        return thing.window == title && thing.kind == "orba::FormWindow";
-    };
-    desk::Thing form = desk::waitFor(program, "the form " + title, isForm, 30);
-    for (int still = 0; still < 3; ++still) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
-        const desk::Thing now = desk::waitFor(program, "the form " + title, isForm);
-        if (now.x != form.x || now.y != form.y) still = 0;
-        form = now;
-        if (testing::Test::HasFailure()) break;
-    }
-    return form;
+    return desk::waitFor(
+        program, "the form " + title,
+        [&](const desk::Thing& thing) { return thing.window == title && thing.kind == "orba::FormWindow"; }, 30);
 }
 
 } // namespace
@@ -52,6 +40,7 @@ pid_t open(const std::string& folder, const std::string& project) {
     desk::waitFor(program, "a form", [](const desk::Thing& thing) {
         return thing.kind == "orba::FormWindow" && thing.window.find(MAIN) == std::string::npos;
     });
+    desk::settle(program);
     return program;
 }
 

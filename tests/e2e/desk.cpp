@@ -238,8 +238,26 @@ Thing waitFor(pid_t program, const std::string& what, const Test& test, double s
         },
         seconds);
     EXPECT_TRUE(came) << "nothing on the screen is " << what;
-    if (!came) picture(one.folder + "/missing.png");
+    if (!came)
+        picture(one.folder + "/missing_" + testing::UnitTest::GetInstance()->current_test_info()->name() + ".png");
     return found;
+}
+
+void settle(pid_t program) {
+    std::string before;
+    EXPECT_TRUE(waitUntil(
+        [&] {
+            std::string places;
+            for (const Thing& thing : look(program))
+                if (thing.kind == "orba::FormWindow")
+                    places += std::to_string(thing.x) + "," + std::to_string(thing.y) + ";";
+            const bool still = !places.empty() && places == before;
+            before = places;
+            pause(250);
+            return still;
+        },
+        20))
+        << "its windows do not stand still";
 }
 
 bool shows(pid_t program, const Test& test) {

@@ -1,0 +1,135 @@
+// The examples that are made from records: each is generated, compiled against the toolkit, started and used.
+#include "desk.h"
+
+#include "examples/examples.h"
+#include "project/files.h"
+#include "project/tree.h"
+#include "support/files.h"
+#include "support/records_equal.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string EXAMPLES = std::string(ORBA_SOURCE_DIR) + "/examples/";
+
+struct Language {
+    const char* example;
+    const char* source;   // what wdgen writes beside the project
+    const char* compiler; // with the switches of the source's form
+    const char* libraries;
+};
+
+constexpr Language languages[] = {
+    {"heat", "heat.f90", "gfortran -ffree-line-length-none", "-lorbawidg_f -lorbawidg"},
+    {"beam", "beam.for", "gfortran -std=legacy -ffixed-form -ffixed-line-length-none", "-lorbawidg_f -lorbawidg"},
+    {"converter", "converter.cpp", "g++", "-lorbawidg"},
+};
+
+// Generates, compiles and starts an example; its output goes to a log beside it.
+pid_t startExample(const Language& row) {
+    const std::string folder = desk::scratchFolder() + "/" + row.example;
+    fs::create_directories(folder);
+    const std::string library = fs::path(ORBA_LIBRARY).parent_path().string();
+    const std::string script = "cd " + folder + " && cp " + EXAMPLES + row.example + "/" + row.example + ".wdp . && " +
+                               ORBA_GENERATOR + " " + row.example + ".wdp -o " + folder + "/" + row.source + " && " +
+                               row.compiler + " -I" + ORBA_BINARY_DIR + "/include/orbawidg " + row.source + " -o " +
+                               row.example + " -L" + library + " -Wl,-rpath," + library + " " + row.libraries +
+                               " > compile.log 2>&1";
+    EXPECT_EQ(std::system(script.c_str()), 0) << script;
+    const pid_t program = desk::start({"./" + std::string(row.example)}, {}, folder, folder + "/run.log");
+    desk::settle(program);
+    return program;
+}
+
+desk::Thing button(pid_t program, const std::string& label) {
+    return desk::waitFor(program, "the button " + label, [&](const desk::Thing& thing) {
+        return thing.text == label && thing.kind.find("Button") != std::string::npos;
+    });
+}
+
+desk::Test showing(const std::string& part) {
+    return [part](const desk::Thing& thing) { return thing.text.find(part) != std::string::npos; };
+}
+
+void leave(pid_t program, const std::string& example) {
+    desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/" + example + ".png");
+    desk::click(button(program, "Quit"));
+    EXPECT_EQ(desk::stop(program), 0);
+    std::ifstream log(desk::scratchFolder() + "/" + example + "/run.log");
+    for (std::string line; std::getline(log, line);) EXPECT_EQ(line.find("Error "), std::string::npos) << line;
+}
+
+} // namespace
+
+TEST(Examples, AreWhatTheirProgramWrites) {
+    for (const example::Row& row : example::examples) {
+        const std::string name = std::string(row.name) + ".wdp";
+        ASSERT_TRUE(loadProject(EXAMPLES + row.name, name));
+        WidgetNode* stored = copyNode(project.forms, true);
+        const auto blocks = project.codeBlocks;
+        row.make();
+        const TempFolder folder;
+        ASSERT_TRUE(saveProject(folder.path, name, true));
+        ASSERT_TRUE(loadProject(folder.path, name));
+        EXPECT_EQ(differences(stored, project.forms), "") << row.name;
+        EXPECT_EQ(blocks, project.codeBlocks) << row.name;
+        deleteList(stored);
+    }
+}
+
+TEST(Examples, HeatRunsStopsAndTakesSettings) {
+    ASSERT_TRUE(desk::open());
+    const pid_t program = startExample(languages[0]);
+    desk::click(button(program, "Start"));
+    desk::waitFor(
+        program, "progress",
+        [](const desk::Thing& thing) {
+            return thing.kind.find("Progress") != std::string::npos && std::atoi(thing.text.c_str()) > 5;
+        },
+        30);
+    desk::click(button(program, "Stop"));
+    desk::click(button(program, "Settings..."));
+    const desk::Thing nodes = desk::waitFor(program, "the number of nodes", desk::inWindow("Settings", showing("101")));
+    desk::click(nodes);
+    desk::key("ctrl+a");
+    desk::type("21");
+    desk::click(button(program, "OK"));
+    EXPECT_TRUE(desk::waitUntil([&] { return !desk::shows(program, desk::inWindow("Settings", {})); }));
+    desk::waitFor(program, "the rod at its start",
+                  [](const desk::Thing& thing) { return thing.kind == "Cell" && thing.text == "20.00"; });
+    leave(program, "heat");
+}
+
+TEST(Examples, BeamFollowsItsSupport) {
+    ASSERT_TRUE(desk::open());
+    const pid_t program = startExample(languages[1]);
+    desk::waitFor(program, "the deflection between two supports", showing("3.268 mm"));
+    desk::click(desk::waitFor(program, "Cantilever", desk::withText("Cantilever")));
+    desk::waitFor(program, "the deflection of a cantilever", showing("52.284 mm"));
+    leave(program, "beam");
+}
+
+TEST(Examples, ConverterConvertsAndShowsMaterials) {
+    ASSERT_TRUE(desk::open());
+    const pid_t program = startExample(languages[2]);
+    desk::waitFor(program, "the first conversion", desk::withText("1 metre = 1000 millimetre"));
+    desk::click(button(program, "Swap"));
+    desk::waitFor(program, "the other way", desk::withText("1 millimetre = 0.001 metre"));
+    const desk::Thing metals = desk::waitFor(program, "Metals", desk::ofKind("Cell", desk::withText("Metals")));
+    desk::doubleClick(metals);
+    desk::click(desk::waitFor(program, "Copper", desk::ofKind("Cell", desk::withText("Copper"))));
+    desk::waitFor(program, "the density of copper", desk::withText("8960 kg/m3"));
+    desk::click(desk::waitFor(program, "the quantities", [](const desk::Thing& thing) {
+        return thing.text == "Length" && thing.kind.find("Combo") != std::string::npos;
+    }));
+    desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/converter_list.png");
+    desk::click(desk::waitFor(program, "Temperature", desk::ofKind("Cell", desk::withText("Temperature"))));
+    desk::waitFor(program, "a temperature", desk::withText("1 kelvin = -272.15 Celsius"));
+    leave(program, "converter");
+}
