@@ -50,8 +50,11 @@ function(add_room_tests name)
   if(ROOM_SERIAL)
     set(serial RUN_SERIAL TRUE)
   endif()
+  if(ROOM_ENVIRONMENT) # an empty value would take the next property's name for its own
+    set(environment ENVIRONMENT "${ROOM_ENVIRONMENT}")
+  endif()
   gtest_discover_tests(${name}_tests DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT ${ROOM_TIMEOUT} ENVIRONMENT "${ROOM_ENVIRONMENT}" LABELS ${name} ${serial})
+    PROPERTIES TIMEOUT ${ROOM_TIMEOUT} ${environment} LABELS ${name} ${serial})
 endfunction()
 
 # toolkit_beside(TARGET) lets a program of the build tree find the toolkit that generated programs are compiled against,
