@@ -2,9 +2,13 @@
 
 #include "toolkit/widgets/text_family.h"
 
+#include <QCheckBox>
 #include <QClipboard>
+#include <QPdfWriter>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextBlock>
+#include <QTimer>
 
 using namespace orba;
 
@@ -351,4 +355,97 @@ TEST_F(TextEntries, ArrowKeysReportTheCaretAndTheirCode) {
     EXPECT_EQ(action.key, OKEYDOWN);
     EXPECT_EQ(position(text, 0, -1), 2);
     EXPECT_TRUE(events().empty()); // one event for one move
+}
+
+namespace {
+
+// Works a box that a routine opens, and closes it.
+void inBox(const std::function<void(QWidget* box)>& work) {
+    QTimer::singleShot(0, qApp, [work] {
+        QWidget* box = QApplication::activeModalWidget();
+        ASSERT_TRUE(box);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(box));
+        work(box);
+        box->close();
+    });
+}
+
+QPushButton* buttonOf(QWidget* box, const char* label) {
+    for (auto* button : box->findChildren<QPushButton*>())
+        if (button->text().remove(u'&') == QLatin1String(label)) return button;
+    ADD_FAILURE() << label;
+    return nullptr;
+}
+
+} // namespace
+
+TEST_F(TextEntries, TheFindBoxSelectsOneMatchAfterTheOther) {
+    const int text = entry("", 80, ORICHEDIT);
+    owSetTextSetting(text, "One two one\ntwo one", 0);
+    char wanted[64] = "";
+    int starts[4] = {};
+    QString message;
+    inBox([&](QWidget* box) {
+        QTest::keyClicks(box->findChild<QLineEdit*>(), "one");
+        for (int& start : starts) {
+            QTest::keyClick(box, Qt::Key_Return);
+            int end = 0;
+            owEnqSelectedTextRange(text, &start, &end, 0);
+        }
+        box->findChild<QCheckBox*>()->setChecked(true);
+        QTest::mouseClick(buttonOf(box, "Find Next"), Qt::LeftButton);
+    });
+    EXPECT_EQ(owFindTextDialogue(text, wanted, sizeof wanted), 1);
+    EXPECT_STREQ(wanted, "one");
+    EXPECT_EQ(starts[0], 1);
+    EXPECT_EQ(starts[1], 9);
+    EXPECT_EQ(starts[2], 17);
+    EXPECT_EQ(starts[3], 1); // round again
+    int start = 0, end = 0;
+    owEnqSelectedTextRange(text, &start, &end, 0);
+    EXPECT_EQ(start, 9); // "One" is another word now
+    inBox([](QWidget* box) {
+        QTest::keyClicks(box->findChild<QLineEdit*>(), "three");
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(owFindTextDialogue(text, wanted, sizeof wanted), 0);
+    EXPECT_STREQ(wanted, "three");
+}
+
+TEST_F(TextEntries, TheReplaceBoxReplacesOneOrAll) {
+    const int text = entry("", 80);
+    owSetTextSetting(text, "aa b aa b aa", 0);
+    char wanted[64];
+    const auto work = [&](const char* replacement, std::initializer_list<const char*> buttons) {
+        owSetSelectedTextRange(text, 1, 1);
+        inBox([&](QWidget* box) {
+            const auto lines = box->findChildren<QLineEdit*>();
+            lines[0]->setText("aa");
+            lines[1]->setText(replacement);
+            for (const char* label : buttons) QTest::mouseClick(buttonOf(box, label), Qt::LeftButton);
+        });
+        owReplaceTextDialogue(text, wanted, sizeof wanted);
+    };
+    work("c", {"Find Next", "Replace"});
+    EXPECT_EQ(::Program::text(text), "c b aa b aa");
+    work("aaa", {"Replace All"}); // a replacement that holds what is replaced
+    EXPECT_EQ(::Program::text(text), "c b aaa b aaa");
+    work("", {"Replace All"});
+    EXPECT_EQ(::Program::text(text), "c b a b a");
+}
+
+TEST_F(TextEntries, PrintsToPdf) {
+    QTemporaryDir folder;
+    const int text = entry("", 80, ORICHEDIT);
+    owSetTextSetting(text, "{\\rtf1 one {\\b two}\\par three}", owEntryType, ORICHEDIT, 0);
+    const TextEntry& shown = *textEntryOf(widgetOf(text));
+    EXPECT_EQ(shown.printable(10, false)->toPlainText(), "one two\nthree");
+    owSetSelectedTextRange(text, 5, 8);
+    EXPECT_EQ(shown.printable(10, true)->toPlainText(), "two");
+    QPdfWriter printer(folder.filePath("a.pdf"));
+    shown.printable(12, false)->print(&printer);
+    QFile file(folder.filePath("a.pdf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.read(4), "%PDF");
+    EXPECT_EQ(shown.editor()->document()->defaultFont(), shown.field()->font()); // the screen keeps its size
 }

@@ -26,6 +26,7 @@ constexpr int longestWanted = 255;
 class FindBox : public QDialog {
 public:
     FindBox(TextEntry& entry, bool replacing, QWidget* parent) : QDialog(parent), entry_(entry) {
+        setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
         setWindowTitle(replacing ? QStringLiteral("Find and Replace") : QStringLiteral("Find"));
         auto* grid = new QGridLayout(this);
         const QString selected = fromProgram(entry.selectedText());
