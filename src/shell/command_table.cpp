@@ -15,6 +15,7 @@
 #include "surface/dialogue_keys.h"
 #include "surface/hierarchy.h"
 #include "surface/selection.h"
+#include "surface/snap_dialogue.h"
 
 #include <algorithm>
 #include <iterator>
@@ -91,7 +92,7 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_ABORT, .label = "Abort Execution", .mnemonic = 'A', .menuIcon = "cancel&", .barIcon = "cancel", .bubbleHelp = "Abort Execution", .when = STARTS_DISABLED, .handler = abortCommand},
     {.id = CMD_PROJECT_SETTINGS, .label = "Project Settings...", .mnemonic = 'S'},
     {.id = CMD_CHANGE_PROJECT_TYPE, .label = "Change Project Type...", .mnemonic = 'T'},
-    {.id = CMD_SNAP_DIALOGUE, .label = "Project Snap Grid...", .mnemonic = 'S', .when = WHEN_PIXELS},
+    {.id = CMD_SNAP_DIALOGUE, .label = "Project Snap Grid...", .mnemonic = 'S', .when = WHEN_PIXELS, .handler = snapDialogueCommand},
     // Options
     {.id = CMD_DEFAULTS_RESTORE, .label = "Restore System", .mnemonic = 'R'},
     {.id = CMD_DEFAULTS_LOAD, .label = "Load User", .mnemonic = 'L'},
@@ -164,6 +165,11 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_PROPERTY_CHANGED, .handler = propertyChangedCommand},
     {.id = CMD_FONT_FACE, .handler = fontFaceCommand},
     {.id = CMD_POINT_SIZE, .handler = pointSizeCommand},
+    {.id = CMD_SNAP_ON, .handler = snapOnCommand},
+    {.id = CMD_SNAP_OFF, .handler = snapOffCommand},
+    {.id = CMD_SNAP_OK, .handler = snapOkCommand},
+    {.id = CMD_SNAP_CANCEL, .handler = snapCancelCommand},
+    {.id = CMD_SNAP_WINDOW, .handler = snapWindowEvent},
     {.id = CMD_CODE_BLOCK, .handler = blockChosenCommand},
     {.id = CMD_WIDGET_LIST, .handler = widgetChosenCommand},
     {.id = CMD_SELECTOR_TABS, .handler = selectorTabCommand},

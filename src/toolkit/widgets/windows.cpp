@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -23,6 +24,7 @@ namespace {
 
 // How long geometry changes after a change by the program count as the window manager's answer to it.
 constexpr int SETTLING_MILLISECONDS = 400;
+constexpr int ACTIVATION_RETRY = 120; // milliseconds
 constexpr int NATURAL_WIDTH = 320;
 constexpr int NATURAL_HEIGHT = 240;
 
@@ -507,6 +509,13 @@ void activateView(QWidget* view) {
     expectActivation();
     session.expectedFocus = widgetAt(view)->handle;
     top->activateWindow();
+    // A window manager refuses a request that is older than the user's last input to another window, such as the release
+    // of the click that led to it. Once that has been read, the request is made again.
+    QTimer::singleShot(ACTIVATION_RETRY, view, [view, handle = session.expectedFocus] {
+        if (session.expectedFocus != handle || view->window()->isActiveWindow()) return;
+        expectActivation();
+        view->activateWindow();
+    });
 }
 
 void raiseWindow(Widget& window) {
