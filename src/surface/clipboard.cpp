@@ -4,6 +4,7 @@
 #include "project/host.h"
 #include "project/placement.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/hierarchy.h"
 #include "surface/hooks.h"
@@ -62,6 +63,7 @@ bool refusesForm(const char* verb) {
 }
 
 void fillPasteBuffer() {
+    refreshSelectionList();
     deleteList(design.pasteBuffer);
     design.pasteBuffer = copyNode(design.selectionList, true);
     hooks.commandStatus(CMD_PASTE, OSELECTABLE);
@@ -78,6 +80,18 @@ bool followParent(WidgetNode& toggle, const WidgetNode& parent) {
     else
         return false;
     return true;
+}
+
+// A copy beside its original gets a name of its own; the words and counters are those of new widgets.
+void giveOwnName(WidgetNode& clone) {
+    const WidgetTypeRow* type = widgetType(clone.type);
+    const WidgetNode* form = formOf(&clone, project.forms);
+    if (!type || !form || type->counter == COUNTER_NONE || findName(project.forms, clone.name, false) == &clone) return;
+    std::string name;
+    do {
+        name = form->name + "_" + type->word + std::to_string(project.counters[type->counter]++);
+    } while (findName(project.forms, name, false));
+    renameNode(clone, name);
 }
 
 void shiftBesideOriginal(WidgetNode& clone) {
@@ -189,6 +203,7 @@ WidgetNode* insertClones(const WidgetNode* list) {
         linkChild(parent, clone);
     }
     defaultName(first, NAME_PASTED);
+    for (WidgetNode* node = first; node; node = walkList(node, first)) giveOwnName(*node);
     realiseWidget(*first, parent.handle, true);
     for (WidgetNode* clone = first; clone; clone = clone->next) {
         buildHierarchyEntry(*clone);

@@ -143,6 +143,13 @@ bool holdsSelection(const WidgetNode& node) {
     return grouped && formOf(grouped, project.forms) == &node;
 }
 
+bool holdsInput(const WidgetNode& form) {
+    const int active = owEnqActiveWidget();
+    if (active == 0) return true;
+    const WidgetNode* holder = findHandle(active);
+    return holder && formOf(holder, project.forms) == &form;
+}
+
 bool takesPresses(const WidgetNode& node) { return node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL; }
 
 } // namespace
@@ -180,6 +187,7 @@ void formEvent(int id) {
     if (selectEvent) {
         if (takesPresses(*node)) return press(*node);
         if (action.status == 1 && !holdsSelection(*node)) selectWidget(node);
+        if (!holdsInput(*node)) return; // late news: the input has moved on since
         design.helpContext = "Form";
         hooks.leaveTextMode();
     } else if (node->type == TYPE_FORM && node->formCallbackId == id) {

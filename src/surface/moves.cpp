@@ -203,6 +203,7 @@ void readGeometry(WidgetNode* node) {
 
 void movedCommand() {
     if (!design.selectionList) return;
+    refreshSelectionList();
     WidgetNode* single = project.currentWidget;
     hooks.commandStatus(CMD_UNDO, OSELECTABLE);
     hooks.commandStatus(CMD_REDO, OUNSELECTABLE);

@@ -186,6 +186,22 @@ void ungroupSelection(WidgetNode* list, WidgetNode* second) {
     }
 }
 
+void refreshSelectionList() {
+    hooks.commitEditor();
+    WidgetNode* fresh = nullptr;
+    WidgetNode** end = &fresh;
+    for (const WidgetNode* copy = design.selectionList; copy; copy = copy->next) {
+        const WidgetNode* real = findName(project.forms, copy->name, false);
+        if (!real) continue;
+        *end = copyNode(real, false);
+        (*end)->handle = copy->handle;
+        end = &(*end)->next;
+    }
+    if (!fresh) return;
+    deleteList(design.selectionList);
+    design.selectionList = fresh;
+}
+
 void showSelectionCount() { showCount(design.selectionCount); }
 
 void forgetRecords() {

@@ -45,11 +45,11 @@ void close() {
 void snapDialogueCommand() {
     if (dialogue.window) return;
     selectTool(TOOL_SELECTOR);
-    dialogue.window = owCreateComplexDialogueBox(1, 300, 250, 264, 132, OTITLE + OQUIT, "Snap Grid Setting", owVpos,
-                                                 OTOP, owIconFile, "Light", owIconFormat, ODLLICON, owQuitMode, OLEAVE,
-                                                 owCallback, CMD_SNAP_WINDOW, 0);
-    const int panel = owCreatePanel(dialogue.window, 12, 8, 240, 76, owVpos, OTOP, owTitle, "Snap Grid", owBorderType,
-                                    OCHISEL, 0);
+    dialogue.window =
+        owCreateComplexDialogueBox(1, 300, 250, 264, 132, OTITLE + OQUIT, "Snap Grid Setting", owVpos, OTOP, owIconFile,
+                                   "Light", owIconFormat, ODLLICON, owQuitMode, OLEAVE, owCallback, CMD_SNAP_WINDOW, 0);
+    const int panel =
+        owCreatePanel(dialogue.window, 12, 8, 240, 76, owVpos, OTOP, owTitle, "Snap Grid", owBorderType, OCHISEL, 0);
     dialogue.on = owCreateToggleButton(panel, 16, 18, 70, 24, "On", 0, owVpos, OTOP, owType, O3DRADIO, owCallback,
                                        CMD_SNAP_ON, 0);
     dialogue.off = owCreateToggleButton(panel, 16, 44, 70, 24, "Off", 0, owVpos, OTOP, owType, O3DRADIO, owCallback,
@@ -58,8 +58,8 @@ void snapDialogueCommand() {
                                        owVpos, OTOP, owVmin, 1.0, owVmax, 99.0, 0);
     const int ok = owCreatePushButton(dialogue.window, 94, 96, 75, 25, "OK", owVpos, OTOP, owType, ODEFAULTBUTTON,
                                       owCallback, CMD_SNAP_OK, 0);
-    const int cancel = owCreatePushButton(dialogue.window, 177, 96, 75, 25, "Cancel", owVpos, OTOP, owCallback,
-                                          CMD_SNAP_CANCEL, 0);
+    const int cancel =
+        owCreatePushButton(dialogue.window, 177, 96, 75, 25, "Cancel", owVpos, OTOP, owCallback, CMD_SNAP_CANCEL, 0);
     showSwitch(project.snapOn != 0);
     openDialogueKeys(dialogue.window, {ok, CMD_SNAP_OK}, CMD_SNAP_CANCEL);
     addDialogueButton({cancel, CMD_SNAP_CANCEL});

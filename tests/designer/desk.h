@@ -1,0 +1,55 @@
+// The whole designer in the test's own process, worked by mouse and keys on the offscreen platform.
+#pragma once
+
+#define QT_NO_KEYWORDS // the records have a field of the name slots
+
+#include "menu-c.h"
+#include "project/placement.h"
+#include "project/preferences.h"
+#include "project/records.h"
+#include "project/tree.h"
+#include "shell/designer.h"
+#include "surface/commands.h"
+#include "surface/selection.h"
+#include "surface/state.h"
+#include "toolkit/testing/robot.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+// Starts on an empty project with Form1 and ends without a question.
+struct Desk {
+    Desk();
+    ~Desk();
+
+    // Carries all events that wait to their commands and to the forms.
+    void run();
+    // Takes the tool and clicks on `parent`, pixels from its top left; returns the new record, null when refused.
+    WidgetNode* place(int tool, WidgetNode* parent, int x, int y);
+    // A click on a live widget, and on the background of a panel.
+    void click(WidgetNode* widget);
+    void click(WidgetNode* panel, int x, int y);
+    // Types into a cell of the property sheet, or chooses an entry there, as far as a user could.
+    void setProperty(const char* label, const std::string& text);
+    std::string property(const char* label);
+    bool propertyEnabled(const char* label);
+    void command(int identifier);
+
+    orba::testing::Toolkit toolkit{orba::testing::Toolkit::Master::none}; // answers boxes from the script
+    WidgetNode* form = nullptr;
+    WidgetNode* panel = nullptr; // the main panel
+};
+
+enum PlacementTool : int {
+    PLACE_BUTTON = 17001,
+    PLACE_CHECK_BOX = 17002,
+    PLACE_LIST = 17003,
+    PLACE_SLIDER = 17004,
+    PLACE_TEXT_ENTRY = 17005,
+    PLACE_VALUE_ENTRY = 17006,
+    PLACE_TEXT_LABEL = 17008,
+    PLACE_PANEL = 17010,
+    PLACE_TOOL_BAR = 17017,
+    PLACE_TAB_BOX = 17019,
+};

@@ -1,0 +1,294 @@
+// Placing, selecting, moving, grouping and deleting on a live form, with mouse events on the real widgets.
+#include "desk.h"
+
+#include "surface/hierarchy.h"
+#include "surface/live.h"
+
+#include <QPoint>
+#include <QRect>
+
+namespace robot = orba::testing;
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+Names childrenOf(const WidgetNode* parent) {
+    Names names;
+    for (const WidgetNode* child = parent->child; child; child = child->next) names.push_back(child->name);
+    return names;
+}
+
+struct Place {
+    int x, y, width, height;
+    bool operator==(const Place&) const = default;
+};
+Place placeOf(const WidgetNode* n) { return {n->xpos, n->ypos, n->width, n->height}; }
+void PrintTo(const Place& p, std::ostream* out) { *out << p.x << "," << p.y << " " << p.width << "x" << p.height; }
+
+// The live widget stands where the record says, in pixels from the top left of its parent.
+void expectLiveAt(const WidgetNode* n) {
+    EXPECT_EQ(robot::rectOf(n->handle), QRect(n->xpos, n->ypos, n->width, n->height)) << n->name;
+}
+
+TEST(Surface, StartsOnOneFormThatIsSelectedAndSaved) {
+    Desk desk;
+    EXPECT_EQ(project.currentWidget, desk.form);
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_TRUE(robot::isShown(desk.form->handle));
+    EXPECT_EQ(robot::rectOf(desk.panel->handle), QRect(0, 0, 400, 550));
+}
+
+TEST(Surface, PlacesOnTheSnapGridAndGivesTheToolBack) {
+    Desk desk;
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 57, 83);
+    ASSERT_TRUE(button);
+    EXPECT_EQ(button->name, "Form1_Button1");
+    EXPECT_EQ(placeOf(button), (Place{50, 80, 75, 25}));
+    expectLiveAt(button);
+    EXPECT_EQ(robot::shownText(button->handle).toStdString(), "Button 1");
+    EXPECT_EQ(design.activeTool, TOOL_SELECTOR);
+    EXPECT_EQ(robot::gripCount(), 8);
+    EXPECT_EQ(project.projectModified, 1);
+    EXPECT_GT(button->hierarchyItem, 0);
+}
+
+TEST(Surface, ToolStaysInHandWhileThePreferenceSaysSo) {
+    Desk desk;
+    preferences.repeatPlacement = 1;
+    desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    desk.click(desk.panel, 20, 100);
+    preferences.repeatPlacement = 0;
+    EXPECT_EQ(childrenOf(desk.panel), (Names{"Form1_Button1", "Form1_Button2"}));
+}
+
+TEST(Surface, RefusedPlacementKeepsTheTool) {
+    Desk desk;
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    robot::expectBox("Not a valid parent widget", "This widget cannot support child widgets.", OANSWEROK);
+    EXPECT_FALSE(desk.place(PLACE_SLIDER, button, 5, 5));
+    EXPECT_EQ(design.activeTool, static_cast<int>(PLACE_SLIDER));
+    EXPECT_EQ(childrenOf(desk.panel), (Names{"Form1_Button1"}));
+}
+
+TEST(Surface, TabBoxComesWithAPage) {
+    Desk desk;
+    WidgetNode* page = desk.place(PLACE_TAB_BOX, desk.panel, 20, 20);
+    ASSERT_TRUE(page);
+    EXPECT_EQ(page->type, TYPE_PANEL);
+    EXPECT_EQ(page->parent->type, TYPE_TAB_BOX);
+    EXPECT_EQ(page->scrollMode, ONOBARS);
+    EXPECT_EQ(robot::gripCount(), 0) << "a page can't be dragged";
+}
+
+TEST(Surface, FirstWidgetTakesTheBlankButtonOffAToolBar) {
+    Desk desk;
+    WidgetNode* bar = desk.place(PLACE_TOOL_BAR, desk.panel, 200, 200);
+    ASSERT_TRUE(bar);
+    EXPECT_GT(design.placeholderChild, 0);
+    WidgetNode* button = desk.place(PLACE_BUTTON, bar, 60, 10);
+    ASSERT_TRUE(button);
+    EXPECT_EQ(button->onToolbar, 1);
+    EXPECT_EQ(design.placeholderChild, 0);
+}
+
+struct DragCase {
+    const char* what;
+    int grip; // -1 moves
+    QPoint distance;
+    Place after;
+};
+
+TEST(Surface, DragsMoveAndResizeTheRecord) {
+    const DragCase cases[] = {
+        {"move", -1, {33, 47}, {80, 130, 75, 25}},
+        {"bottom right", 4, {20, 30}, {50, 80, 95, 55}},
+        {"top left", 0, {-10, -20}, {40, 60, 85, 45}},
+    };
+    Desk desk;
+    for (const DragCase& row : cases) {
+        SCOPED_TRACE(row.what);
+        WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 50, 80);
+        ASSERT_TRUE(button);
+        if (row.grip < 0)
+            robot::drag(button->handle, {30, 10}, QPoint(30, 10) + row.distance);
+        else
+            robot::dragGrip(row.grip, row.distance);
+        desk.run();
+        EXPECT_EQ(placeOf(button), row.after);
+        expectLiveAt(button);
+        desk.command(CMD_UNDO);
+        EXPECT_EQ(placeOf(button), (Place{50, 80, 75, 25}));
+        expectLiveAt(button);
+        desk.command(CMD_REDO);
+        EXPECT_EQ(placeOf(button), row.after);
+        robot::expectBox("Confirm Widget Deletion",
+                         ("This will permanently erase " + button->name + ".|Do you want to continue?").c_str(),
+                         OANSWERYES);
+        desk.command(CMD_DELETE);
+    }
+}
+
+TEST(Surface, TallTextEntryTakesALongText) {
+    Desk desk;
+    WidgetNode* text = desk.place(PLACE_TEXT_ENTRY, desk.panel, 20, 20);
+    ASSERT_EQ(text->fieldWidth, 255);
+    robot::dragGrip(5, {0, 40});
+    desk.run();
+    EXPECT_EQ(text->height, 65);
+    EXPECT_EQ(text->fieldWidth, 30000);
+    robot::dragGrip(5, {0, -40});
+    desk.run();
+    EXPECT_EQ(text->fieldWidth, 255);
+}
+
+TEST(Surface, DropOnAPanelMovesTheWidgetThere) {
+    Desk desk;
+    WidgetNode* panel = desk.place(PLACE_PANEL, desk.panel, 150, 200);
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    button->slots[SLOT_GENERAL] = "x = 1";
+    robot::drag(button->handle, {5, 5}, {5 + 150, 5 + 220});
+    desk.run();
+    ASSERT_TRUE(panel->child);
+    WidgetNode* moved = panel->child;
+    EXPECT_EQ(childrenOf(desk.panel), (Names{panel->name}));
+    EXPECT_EQ(moved->slots[SLOT_GENERAL], "x = 1");
+    EXPECT_EQ(placeOf(moved), (Place{20, 40, 75, 25}));
+    expectLiveAt(moved);
+    EXPECT_EQ(project.currentWidget, moved);
+    desk.command(CMD_UNDO);
+    EXPECT_EQ(childrenOf(panel), Names{});
+    ASSERT_TRUE(panel->next);
+    EXPECT_EQ(placeOf(panel->next), (Place{20, 20, 75, 25}));
+}
+
+TEST(Surface, DropOnAButtonPutsTheWidgetBack) {
+    Desk desk;
+    desk.place(PLACE_BUTTON, desk.panel, 150, 200);
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    robot::expectBox("Not a valid parent widget", "This widget cannot support child widgets.", OANSWEROK);
+    robot::expectBox("Widget placement", "Widgets can only be placed on forms or other container widgets", OANSWEROK);
+    robot::drag(button->handle, {5, 5}, {5 + 150, 5 + 190});
+    desk.run();
+    EXPECT_EQ(placeOf(button), (Place{20, 20, 75, 25}));
+    expectLiveAt(button);
+}
+
+TEST(Surface, RubberBandSelectsWhatLiesInside) {
+    Desk desk;
+    WidgetNode* one = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    WidgetNode* two = desk.place(PLACE_BUTTON, desk.panel, 20, 60);
+    desk.place(PLACE_BUTTON, desk.panel, 200, 20);
+    robot::drag(desk.panel->handle, {10, 10}, {120, 120});
+    desk.run();
+    EXPECT_FALSE(project.currentWidget);
+    EXPECT_EQ(design.selectionCount, 2);
+    ASSERT_GT(design.groupPanel, 0);
+    EXPECT_EQ(robot::rectOf(design.groupPanel), QRect(20, 20, 75, 65));
+    robot::drag(design.groupPanel, {5, 5}, {35, 45});
+    desk.run();
+    EXPECT_EQ(placeOf(one), (Place{50, 60, 75, 25}));
+    EXPECT_EQ(placeOf(two), (Place{50, 100, 75, 25}));
+    desk.command(CMD_UNDO);
+    EXPECT_EQ(placeOf(two), (Place{20, 60, 75, 25}));
+    desk.click(desk.panel, 300, 400);
+    EXPECT_EQ(project.currentWidget, desk.form);
+    expectLiveAt(one);
+}
+
+TEST(Surface, GroupOfOtherOriginsIsRefused) {
+    Desk desk;
+    desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    desk.place(PLACE_BUTTON, desk.panel, 20, 60)->hpos = OCENTRE;
+    project.currentWidget->xpos = 20;
+    robot::expectBox("Grouping",
+                     "Only widgets with Left horizontal origin and Top vertical origin can be grouped together",
+                     OANSWEROK);
+    robot::drag(desk.panel->handle, {5, 5}, {390, 300});
+    desk.run();
+    EXPECT_EQ(design.groupPanel, 0);
+}
+
+TEST(Surface, CheckBoxIsSelectedByItsFirstClickAndTickedByTheSecond) {
+    Desk desk;
+    WidgetNode* toggle = desk.place(PLACE_CHECK_BOX, desk.panel, 20, 20);
+    desk.click(desk.panel, 300, 400);
+    const QPoint box(8, 12);
+    robot::click(toggle->handle, box);
+    desk.run();
+    EXPECT_EQ(project.currentWidget, toggle);
+    EXPECT_EQ(toggle->initialStatus, 0);
+    robot::click(toggle->handle, box);
+    desk.run();
+    EXPECT_EQ(toggle->initialStatus, 1);
+}
+
+TEST(Surface, TheOnlyFormStays) {
+    Desk desk;
+    robot::expectBox("Cannot delete form",
+                     "Form1 is the only form in the project.|If you wish to start a new project from scratch, choose "
+                     "the New Project option from the File menu",
+                     OANSWEROK);
+    desk.command(CMD_DELETE);
+    EXPECT_EQ(project.forms, desk.form);
+}
+
+TEST(Surface, CopyAndPasteShiftBesideTheOriginal) {
+    Desk desk;
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 50, 100);
+    button->slots[SLOT_SELECT] = "y = 2";
+    desk.command(CMD_COPY);
+    desk.click(desk.panel, 300, 400);
+    desk.command(CMD_PASTE);
+    WidgetNode* copy = project.currentWidget;
+    ASSERT_NE(copy, button);
+    EXPECT_EQ(copy->xpos, 50 + project.gridPixelX);
+    EXPECT_EQ(copy->ypos, 100 - project.gridPixelY);
+    EXPECT_EQ(copy->slots[SLOT_SELECT], "y = 2");
+    EXPECT_NE(copy->name, button->name);
+}
+
+TEST(Surface, HierarchyRowShowsAHiddenForm) {
+    Desk desk;
+    desk.command(CMD_NEW_FORM);
+    WidgetNode* second = desk.form->next;
+    ASSERT_TRUE(second);
+    robot::expectBox("Confirm Widget Hide",
+                     "This will hide the Form|It can be redisplayed by clicking on the Form name or one of its "
+                     "children in the Object Hierarchy or Property Combo.|Do you want to continue?",
+                     OANSWERYES);
+    robot::closeByUser(second->handle);
+    desk.run();
+    EXPECT_EQ(second->formHidden, 1);
+    EXPECT_FALSE(robot::isShown(second->handle));
+    EXPECT_EQ(project.currentWidget, desk.form);
+    selectByName("Form2", true);
+    desk.run();
+    EXPECT_TRUE(robot::isShown(second->handle));
+    EXPECT_EQ(project.currentWidget, second);
+}
+
+TEST(Surface, EveryToolMakesALiveWidget) {
+    Desk desk;
+    for (const ToolRow& tool : placementTools()) {
+        if (tool.tool == TOOL_RADIO_BUTTON || tool.type == TYPE_TOOL_SEPARATOR || tool.type == TYPE_PANE) continue;
+        SCOPED_TRACE(tool.entry);
+        WidgetNode* made = desk.place(tool.tool, desk.panel, 20, 300);
+        ASSERT_TRUE(made);
+        EXPECT_GT(made->handle, 0);
+        WidgetNode* top = made->parent->type == TYPE_TAB_BOX ? made->parent : made;
+        rebuildWidget(*top);
+        EXPECT_GT(top->handle, 0);
+        project.currentWidget = top;
+        selectWidget(top);
+        robot::expectBox("Confirm Widget Deletion",
+                         ("This will permanently erase " + top->name +
+                          (top->child ? " and all it's child widgets" : "") + ".|Do you want to continue?")
+                             .c_str(),
+                         OANSWERYES);
+        desk.command(CMD_DELETE);
+        EXPECT_EQ(robot::reports(), std::vector<int>{});
+    }
+}
+
+} // namespace
