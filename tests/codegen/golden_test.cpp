@@ -5,9 +5,12 @@
 #include "project_script.h"
 
 #include "codegen/generate.h"
+#include "project/files.h"
 #include "project/records.h"
 
 #include <gtest/gtest.h>
+
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -85,6 +88,32 @@ TEST_P(Golden, IsGeneratedToTheLetter) {
     }
     const std::string golden = fileText(path);
     EXPECT_TRUE(text == golden) << firstDifference(golden, text);
+}
+
+// The project as its file holds it.
+std::string storedProject() {
+    const fs::path folder = fs::temp_directory_path() / ("golden_" + std::to_string(::getpid()));
+    fs::create_directories(folder);
+    EXPECT_TRUE(saveProject(folder.string(), "stored.wdp", true));
+    const std::string bytes = fileText(folder / "stored.wdp");
+    fs::remove_all(folder);
+    return bytes;
+}
+
+// Once the master stands first and dynamic forms bear the name of their parent's constant, generating leaves no trace
+// in the project, and the next source is the same.
+TEST_P(Golden, LeavesTheProjectAsItWas) {
+    const fs::path path = GOLDEN / GetParam();
+    project.projectLanguage = languageOfExtension(path.extension().string());
+    readProjectScript(fileText(fs::path(path).replace_extension(".project")));
+    GeneratedText first;
+    ASSERT_TRUE(generateText(GetParam(), first));
+    ASSERT_TRUE(generateText(GetParam(), first));
+    const std::string before = storedProject();
+    GeneratedText second;
+    ASSERT_TRUE(generateText(GetParam(), second));
+    EXPECT_TRUE(storedProject() == before);
+    EXPECT_TRUE(withoutDate(second.text) == withoutDate(first.text));
 }
 
 std::string testName(const testing::TestParamInfo<std::string>& info) {
