@@ -8,8 +8,6 @@ static const char VERSION_TEXT[] = " v8.5";
 
 void readEnvironment() {
     readFolders();
-    environment.installDir = folders.installDir;
-    environment.architecture = folders.architectureText;
     environment.mainTitle = std::string(PROGRAM_TITLE) + VERSION_TEXT;
     environment.aboutTitle = environment.mainTitle + (folders.system64 ? " - 64bit" : "");
     settingsPlaces.dataDir = folders.dataDir;

@@ -1,11 +1,10 @@
-// What the program found when it started: its folders, the machine, its titles. Filled once by readEnvironment.
+// What the program calls itself, and the size of its code font. Filled once at start-up; the folders and the machine
+// are the platform room's.
 #pragma once
 
 #include <string>
 
 struct Environment {
-    std::string installDir; // of the libraries, "ORBA"
-    std::string architecture;
     std::string mainTitle;  // in the title bar
     std::string aboutTitle; // of the About box; names the word size
     int codePointSize = 9;  // the system's own, until a preference says otherwise

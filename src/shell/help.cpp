@@ -1,6 +1,8 @@
 #include "shell/help.h"
 
 #include "menu-c.h"
+#include "platform/environment.h"
+#include "platform/paths.h"
 #include "project/host.h"
 #include "project/tree.h"
 #include "properties/sheet.h"
@@ -9,9 +11,6 @@
 #include "shell/window_control.h"
 #include "surface/live.h"
 #include "surface/state.h"
-
-#include <filesystem>
-#include <fstream>
 
 static const char HELP_VERSION[] = "85";
 
@@ -63,9 +62,7 @@ static constexpr HelpLibrary HELP_LIBRARIES[] = {
     {CMD_HELP_MESH, "Mesh", "Meshf77.hlp", "ORBAMESH help file could not be found"},
 };
 
-static std::string helpFile(const std::string& name) {
-    return (std::filesystem::path(environment.installDir) / "Help" / name).string();
-}
+static std::string helpFile(const std::string& name) { return joinPath(joinPath(folders.installDir, "Help"), name); }
 
 static bool contains(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
 
@@ -90,7 +87,7 @@ std::string helpTopic() {
 }
 
 static bool showHelp(const std::string& file, const std::string& topic) {
-    return std::ifstream(file).good() && owDisplayHelpWindow(file.c_str(), topic.c_str()) != 0;
+    return fileReadable(file) && owDisplayHelpWindow(file.c_str(), topic.c_str()) != 0;
 }
 
 void contextHelpCommand() {
@@ -131,7 +128,7 @@ void aboutCommand() {
     owCreateIcon(panel, 132, 62, 44, 44, "Light", ODLLICON, 0, owVpos, OTOP, owType, OPICTOGRAM, 0);
     addAboutLine(panel, 124, "Fortran/C++ GUI Builder");
     addAboutLine(panel, 150, "");
-    addAboutLine(panel, 176, "ORBA = " + environment.installDir);
+    addAboutLine(panel, 176, "ORBA = " + folders.installDir);
     owCreatePushButton(panel, 110, 11, 88, 22, "OK", owType, ODEFAULTBUTTON, owCallback, CMD_ABOUT_OK, 0);
     owDefineKeySelectCallback(OKEYRETURN, CMD_ABOUT_OK);
     owDrawWindow(aboutBox, 1);
