@@ -223,10 +223,20 @@ bool continues(std::string_view line) {
     return project.projectLanguage == 90 ? line.ends_with(" &") : line.starts_with("     +");
 }
 
+// The text as the next generation will write it: what a generation leaves in the forms is taken back.
+bool generateForCheck(GeneratedText& generated) {
+    std::vector<std::pair<WidgetNode*, std::string>> parents;
+    for (WidgetNode* form = project.forms; form != nullptr; form = form->next)
+        parents.emplace_back(form, form->parentName);
+    const bool made = generateText("check", generated);
+    for (auto& [form, parent] : parents) form->parentName = std::move(parent);
+    return made;
+}
+
 // Counts continuation lines in the source itself. The comment ahead of a statement names its widget.
 void checkLengths(std::vector<Complaint>& complaints) {
     GeneratedText generated;
-    if (isC() || !generateText("check", generated)) return;
+    if (isC() || !generateForCheck(generated)) return;
     std::string_view rest = generated.text;
     std::string widget;
     int lines = 0;

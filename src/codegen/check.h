@@ -12,7 +12,7 @@ struct Complaint {
 };
 
 // Every complaint about the open project in its language, in walking order. Generation itself never
-// refuses. Generates the text on the way, with what that does to the project (generateText).
+// refuses. Puts the master form first in the chain, as a generation does.
 std::vector<Complaint> checkProject();
 
 // "form: widget: property: message", the parts that are empty left out.

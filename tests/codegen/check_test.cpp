@@ -136,6 +136,12 @@ TEST(Check, StatementsOverTooManyLines) {
     }
 }
 
+TEST(Check, ChangesNothingThatTheNextSourceShows) {
+    complaints(90, "2001 M\n+ 1001 0 Bar\n+ 1003 0 E ; E\n2001 D\n.formType 4\n.parentName E\n2001 S\n.formType 0\n");
+    EXPECT_EQ(findForm(project.forms, "D")->parentName, "E");
+    EXPECT_EQ(findForm(project.forms, "S")->parentName, "NONE");
+}
+
 TEST(Check, AProjectWithoutAMaster) {
     EXPECT_EQ(complaints(90, "2001 Form1\n.formType 0\n"),
               (std::vector<std::string>{"Form Type: no form is the master; set one form to Master"}));
