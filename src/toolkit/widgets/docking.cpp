@@ -342,7 +342,6 @@ DockPane::DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint positio
       floatPosition_(position), dockedSize_(size), floatSize_(size) {
     auto* frame = new PaneFrame(body);
     frame->wanted = size;
-    frame->installEventFilter(this);
     setWidget(frame);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setTitleBar(titleBar);
@@ -496,15 +495,11 @@ void DockPane::tellLater(DockEvent what) {
     timer->start();
 }
 
+// A click that no widget of the body wanted, or one on the title, ends here with its release.
 bool DockPane::event(QEvent* event) {
     const bool handled = QDockWidget::event(event);
     if (event->type() == QEvent::MouseButtonRelease && !told_ && !byProgram_ && report) report(DockEvent::touched);
     return handled;
-}
-
-bool DockPane::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == widget() && event->type() == QEvent::MouseButtonPress && report) report(DockEvent::touched);
-    return QDockWidget::eventFilter(watched, event);
 }
 
 void DockPane::closeEvent(QCloseEvent* event) {
