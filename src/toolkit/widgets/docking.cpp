@@ -101,7 +101,8 @@ void ToolBar::place(Dock dock, QPoint position, int width) {
         hide();
     } else {
         if (isWindow()) setParent(window_, Qt::Widget);
-        if (dock != currentDock() || dock_ != dock) dockAt(dock);
+        if (dock != currentDock() || dock_ != dock || userMoved_) dockAt(dock);
+        userMoved_ = false;
         dock_ = dock;
         setMaximumWidth(QWIDGETSIZE_MAX);
         show();
@@ -162,10 +163,13 @@ void ToolBar::setTitleBar(DockTitle titleBar) {
 }
 
 bool ToolBar::event(QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) pressedAt_ = pos();
     const bool handled = QToolBar::event(event);
     if (event->type() != QEvent::MouseButtonRelease || byProgram_) return handled;
     const Dock now = currentDock();
-    const bool changed = moved_ || now != dock_;
+    const bool changed = moved_ || now != dock_ || (pressedAt_ && pos() != *pressedAt_);
+    pressedAt_.reset();
+    userMoved_ = userMoved_ || changed;
     moved_ = false;
     dock_ = now;
     if (now == Dock::floating && changed) { // torn off: it gets its frame once the drag is over
@@ -354,6 +358,7 @@ DockPane::DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint positio
     });
     connect(this, &QDockWidget::dockLocationChanged, this, [this](Qt::DockWidgetArea area) {
         if (byProgram_) return;
+        userMoved_ = true;
         for (const Side& side : sides)
             if (side.pane == area) dock_ = side.dock;
         settle();
@@ -389,7 +394,8 @@ void DockPane::place(Dock dock, QPoint position, QSize size) {
         hide();
     } else {
         if (size.isValid()) dockedSize_ = size;
-        const bool elsewhere = isFloating() || window_->dockWidgetArea(this) != sideOf(dock).pane;
+        const bool elsewhere = isFloating() || userMoved_ || window_->dockWidgetArea(this) != sideOf(dock).pane;
+        userMoved_ = false;
         if (isFloating()) setFloating(false);
         if (elsewhere) dockAt(dock);
         dock_ = dock;

@@ -8,6 +8,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <functional>
+#include <optional>
 
 namespace orba {
 
@@ -67,9 +68,11 @@ private:
     int floatWidth_ = 0;
     bool byProgram_ = false;
     bool moved_ = false;
-    Dock side_ = Dock::top; // where it was docked last
-    QTimer drag_;           // runs out when a move by the window's frame has come to rest
-    QElapsedTimer placed_;  // since the program placed it
+    bool userMoved_ = false; // the user has changed its place since the program last set one
+    QPoint pressedAt_;       // where it stood when the mouse went down
+    Dock side_ = Dock::top;  // where it was docked last
+    QTimer drag_;            // runs out when a move by the window's frame has come to rest
+    QElapsedTimer placed_;   // since the program placed it
 };
 
 // A button of a tool bar. Its pressed look is the program's to set; a click only tells.
@@ -150,7 +153,8 @@ private:
     QPoint floatPosition_;
     QSize dockedSize_, floatSize_;
     int byProgram_ = 0;
-    bool told_ = false; // a report of a drag is on its way
+    bool userMoved_ = false; // as of a tool bar
+    bool told_ = false;      // a report of a drag is on its way
 };
 
 } // namespace orba
