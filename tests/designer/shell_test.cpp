@@ -513,6 +513,32 @@ TEST_F(DesignerTest, ACancelledGenerationLeavesNoName) {
     EXPECT_EQ(project.sourceStale, 1);
 }
 
+// ---- Snap grid ------------------------------------------------------------------------------------------------
+
+TEST_F(DesignerTest, TheSnapGridIsSetInItsDialogue) {
+    start();
+    choose(menuEntry(CMD_SNAP_DIALOGUE));
+    pump();
+    EXPECT_EQ(owEnqKeyCallback(OKEYESC), CMD_SNAP_CANCEL);
+    send(CMD_SNAP_OFF);
+    send(CMD_SNAP_OK);
+    EXPECT_EQ(project.snapOn, 0);
+    EXPECT_EQ(owEnqSnapGrid(), 1);
+    EXPECT_EQ(project.projectModified, 1);
+    project.projectModified = 0;
+    choose(menuEntry(CMD_SNAP_DIALOGUE));
+    pump();
+    send(CMD_SNAP_ON);
+    send(CMD_SNAP_CANCEL);
+    EXPECT_EQ(project.snapOn, 0);
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(owEnqKeyCallback(OKEYESC), 0);
+    project.gridMode = 1;
+    refreshCommands();
+    EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_SNAP_DIALOGUE)), OUNSELECTABLE);
+    project.gridMode = 0;
+}
+
 // ---- The built program ----------------------------------------------------------------------------------------
 
 // A program that stands where a build would have put it.
