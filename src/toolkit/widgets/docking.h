@@ -68,11 +68,11 @@ private:
     int floatWidth_ = 0;
     bool byProgram_ = false;
     bool moved_ = false;
-    bool userMoved_ = false; // the user has changed its place since the program last set one
-    QPoint pressedAt_;       // where it stood when the mouse went down
-    Dock side_ = Dock::top;  // where it was docked last
-    QTimer drag_;            // runs out when a move by the window's frame has come to rest
-    QElapsedTimer placed_;   // since the program placed it
+    bool userMoved_ = false;          // the user has changed its place since the program last set one
+    std::optional<QPoint> pressedAt_; // where it stood when the mouse went down on it
+    Dock side_ = Dock::top;           // where it was docked last
+    QTimer drag_;                     // runs out when a move by the window's frame has come to rest
+    QElapsedTimer placed_;            // since the program placed it
 };
 
 // A button of a tool bar. Its pressed look is the program's to set; a click only tells.
