@@ -4,6 +4,7 @@
 #include "build/navigation.h"
 #include "platform/paths.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <filesystem>
@@ -35,6 +36,21 @@ int lineOfAbsoft(const std::string& message) {
     size_t words = message.find("on line");
     return words == std::string::npos ? 0 : numberAt(message, words + 8);
 }
+
+struct MessageRow {
+    CompilerProfile profile;
+    int (*line)(const std::string& message); // below 1: none
+};
+constexpr MessageRow MESSAGES[] = {
+    {COMPILER_LF95, lineOfLahey},
+    {COMPILER_LF95_75, lineOfLahey},
+    {COMPILER_CVF, lineBehindParenthesis},
+    {COMPILER_INTEL, lineBehindParenthesis},
+    {COMPILER_VISUAL_C, lineBehindParenthesis},
+    {COMPILER_FTN95, lineAheadOfParenthesis},
+    {COMPILER_FTN95_NET, lineAheadOfParenthesis},
+    {COMPILER_ABSOFT, lineOfAbsoft},
+};
 
 // Length of ":digits" at `at`, 0 when there is none.
 size_t numberLength(const std::string& text, size_t at) {
@@ -114,20 +130,11 @@ MessagePosition includingLine(const std::vector<std::string>& lines, int at, con
 } // namespace
 
 MessagePosition messagePosition(const std::string& message, int compilerProfile) {
+    if (compilerProfile == COMPILER_GNU) return gnuPosition(message);
     MessagePosition position;
-    switch (compilerProfile) {
-    case COMPILER_LF95:
-    case COMPILER_LF95_75: position.line = lineOfLahey(message); break;
-    case COMPILER_CVF:
-    case COMPILER_INTEL:
-    case COMPILER_VISUAL_C: position.line = lineBehindParenthesis(message); break;
-    case COMPILER_FTN95:
-    case COMPILER_FTN95_NET: position.line = lineAheadOfParenthesis(message); break;
-    case COMPILER_ABSOFT: position.line = lineOfAbsoft(message); break;
-    case COMPILER_GNU: return gnuPosition(message);
-    default: break;
+    for (const MessageRow& row : MESSAGES) {
+        if (row.profile == compilerProfile) position.line = std::max(0, row.line(message));
     }
-    if (position.line < 1) position.line = 0;
     return position;
 }
 

@@ -111,7 +111,8 @@ constexpr Terminal TERMINALS[] = {
 };
 
 constexpr const char* INSIDE_TERMINAL =
-    "status=$1; echo \"pid $$\" >\"$1\"; cd -- \"$2\" && shift 2 && \"$@\"; echo \"end $?\" >>\"$status\"";
+    "status=$1; echo \"pid $$\" >\"$1\"; cd -- \"$2\" && shift 2 && \"$@\"; code=$?; "
+    "[ -e \"$status\" ] && echo \"end $code\" >>\"$status\"";
 
 bool terminalWords(std::vector<std::string>& words) {
     std::string own = environmentValue("TERMINAL");
