@@ -7,6 +7,7 @@ packages=(
   gfortran                                     # the language bindings, and what users compile generated programs with
   qt6-base-dev qt6-svg-dev                      # the toolkit's widgets; icons are SVG
   breeze-icon-theme                            # pictures behind the stock icon names
+  xterm                                        # the window of console programs, where the desktop brings no terminal
   fonts-dejavu-core fonts-liberation           # text in a bare installation; a Courier New metric match for code
   libgtest-dev libgmock-dev libbenchmark-dev   # tests and benchmarks
   xvfb openbox xdotool imagemagick             # end-to-end tests: display, window manager, mouse and keys, pictures

@@ -300,6 +300,24 @@ double versionNumber(const std::string& name) {
     return std::strtod(digits.c_str(), nullptr);
 }
 
+bool switchOfAnotherCompiler(int profile, std::string_view word) {
+    auto holds = [&](std::string_view switches) {
+        size_t at = word.empty() ? std::string_view::npos : switches.find(word);
+        if (at == std::string_view::npos) return false;
+        size_t end = at + word.size();
+        return (at == 0 || switches[at - 1] == ' ') && (end == switches.size() || switches[end] == ' ');
+    };
+    bool own = false;
+    bool others = false;
+    for (const CatalogueRow& row : CATALOGUE) {
+        bool here =
+            holds(row.compile) || holds(row.link) || holds(row.moreCompile.narrow) || holds(row.moreCompile.wide);
+        for (const Variant& variant : row.variants) here = here || (variant.letter != 0 && holds(variant.compile));
+        (row.profile == profile ? own : others) |= here;
+    }
+    return others && !own;
+}
+
 void sortVersionNames(std::vector<std::string>& names) {
     std::stable_sort(names.begin(), names.end(),
                      [](const std::string& a, const std::string& b) { return versionNumber(a) < versionNumber(b); });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 // Numbers of the rows. They stand nowhere but in memory; 0 is none recognised.
@@ -43,6 +44,9 @@ void setUpCompiler();
 // Whether the open project can be built with this compiler. With `report` a mismatch is told in a box.
 // False in silence when no compiler was recognised.
 bool compilerFitsProject(bool report);
+
+// Whether `word` is one of the switches that projects made for another compiler than `profile` begin with.
+bool switchOfAnotherCompiler(int profile, std::string_view word);
 
 // Sorts by the number that a name's characters from '+' to '9' read as, ascending; equal numbers keep their order.
 void sortVersionNames(std::vector<std::string>& names);

@@ -182,7 +182,10 @@ std::string quotedObjects(const CommandScene& scene) {
 
 std::string switches(const CommandScene& scene, const std::string& all) {
     std::string text;
-    if (scene.custom) addWords(text, " ", all);
+    if (!scene.custom) return text;
+    for (const std::string& word : wordsOf(all)) {
+        if (!switchLeftOut(scene, word)) text.append(" ").append(word);
+    }
     return text;
 }
 
@@ -287,13 +290,25 @@ std::string fill(const char* command, const CommandScene& scene, const BuildStep
 
 } // namespace
 
-void addWords(std::string& command, const std::string& separator, const std::string& text) {
+std::vector<std::string> wordsOf(const std::string& text) {
     constexpr const char* PARTINGS = " ,\t\n\r";
+    std::vector<std::string> words;
     for (size_t from = text.find_first_not_of(PARTINGS); from != std::string::npos;) {
         size_t end = text.find_first_of(PARTINGS, from);
-        command += separator + text.substr(from, end - from);
+        words.push_back(text.substr(from, end - from));
         from = text.find_first_not_of(PARTINGS, end);
     }
+    return words;
+}
+
+void addWords(std::string& command, const std::string& separator, const std::string& text) {
+    for (const std::string& word : wordsOf(text)) command += separator + word;
+}
+
+bool switchLeftOut(const CommandScene& scene, const std::string& word) {
+    if (scene.profile != COMPILER_GNU) return false;
+    if (word[0] == '/') return !pathExists(word);
+    return word.find("console") != std::string::npos || switchOfAnotherCompiler(scene.profile, word);
 }
 
 std::span<const BuildStep> buildSteps(int compilerProfile, int language) {

@@ -49,6 +49,10 @@ struct CommandScene {
 // The names of the open project and of this machine, for the source at `sourcePath`.
 CommandScene commandScene(int compilerProfile, const std::string& sourcePath, int customSwitches);
 
+// The GNU compilers take no switches of the others, which a project from another system may bring along, and none that
+// only says that the program is one for the console.
+bool switchLeftOut(const CommandScene& scene, const std::string& word);
+
 // The object file of a listed source.
 std::string objectOf(const CommandScene& scene, const std::string& source);
 // The source of a row: the row itself; for the GNU row a relative one that is not there is looked for beside the

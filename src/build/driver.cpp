@@ -138,6 +138,17 @@ void writeComplaints(const Build& build) {
     }
 }
 
+void writeSwitchesLeftOut(const Build& build) {
+    std::string words;
+    for (const std::string& switches : {build.scene.compilerSwitches, build.scene.linkerSwitches}) {
+        for (const std::string& word : wordsOf(switches)) {
+            bool console = word.find("console") != std::string::npos; // that one is meant for us
+            if (build.scene.custom && !console && switchLeftOut(build.scene, word)) words += " " + word;
+        }
+    }
+    if (!words.empty()) writeLogFile(build.run.log, "Check: switches of other compilers are left out:" + words + "\n");
+}
+
 // What the compilers themselves may have left unsaid: each failed build must show why in its log.
 void completeLog(Build& build) {
     if (!build.gnu || build.result <= 0) return;
@@ -228,6 +239,7 @@ int buildProject(bool force, int compilerProfile, const std::string& sourcePath,
     }
     removeOldResults(build);
     writeComplaints(build);
+    writeSwitchesLeftOut(build);
     if (!build.blocked) runSteps(build);
     if (!build.blocked) completeLog(build);
     closeLoggedRun(build.run);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 // The command behind Compile, Link & Execute (force 0) and Rebuild All (force 1), whole: save if the preference says
 // so, generate if stale, build, log, scan, and either the way to the error or the start of the program.
@@ -10,6 +11,9 @@ void compileCommand(bool force);
 // Runs what has to run for project.sourceDir/sourceName. Above 0 when every step was started; compiler errors are only
 // in the log. Writes dataDir/wdcompzz.bat and dataDir/wdesign.tmp and leaves them to the caller.
 int buildProject(bool force, int compilerProfile, const std::string& sourcePath, int customSwitches);
+
+// The words of a text of switches, parted by blank, comma, tab and line feed.
+std::vector<std::string> wordsOf(const std::string& text);
 
 // Splits `text` at blank, comma, tab and line feed and appends `separator` and each word to `command`.
 void addWords(std::string& command, const std::string& separator, const std::string& text);

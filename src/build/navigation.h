@@ -32,8 +32,8 @@ void noteGenerated(GeneratedText generated);
 void loadBuildSource(const std::string& sourcePath);
 bool buildSourceMapped();
 
-// The user's place for a line and column, in characters, of the build's source. Text that no user wrote leads to the widget whose
-// statement it is, and otherwise to the end of the code ahead of it.
+// The user's place for a line and column, in characters, of the build's source. Text that no user wrote leads to the
+// widget whose statement it is, and otherwise to the end of the code ahead of it.
 CodeLocation findLocation(int line, int column);
 
 // Shows the place of an entry of `compilerLog`. Nothing happens when it holds no usable line number.

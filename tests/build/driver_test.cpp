@@ -196,6 +196,23 @@ TEST_F(DriverTest, WhatTheCompilerWouldRejectStandsAheadOfItsWords) {
     EXPECT_TRUE(noted("watch 2000")) << "it is no reason not to build";
 }
 
+TEST_F(DriverTest, SwitchesOfOtherCompilersStayOut) {
+    useFakeCompiler();
+    useSource("app.f90", HELLO);
+    project.customSwitches = 1;
+    project.compilerSwitches = " -nco -win -O2 /real_size:64,-Wall";
+    project.linkerSwitches = "/subsystem:console /usr/bin/env -nomap -lm -mconsole";
+    EXPECT_EQ(buildProject(false, COMPILER_GNU, work + "/app.f90", 1), 1);
+    std::vector<std::string> commands = commandsRun();
+    ASSERT_THAT(commands, testing::SizeIs(2));
+    EXPECT_THAT(commands[0], HasSubstr(" -O2 -Wall"));
+    EXPECT_THAT(commands[0], Not(HasSubstr("-nco")));
+    EXPECT_THAT(commands[0], Not(HasSubstr("real_size")));
+    EXPECT_THAT(commands[1], testing::EndsWith(" /usr/bin/env -lm"));
+    EXPECT_EQ(textOf(data + "/wdesign.tmp"),
+              "Check: switches of other compilers are left out: -nco -win /real_size:64 -nomap\n");
+}
+
 TEST_F(DriverTest, MissingCompiler) {
     ScopedVariable none("PATH", (scratch / "bin").c_str());
     useSource("app.f90", HELLO);
