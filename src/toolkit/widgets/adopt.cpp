@@ -64,6 +64,12 @@ protected:
     }
 };
 
+struct LastPress {
+    int handle = 0;
+    quint64 time = 0;
+    QPoint at;
+};
+
 class Adoption : public QObject {
 public:
     Adoption(Widget& widget, int movedIdentifier, int doubleClickIdentifier)
@@ -117,11 +123,24 @@ private:
         return widget == view || (view->isAncestorOf(widget) && widget->window() == view->window());
     }
 
+    // A click that was handed on to the widget keeps Qt from seeing a double click in the next one. What is adopted
+    // anew between the two is the same widget.
+    bool repeatsPress(const QMouseEvent& event) const {
+        static LastPress last;
+        const QPoint at = event.globalPosition().toPoint();
+        const bool repeats = last.handle == handle && event.timestamp() > last.time &&
+                             event.timestamp() - last.time < quint64(QApplication::doubleClickInterval()) &&
+                             (at - last.at).manhattanLength() < QApplication::startDragDistance();
+        last = repeats ? LastPress() : LastPress{handle, event.timestamp(), at};
+        return repeats;
+    }
+
     bool pressed(QObject* target, const QMouseEvent& event) {
         if (event.button() != Qt::LeftButton || drag != Drag::none || inputBlocked(target)) return false;
         const auto* handleView = dynamic_cast<HandleView*>(target);
         const bool onHandle = handleView && handleView->parentWidget() == content;
         if (!onHandle && !ownsMouse(target)) return false;
+        if (!onHandle && repeatsPress(event)) return doubleClicked(target, event);
         inputByUser();
         session.lastKey = OKEYLEFTBUTTON;
         grip = onHandle ? handleView->grip : -1;
