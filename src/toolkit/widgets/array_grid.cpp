@@ -396,6 +396,7 @@ void ArrayGrid::setCellSize(int column, int row, int width, int height) {
 namespace {
 std::vector<int> sectionSizes(const QHeaderView& header) {
     std::vector<int> sizes;
+    sizes.reserve(std::size_t(header.count()));
     for (int i = 0; i < header.count(); ++i) sizes.push_back(header.sectionSize(i));
     return sizes;
 }
@@ -504,7 +505,9 @@ bool ArrayGrid::moveCell(int steps) {
 }
 
 // Past QAbstractItemView, which would hand the key back to keyPressEvent.
-void ArrayGrid::leave(bool forward) { QAbstractScrollArea::focusNextPrevChild(forward); }
+void ArrayGrid::leave(bool forward) {
+    QAbstractScrollArea::focusNextPrevChild(forward);
+} // NOLINT(bugprone-parent-virtual-call)
 
 bool ArrayGrid::event(QEvent* event) {
     if (event->type() != QEvent::Paint) return QTableView::event(event);

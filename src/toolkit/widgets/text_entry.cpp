@@ -393,7 +393,7 @@ void TextEntry::setText(std::string_view text, bool asRtf) {
 std::string TextEntry::text(bool asRtf) const {
     if (line_) return toProgram(line_->text());
     if (asRtf && rich()) return writeRtf(*edit_->document()).toStdString();
-    const std::string bytes = toProgram(index().text());
+    std::string bytes = toProgram(index().text());
     if (!rich()) return bytes;
     std::string out;
     out.reserve(bytes.size() + std::size_t(index().lineCount()));

@@ -5,6 +5,7 @@
 #include "toolkit/widgets/program_text.h"
 
 #include <QApplication>
+#include <cmath>
 
 namespace orba {
 namespace {
@@ -59,7 +60,7 @@ bool getFontProperty(Widget& widget, int property, Value& value) {
     case 45: value.integer = *font.bold; return true;
     case 53: value.text = *font.face == QApplication::font().family() ? widget.fontFace : *font.face; return true;
     case 65: value.integer = *font.italic; return true;
-    case 72: value.integer = int(*font.points + 0.5); return true;
+    case 72: value.integer = int(std::lround(*font.points)); return true;
     case 79: value.integer = *font.strikeout; return true;
     case 84: value.integer = *font.underline; return true;
     default: return false;
