@@ -63,10 +63,6 @@ const char* const CANNOT_COMPILE = "Compile : Compile/Link process failed|Can no
 } // namespace
 
 TEST_F(DriverTest, ARealBuildRunsItsProgram) {
-    useProgram("unused", "");
-    install = "/nowhere";
-    std::string source =
-        useSource("hello there.f90", "program hello\n open(7, file='mark')\n write(7,*) 'made'\nend\n");
     // The toolkit's libraries are empty ones here: the program needs none of them.
     scratch.write("empty.c", "");
     std::filesystem::create_directories(scratch / "install/lib");
@@ -75,14 +71,20 @@ TEST_F(DriverTest, ARealBuildRunsItsProgram) {
                            "gcc -c empty.c && ar rc install/lib/liborbawidg_f.a empty.o")
                               .c_str()),
               0);
-    build();
-    EXPECT_THAT(notes.boxes, IsEmpty()) << testing::PrintToString(notes.list);
-    EXPECT_EQ(textOf(work + "/mark"), " made\n") << "started in the folder of its own";
-    EXPECT_EQ(project.exeTime, fileTime(work + "/hello there"));
-    EXPECT_EQ(project.projectModified, 1);
-    EXPECT_FALSE(std::filesystem::exists(work + "/hello there.o"));
-    EXPECT_THAT(notes.calls, ElementsAre("compile 0", "execute 0", "abort 0", "abort 1", "compile 0", "execute 0",
-                                         "watch 2000", "print 1", "watch 0", "abort 0", "compile 1", "execute 1"));
+    for (const char* name : {"hello there", "say \"hi\" & it's $HOME, ok", "äöü"}) {
+        notes = {};
+        project.projectModified = 0;
+        std::filesystem::remove(work + "/mark");
+        useSource(std::string(name) + ".f90", "program hello\n open(7, file='mark')\n write(7,*) 'made'\nend\n");
+        build();
+        EXPECT_THAT(notes.boxes, IsEmpty()) << testing::PrintToString(notes.list);
+        EXPECT_EQ(textOf(work + "/mark"), " made\n") << "started in the folder of its own";
+        EXPECT_EQ(project.exeTime, fileTime(work + "/" + name));
+        EXPECT_EQ(project.projectModified, 1);
+        EXPECT_FALSE(std::filesystem::exists(work + "/" + name + ".o"));
+        EXPECT_THAT(notes.calls, ElementsAre("compile 0", "execute 0", "abort 0", "abort 1", "compile 0", "execute 0",
+                                             "watch 2000", "print 1", "watch 0", "abort 0", "compile 1", "execute 1"));
+    }
 }
 
 TEST_F(DriverTest, NothingIsCompiledTwice) {
