@@ -4,6 +4,7 @@
 #include "editing/editor_window.h"
 #include "editing/modes.h"
 #include "editing/rename.h"
+#include "editing/syntax.h"
 #include "editing/text_commands.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
@@ -151,7 +152,7 @@ void buildCodeEditor(int pane) {
     makeSelector(head);
     makeIcons(head);
     makeTexts(body, state.width, std::max(state.height - HEAD_HEIGHT, HEAD_HEIGHT));
-    if (preferences.syntaxColours) owInitializeSyntaxTree();
+    if (preferences.syntaxColours) loadSyntaxAttributes();
     refreshFont(false, 0);
     fillHooks();
 }
