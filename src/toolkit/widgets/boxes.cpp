@@ -65,7 +65,7 @@ QString& lastDirectory() {
 }
 
 QString startDirectory(const QString& wanted) {
-    const QString native = QDir::fromNativeSeparators(wanted);
+    QString native = QDir::fromNativeSeparators(wanted);
     if (!native.isEmpty() && QFileInfo(native).isDir()) return native;
     if (!lastDirectory().isEmpty() && QFileInfo(lastDirectory()).isDir()) return lastDirectory();
     return QDir::currentPath();

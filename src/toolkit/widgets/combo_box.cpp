@@ -174,6 +174,7 @@ void addRow(Widget& widget, int at, const ListEntry& entry) {
 
 int findRow(const ComboView& combo, const QString& text, bool whole) {
     std::vector<QString> rows;
+    rows.reserve(static_cast<size_t>(combo.count()));
     for (int i = 0; i < combo.count(); ++i) rows.push_back(combo.itemText(i));
     return findListText(rows, text, whole);
 }
@@ -250,11 +251,11 @@ QString comboBoxText(Widget& widget, int& entry) {
     const ComboView& combo = comboOf(widget);
     if (entry > 0) {
         const bool there = entry <= combo.count();
-        const QString text = there ? combo.itemText(entry - 1) : QString();
+        QString text = there ? combo.itemText(entry - 1) : QString();
         if (!there) entry = 0;
         return text;
     }
-    const QString text = combo.currentText();
+    QString text = combo.currentText();
     entry = combo.isEditable() ? combo.findText(text) + 1 : combo.currentIndex() + 1;
     return text;
 }

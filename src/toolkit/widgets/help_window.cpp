@@ -34,7 +34,7 @@ QString readableFile(const QString& name) {
     if (isReadable(path)) return QFileInfo(path).isFile() ? path : QString();
     const QFileInfo asked(path);
     for (const char* ending : readableEndings) {
-        const QString sibling = asked.path() + QLatin1Char('/') + asked.completeBaseName() + QLatin1String(ending);
+        QString sibling = asked.path() + QLatin1Char('/') + asked.completeBaseName() + QLatin1String(ending);
         if (QFileInfo(sibling).isFile()) return sibling;
     }
     return {};
@@ -98,7 +98,7 @@ private:
         const QSignalBlocker quiet(contents_);
         contents_->clear();
         for (const Heading& heading : headings_)
-            contents_->addItem(QString((heading.level - 1) * 3, QLatin1Char(' ')) + heading.text);
+            contents_->addItem(QString(qsizetype{3} * (heading.level - 1), QLatin1Char(' ')) + heading.text);
         contents_->setVisible(!headings_.empty());
     }
 

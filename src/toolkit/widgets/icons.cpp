@@ -216,7 +216,7 @@ QString pictureFile(const QString& name) {
             const QString base =
                 folder.isEmpty() ? spelling : folder + QLatin1Char('/') + QFileInfo(spelling).fileName();
             for (const char* ending : {"", ".ico", ".bmp", ".png", ".svg"}) {
-                const QString path = base + QLatin1String(ending);
+                QString path = base + QLatin1String(ending);
                 if (QFileInfo(path).isFile() && QImageReader(path).canRead()) return path;
             }
         }
