@@ -16,7 +16,7 @@ static int barMoves[MOVES], paneMoves[MOVES];
 static void openWindow(void) {
     static const int edges[] = {140, 240, -1};
     static const char* const icons[] = {"filenew", "fileopen", "save", "", "cut", "copy", "paste"};
-    window = owCreateComplexDialogueBox(1, 300, 200, 560, 380, OALL, "Bars and panes", owVpos, OTOP, owQuitMode, OHIDE,
+    window = owCreateComplexDialogueBox(1, 620, 320, 560, 380, OALL, "Bars and panes", owVpos, OTOP, owQuitMode, OHIDE,
                                         owCallback, OIDENT, 0);
     bar = owCreateToolBar(window, OTOP, 22, owTitle, "Tool bar", owTitleFlag, OQUIT, owCallback, OIDENT);
     for (const char* icon : icons) {

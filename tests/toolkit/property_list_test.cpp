@@ -201,6 +201,19 @@ TEST(PropertyLists, NumbersAreEnteredWithReturnAndByLeaving) {
     EXPECT_TRUE(heard().empty()) << "the program's own change is no event";
 }
 
+TEST(PropertyLists, ANumberBeingTypedIsTakenOverBeforeACommand) {
+    const Sheet sheet;
+    const int f5 = 9005;
+    owDefineKeyCallback(OKEYF1 + 4, f5);
+    sheet.clickCell(Sheet::XPOS);
+    typeKeys("64");
+    typeKey(Qt::Key_F5);
+    std::vector<int> order;
+    for (const auto& [identifier, row] : heard()) order.push_back(identifier);
+    EXPECT_EQ(order, (std::vector<int>{SELECTED, CHANGED, f5}));
+    EXPECT_EQ(sheet.value(Sheet::XPOS), 64);
+}
+
 TEST(PropertyLists, ButtonsOfCells) {
     const Sheet sheet;
     sheet.clickCell(Sheet::COLOUR, -8);
