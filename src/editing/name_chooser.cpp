@@ -146,15 +146,16 @@ Names namesOf(const Family& family) {
     return names;
 }
 
+// Wide enough for the longest title.
 void makeChooser() {
     if (chooser.window) return;
-    chooser.window = owCreateComplexDialogueBox(1, 300, 250, 242, 176, OTITLE + OQUIT, "Add widget name", owVpos, OTOP,
+    chooser.window = owCreateComplexDialogueBox(1, 300, 250, 330, 176, OTITLE + OQUIT, "Add widget name", owVpos, OTOP,
                                                 owIconFile, "Widget", owIconFormat, ODLLICON, owQuitMode, OLEAVE,
                                                 owCallback, CMD_NAME_WINDOW, 0);
     chooser.list =
-        owCreateListBox(chooser.window, 10, 10, 222, 126, ONONE, owVpos, OTOP, owDoubleClickCallback, CMD_NAME_OK, 0);
-    owCreatePushButton(chooser.window, 78, 144, 74, 25, "Cancel", owVpos, OTOP, owCallback, CMD_NAME_CANCEL, 0);
-    owCreatePushButton(chooser.window, 158, 144, 74, 25, "OK", owVpos, OTOP, owType, ODEFAULTBUTTON, owCallback,
+        owCreateListBox(chooser.window, 10, 10, 310, 126, ONONE, owVpos, OTOP, owDoubleClickCallback, CMD_NAME_OK, 0);
+    owCreatePushButton(chooser.window, 166, 144, 74, 25, "Cancel", owVpos, OTOP, owCallback, CMD_NAME_CANCEL, 0);
+    owCreatePushButton(chooser.window, 246, 144, 74, 25, "OK", owVpos, OTOP, owType, ODEFAULTBUTTON, owCallback,
                        CMD_NAME_OK, 0);
 }
 

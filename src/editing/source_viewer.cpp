@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int FOOT_HEIGHT = 26, PANES = 4;
+constexpr int FOOT_HEIGHT = 26, PANES = 4, FREE_CORNER = 80;
 const int PANE_SIZES[PANES] = {300, 400, 500, -1};
 
 struct Viewer {
@@ -92,8 +92,8 @@ void makeMenus() {
 void makeFoot(int width) {
     const int foot = owCreatePanel(viewer.window, 0, 0, width, FOOT_HEIGHT, owVpos, OBOTTOM, owHpos, OCENTRE, owExpand,
                                    1, owBorderType, ONOBOUNDARY, 0);
-    owCreateTextEntry(foot, 5, 2, 104, 22, "Goto Line Number:", NAME_LIMIT, ODISPLAY, 0);
-    viewer.lineEntry = owCreateValueEntry(foot, 110, 2, 50, 22, 1.0, 5, 0, OEDIT, owCallback, CMD_VIEWER_GOTO, 0);
+    owCreateTextEntry(foot, 5, 2, 132, 22, "Goto Line Number:", NAME_LIMIT, ODISPLAY, 0);
+    viewer.lineEntry = owCreateValueEntry(foot, 140, 2, 60, 22, 1.0, 5, 0, OEDIT, owCallback, CMD_VIEWER_GOTO, 0);
     owCreatePushButton(foot, 4, 2, 75, 22, "OK", owHpos, ORIGHT, owCallback, CMD_VIEWER_EXIT, 0);
 }
 
@@ -113,11 +113,13 @@ void showPosition() {
 
 void makeViewer(const std::string& path) {
     const WindowState& place = windowStates[WINDOW_CODE_EDITOR];
-    const int width = std::max(place.width, 500), height = std::max(place.height, 400);
+    // A docked editor has no place of its own on the screen.
+    const int left = std::max(place.x, FREE_CORNER), top = std::max(place.y, FREE_CORNER);
+    const int width = std::max(place.width, 640), height = std::max(place.height, 480);
     const std::string title = "Source Code Viewer - [" + path + " - ReadOnly]";
-    viewer.window = owCreateComplexDialogueBox(1, place.x, place.y, width, height, OALL, title.c_str(), owVpos, OTOP,
-                                               owIconFile, "Called", owIconFormat, ODLLICON, owQuitMode, OLEAVE,
-                                               owCallback, CMD_VIEWER_WINDOW, 0);
+    viewer.window =
+        owCreateComplexDialogueBox(1, left, top, width, height, OALL, title.c_str(), owVpos, OTOP, owIconFile, "Called",
+                                   owIconFormat, ODLLICON, owQuitMode, OLEAVE, owCallback, CMD_VIEWER_WINDOW, 0);
     makeMenus();
     viewer.statusBar = owCreateStatusBar(viewer.window, owPanes, PANES, owSizes, PANE_SIZES, 0);
     makeFoot(width);
