@@ -133,6 +133,18 @@ void makeFiles(const fs::path& folder, const std::string& name, int widgets) {
     if (!saveProject(folder.string(), name + ".wdp", true)) std::exit(1);
 }
 
+// In a process of its own: what this one holds would count for the processes that it measures.
+void makeFilesAside(const fs::path& folder, const std::string& name, int widgets) {
+    const pid_t child = fork();
+    if (child == 0) {
+        makeFiles(folder, name, widgets);
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    if (status != 0) std::exit(1);
+}
+
 struct Cost {
     double milliseconds; // of the processor, so that what runs beside does not count
     double megabytes;    // most memory the process had
@@ -179,7 +191,7 @@ int main(int argc, char** argv) {
     std::vector<double> own;
     for (const int widgets : {10000, 100000}) {
         const std::string name = "form" + std::to_string(widgets);
-        makeFiles(folder, name, widgets);
+        makeFilesAside(folder, name, widgets);
         std::vector<Cost> ours;
         std::vector<Cost> theirs;
         if (widgets > 10000) std::puts("uic takes many minutes for the next form ...");
