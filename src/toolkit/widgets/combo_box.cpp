@@ -141,6 +141,7 @@ Word createComboBox(const Arguments& call) {
     view->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     view->setMinimumContentsLength(1);
     view->rows = new DescribedRow(view);
+    view->rows->margin = 7;
     if (call.given(owDescWidth)) view->rows->width = pixelsAcross(call.keyword(owDescWidth));
     view->setItemDelegate(view->rows);
     Widget& combo = addWidget(Kind::comboBox, comboBoxes, parent, view);

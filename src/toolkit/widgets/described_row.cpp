@@ -7,6 +7,11 @@ namespace orba {
 
 QString withoutDescription(const QString& text) { return text.section(QLatin1Char('|'), 0, 0); }
 
+QSize DescribedRow::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    return {size.width(), qMax(size.height(), option.fontMetrics.height() + margin)};
+}
+
 void DescribedRow::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const QString text = index.data().toString();
     const qsizetype cut = width > 0 ? text.indexOf(QLatin1Char('|')) : -1;

@@ -12,9 +12,11 @@ class DescribedRow : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    int width = 0; // pixels of the descriptions; 0 shows entries as they stand
+    int width = 0;  // pixels of the descriptions; 0 shows entries as they stand
+    int margin = 0; // pixels of air around a row's text, above and below together
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
 } // namespace orba
