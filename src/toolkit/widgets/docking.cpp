@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
+#include <algorithm>
 #include <array>
 
 namespace orba {
@@ -346,6 +347,7 @@ DockPane::DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint positio
       floatPosition_(position), dockedSize_(size), floatSize_(size) {
     auto* frame = new PaneFrame(body);
     frame->wanted = size;
+    window->installEventFilter(this);
     setWidget(frame);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setTitleBar(titleBar);
@@ -411,24 +413,52 @@ namespace {
 
 constexpr int roomForTheRest = 120; // pixels that panes leave to the middle of a window when all together would fill it
 
+// What the middle of a window needs beside that many panes, with the gaps between them.
+int restBeside(const QMainWindow& window, std::size_t panes, bool across) {
+    const QSize least = window.centralWidget() ? window.centralWidget()->minimumSizeHint() : QSize();
+    const int gap = window.style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent, nullptr, &window);
+    return qMax(roomForTheRest, across ? least.width() : least.height()) + static_cast<int>(panes) * gap;
+}
+
+// The extent that no pane may exceed so that all fit into `room`: the largest give way first.
+int largestExtent(const std::vector<std::pair<QDockWidget*, int>>& panes, int room) {
+    std::vector<int> extents;
+    for (const auto& [pane, extent] : panes) extents.push_back(extent);
+    std::sort(extents.begin(), extents.end());
+    int panesLeft = static_cast<int>(extents.size());
+    for (const int extent : extents) {
+        const int share = room / panesLeft--;
+        if (extent > share) return qMax(1, share);
+        room -= extent;
+    }
+    return QWIDGETSIZE_MAX;
+}
+
 // Holds panes to an extent while the layout is done once; afterwards they can be dragged again.
 void holdExtents(QMainWindow* window, const std::vector<std::pair<QDockWidget*, int>>& panes, Qt::Orientation along) {
     const bool across = along == Qt::Horizontal;
-    int sum = 0;
-    for (const auto& [pane, extent] : panes) sum += extent;
-    const int room = qMax(1, (across ? window->width() : window->height()) - roomForTheRest);
+    const int rest = restBeside(*window, panes.size(), across); // a window that is too small for all would grow
+    const int room = qMax(1, (across ? window->width() : window->height()) - rest);
+    const int largest = largestExtent(panes, room);
     for (const auto& [pane, extent] : panes) {
-        const int held = sum > room ? extent * room / sum : extent;
+        const int held = qMin(extent, largest);
+        QSize& hint = static_cast<PaneFrame*>(pane->widget())->wanted; // the next layout goes by it
+        across ? hint.setWidth(held) : hint.setHeight(held);
         if (across)
             pane->setFixedWidth(held);
         else
             pane->setFixedHeight(held);
     }
     window->layout()->activate();
+    QList<QDockWidget*> docks;
+    QList<int> extents;
     for (const auto& [pane, extent] : panes) {
         pane->setMinimumSize(0, 0);
         pane->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        docks.append(pane);
+        extents.append(qMin(extent, largest));
     }
+    window->resizeDocks(docks, extents, along); // or else the next layout goes by hints
 }
 
 } // namespace
@@ -502,6 +532,12 @@ void DockPane::tellLater(DockEvent what) {
 }
 
 // A click that no widget of the body wanted, or one on the title, ends here with its release.
+// Qt gives panes new shares of a window that is too small for all; one of the panes brings the wanted ones back.
+bool DockPane::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window_ && event->type() == QEvent::Resize && window_->findChild<DockPane*>() == this) settle();
+    return QDockWidget::eventFilter(watched, event);
+}
+
 bool DockPane::event(QEvent* event) {
     const bool handled = QDockWidget::event(event);
     if (event->type() == QEvent::MouseButtonRelease && !told_ && !byProgram_ && report) report(DockEvent::touched);
