@@ -6,6 +6,7 @@
 
 #include <QPoint>
 #include <QRect>
+#include <QSize>
 
 namespace robot = orba::testing;
 
@@ -266,6 +267,36 @@ TEST(Surface, HierarchyRowShowsAHiddenForm) {
     desk.run();
     EXPECT_TRUE(robot::isShown(second->handle));
     EXPECT_EQ(project.currentWidget, second);
+}
+
+TEST(Surface, GridProjectCountsInCells) {
+    Desk desk;
+    project.gridMode = 1;
+    applyGrid();
+    for (WidgetNode* node : {desk.form, desk.panel}) {
+        node->width = 20;
+        node->height = 24;
+    }
+    desk.form->xpos = desk.form->ypos = 2;
+    discardForms(project.forms);
+    desk.run();
+    const int cellX = project.gridPixelX, cellY = project.gridPixelY;
+    EXPECT_EQ(robot::rectOf(desk.panel->handle).size(), QSize(20 * cellX, 24 * cellY));
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 3 * cellX + 2, 4 * cellY + 2);
+    ASSERT_TRUE(button);
+    EXPECT_EQ(placeOf(button), (Place{3, 4, 75 / cellX, 25 / cellY}));
+    robot::drag(button->handle, {5, 5}, QPoint(5, 5) + QPoint(2 * cellX + 3, 3 * cellY + 3));
+    desk.run();
+    EXPECT_EQ(placeOf(button), (Place{5, 7, 75 / cellX, 25 / cellY}));
+    EXPECT_EQ(robot::rectOf(button->handle).topLeft(), QPoint(5 * cellX, 7 * cellY)) << "whole cells";
+    desk.setProperty("Size", "80");
+    EXPECT_EQ(button->size, 80);
+    desk.command(CMD_COPY);
+    desk.command(CMD_DUPLICATE);
+    EXPECT_EQ(project.currentWidget->xpos, 6);
+    EXPECT_EQ(project.currentWidget->ypos, 6);
+    project.gridMode = 0;
+    applyGrid();
 }
 
 TEST(Surface, EveryToolMakesALiveWidget) {
