@@ -204,6 +204,7 @@ WidgetNode* insertClones(const WidgetNode* list) {
     }
     defaultName(first, NAME_PASTED);
     for (WidgetNode* node = first; node; node = walkList(node, first)) giveOwnName(*node);
+    clearPlaceholder(parent);
     realiseWidget(*first, parent.handle, true);
     for (WidgetNode* clone = first; clone; clone = clone->next) {
         buildHierarchyEntry(*clone);

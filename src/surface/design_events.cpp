@@ -45,10 +45,7 @@ void showConversion(const Placement& placement) {
 }
 
 WidgetNode* makeLive(WidgetNode& node, WidgetNode& parent) {
-    if (design.placeholderChild && (parent.type == TYPE_TOOL_BAR || parent.type == TYPE_PANE)) {
-        owEraseWidget(design.placeholderChild);
-        design.placeholderChild = 0;
-    }
+    clearPlaceholder(parent);
     if (node.handle > 0) owEraseWidget(node.handle); // a parent that was converted brought it to life with it
     realiseWidget(node, parent.handle, false);
     buildHierarchyEntry(node);

@@ -166,6 +166,12 @@ void discardForms(WidgetNode* list) {
     realiseForms(list);
 }
 
+void clearPlaceholder(const WidgetNode& parent) {
+    if (!design.placeholderChild || !isBarOrPane(parent)) return;
+    owEraseWidget(design.placeholderChild);
+    design.placeholderChild = 0;
+}
+
 void fillListEntries(WidgetNode& node) {
     for (const ListEntryRec* entry = node.listEntries; entry; entry = entry->next) {
         if (entry->icon.empty())

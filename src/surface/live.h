@@ -26,6 +26,9 @@ void discardForms(WidgetNode* list);
 // Takes all live forms down and empties the hierarchy, before the records are freed.
 void eraseForms(WidgetNode* list);
 
+// Takes the blank child off an empty tool bar or pane that is about to get its first widget.
+void clearPlaceholder(const WidgetNode& parent);
+
 void fillListEntries(WidgetNode& node);
 void drawFrameCross(const WidgetNode& frame); // the cross that stands for the drawing of a graphics frame
 

@@ -86,9 +86,9 @@ void selectWidget(WidgetNode* node) {
     hooks.showProperties(node);
     if (node->hierarchyItem) owTreeViewAction(node->hierarchyItem, OSELECTENTRY);
     hooks.bindCode(node);
+    design.unadopted = 0; // before the keys are bound: the right button has its popup again
     hooks.leaveTextMode();
     redrawWidget(*node, true);
-    design.unadopted = 0;
     hooks.commandStatus(CMD_UNADOPT, OSELECTABLE);
     activateWidget(node);
     adoptWidget(*node);
