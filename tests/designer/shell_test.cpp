@@ -276,6 +276,19 @@ TEST_F(DesignerTest, AHiddenWindowIsHiddenAtTheNextStart) {
     EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_VIEW_HIERARCHY)), OSELECTABLE);
 }
 
+TEST_F(DesignerTest, ThePanesFitASmallScreen) {
+    start();
+    int screenWidth = 0, screenHeight = 0;
+    owEnqScreenSize(&screenWidth, &screenHeight);
+    ASSERT_LT(screenWidth, 150 + 235 + 560); // the panes alone would not fit
+    EXPECT_LE(viewOf(MASTER_WINDOW)->width(), screenWidth);
+    EXPECT_EQ(viewOf(windowStates[WINDOW_HIERARCHY].handle)->width(), 150);
+    EXPECT_GE(viewOf(windowStates[WINDOW_PROPERTIES].handle)->width(), 200); // the code editor gives way first
+    end();
+    start(); // and asks for as much as before on a wider one
+    EXPECT_EQ(windowStates[WINDOW_CODE_EDITOR].width, 560);
+}
+
 TEST_F(DesignerTest, TheMasterWindowComesBackWhereItWasLeft) {
     writeTextFile((data / "wdesign.ini").string(), "50 60 700 500 1\n");
     start();
