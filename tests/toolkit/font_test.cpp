@@ -33,6 +33,7 @@ TEST_F(Fonts, NamesOfOtherSystemsFindTheirLikesAndAreToldAgain) {
         owSetFontAttribs(handle, owFontFace, "MS Sans Serif", owPointSize, 10, owItalic, 0, 0);
         EXPECT_EQ(face(handle), "MS Sans Serif");
         EXPECT_EQ(QFontInfo(shown()).family(), QFontInfo(QApplication::font()).family());
+        EXPECT_EQ(shown().pointSizeF(), QApplication::font().pointSizeF()); // so that all widgets agree
         owSetFontAttribs(handle, owFontFace, "No Such Face", 0);
         EXPECT_EQ(face(handle), "No Such Face");
         owSetFontAttribs(handle, owPointSize, -5, 0);

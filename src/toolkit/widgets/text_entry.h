@@ -102,6 +102,7 @@ public:
 
     // Of the selection in rich text, of the whole text otherwise.
     void setTextFont(const TextFont& font);
+    bool formatsWholeText() const; // whether a font goes to all of it
     TextFont textFont() const;            // at the caret
     void setPlainFont(const QFont& font); // of the whole text, also under the highlighter
 
@@ -157,7 +158,6 @@ private:
     bool refusesKey(const QKeyEvent& key) const;
     void mergeFormat(const QTextCharFormat& format);
     void forgetIndex() { indexed_ = false; }
-    bool formatsWholeText() const;
     void clearFormats();
 
     TextOptions options_;

@@ -56,11 +56,14 @@ constexpr int selectedTextProperty = 94, textColourProperty = 27, tabListPropert
 // Fonts go to the selection of rich text, else to the whole text.
 bool getFontProperty(Widget& widget, int property, Value& value) {
     const TextFont font = textEntryOf(&widget)->textFont();
+    const bool whole = textEntryOf(&widget)->formatsWholeText();
     switch (property) {
     case 45: value.integer = *font.bold; return true;
-    case 53: value.text = *font.face == QApplication::font().family() ? widget.fontFace : *font.face; return true;
+    case 53:
+        value.text = whole || *font.face == QApplication::font().family() ? widget.fontFace : *font.face;
+        return true;
     case 65: value.integer = *font.italic; return true;
-    case 72: value.integer = int(std::lround(*font.points)); return true;
+    case 72: value.integer = whole ? widget.pointSize : int(std::lround(*font.points)); return true;
     case 79: value.integer = *font.strikeout; return true;
     case 84: value.integer = *font.underline; return true;
     default: return false;
@@ -81,6 +84,13 @@ bool setFontProperty(Widget& widget, int property, const Value& value) {
     case 79: font.strikeout = value.integer != 0; break;
     case 84: font.underline = value.integer != 0; break;
     default: return false;
+    }
+    // Of a whole text the desktop's own face has the desktop's own size where programs write 10 points.
+    if ((font.face || font.points) && textEntryOf(&widget)->formatsWholeText()) {
+        if (font.face) widget.fontFace = *font.face;
+        if (font.points) widget.pointSize = int(*font.points);
+        font.face = widget.fontFace;
+        font.points = fontFor(widget.fontFace, widget.pointSize).pointSizeF();
     }
     textEntryOf(&widget)->setTextFont(font);
     return true;
