@@ -1,0 +1,289 @@
+// Projects and forms as files, the questions before one is left, generation, and the built program.
+#include "designer_fixture.h"
+
+#include "platform/paths.h"
+#include "platform/text_files.h"
+#include "project/files.h"
+#include "project/placement.h"
+#include "project/preferences.h"
+#include "settings/recent_projects.h"
+#include "shell/project_commands.h"
+#include "surface/state.h"
+#include "toolkit/testing/robot.h"
+
+using namespace orba::testing;
+
+// ---- Projects -------------------------------------------------------------------------------------------------
+
+static const char SAVE_TEXT[] = "Do you wish to save the current project first?";
+
+TEST_F(DesignerTest, AnUnchangedProjectIsLeftWithoutAQuestion) {
+    start();
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, CancelKeepsTheProgramRunning) {
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERCANCEL);
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 0);
+    EXPECT_EQ(project.projectModified, 1);
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, NoExitsWithoutASave) {
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERNO);
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, YesWithoutANameAsksForOneAndExitsEvenWithoutIt) {
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERYES);
+    expectBrowser("Save Project As", "");
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, YesSavesUnderTheChosenNameWithoutAskingAboutAnOldFile) {
+    writeTextFile(file("old.wdp"), "something");
+    start();
+    project.projectModified = 1;
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERYES);
+    expectBrowser("Save Project As", file("old"));
+    send(CMD_EXIT);
+    EXPECT_EQ(design.quitRequested, 1);
+    std::string bytes;
+    readTextFile(file("old.wdp"), bytes);
+    EXPECT_EQ(bytes.substr(0, 18), "ORBAWIDGDESIGNV8.0");
+}
+
+TEST_F(DesignerTest, TheOpenQuestionAsksBeforeItOverwrites) {
+    writeTextFile(file("old.wdp"), "something");
+    start();
+    project.projectModified = 1;
+    expectBox("Open New Project", SAVE_TEXT, OANSWERYES);
+    expectBrowser("Save Project As", file("old.wdp"));
+    expectBox("Overwrite existing file?", "File already exists. Overwrite?", OANSWERNO);
+    expectBrowser("Save Project As", file("new.wdp"));
+    expectBrowser("Open Project", "");
+    send(CMD_OPEN_PROJECT);
+    EXPECT_TRUE(pathExists(file("new.wdp")));
+    std::string bytes;
+    readTextFile(file("old.wdp"), bytes);
+    EXPECT_EQ(bytes, "something");
+}
+
+TEST_F(DesignerTest, AFailedSaveStopsWhatAskedForIt) {
+    start();
+    project.projectModified = 1;
+    project.projectName = "bridge.wdp";
+    project.projectDir = file("no/such/folder");
+    for (const char* what : {"Exit ORBAWIDG Designer", "Start New Project", "Open New Project"}) {
+        expectBox(what, SAVE_TEXT, OANSWERYES);
+        expectBox("Error saving file", "File to save to could not be opened or created", OANSWEROK);
+    }
+    send(CMD_EXIT);
+    send(CMD_NEW_PROJECT);
+    send(CMD_OPEN_PROJECT);
+    EXPECT_EQ(design.quitRequested, 0);
+    EXPECT_EQ(project.projectModified, 1);
+    EXPECT_EQ(project.projectName, "bridge.wdp");
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, SaveAsksForANameOnce) {
+    start();
+    project.projectModified = 1;
+    expectBrowser("Save Project As", file("bridge"));
+    click(button(CMD_SAVE_PROJECT));
+    pump();
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(title(), "ORBAWIDG Designer v8.5 - [bridge.wdp - F90 Windows Project]");
+    project.projectModified = 1;
+    choose(menuEntry(CMD_SAVE_PROJECT));
+    pump();
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_TRUE(pathExists(file("bridge.wdp")));
+}
+
+TEST_F(DesignerTest, RecentProjectsMoveToTheTopAndFallOffTheEnd) {
+    start();
+    for (const char* name : {"a.wdp", "b.wdp", "c.wdp", "d.wdp", "e.wdp", "f.wdp", "c.wdp"}) {
+        expectBrowser("Save Project As", file(name));
+        if (pathExists(file(name)))
+            expectBox("Overwrite existing file?", "File already exists. Overwrite?", OANSWERYES);
+        send(CMD_SAVE_PROJECT_AS);
+    }
+    std::string list;
+    readTextFile((data / "wdesign.lst").string(), list);
+    std::string expected;
+    for (const char* name : {"c.wdp", "f.wdp", "e.wdp", "d.wdp", "b.wdp"}) expected += file(name) + "\n";
+    EXPECT_EQ(list, expected);
+    send(CMD_RECENT_FIRST + 3);
+    EXPECT_EQ(project.projectName, "d.wdp");
+    EXPECT_EQ(recentProject(0), file("d.wdp"));
+}
+
+TEST_F(DesignerTest, AFailedOpenKeepsTheProjectAndItsChanges) {
+    writeTextFile(file("poem.wdp"), std::string(4000, 'x'));
+    start();
+    project.projectModified = 1;
+    expectBox("Open New Project", SAVE_TEXT, OANSWERNO);
+    expectBrowser("Open Project", file("poem.wdp"));
+    expectBox("Error opening file", "File is not a ORBAWIDG Designer file", OANSWEROK);
+    send(CMD_OPEN_PROJECT);
+    EXPECT_EQ(project.projectModified, 1);
+    EXPECT_TRUE(isShown(project.forms->handle));
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, ANewProjectStartsAgain) {
+    start();
+    placeWidget(17001, project.forms->child, 40, 40);
+    ASSERT_TRUE(saveProject(root.string(), "old.wdp", false));
+    project.projectModified = 1;
+    expectBox("Start New Project", SAVE_TEXT, OANSWERNO);
+    send(CMD_NEW_PROJECT);
+    EXPECT_EQ(live("Form1_Button1"), 0);
+    EXPECT_EQ(project.forms->name, "Form1");
+    EXPECT_EQ(project.projectName, "");
+    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(title(), "ORBAWIDG Designer v8.5");
+}
+
+TEST_F(DesignerTest, BackupsStandBesideTheProject) {
+    start();
+    project.projectModified = 1;
+    send(CMD_AUTO_BACKUP);
+    send(CMD_AUTO_BACKUP);
+    EXPECT_TRUE(pathExists(file("Auto_Backup.wdp")));
+    EXPECT_EQ(project.projectName, "");
+    EXPECT_EQ(project.projectModified, 0);
+    ASSERT_TRUE(saveProject(root.string(), "a.b.wdp", false));
+    send(CMD_AUTO_BACKUP);
+    EXPECT_TRUE(pathExists(file("a_Backup.b.wdp")));
+    EXPECT_EQ(project.projectName, "a.b.wdp");
+    send(CMD_EXIT); // asks nothing
+    EXPECT_EQ(design.quitRequested, 1);
+}
+
+TEST_F(DesignerTest, AFormIsSavedAndInserted) {
+    start();
+    send(CMD_NEW_FORM);
+    expectBrowser("Save Form As", file("second"));
+    send(CMD_SAVE_FORM);
+    ASSERT_TRUE(pathExists(file("second.wdf")));
+    send(CMD_SAVE_FORM); // goes where it went before
+    expectBrowser("Insert Form", file("second.wdf"));
+    expectBox("Invalid Form Name", "Form of same name alredy exists in this project", OANSWEROK);
+    send(CMD_INSERT_FORM);
+    project.projectModified = 0;
+    send(CMD_NEW_PROJECT);
+    expectBrowser("Insert Form", file("second.wdf"));
+    send(CMD_INSERT_FORM);
+    ASSERT_NE(project.forms->next, nullptr);
+    EXPECT_EQ(project.forms->next->name, "Form2");
+    EXPECT_TRUE(isShown(project.forms->next->handle));
+    EXPECT_EQ(project.projectModified, 1);
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, GenerateSavesFirstAndAsksForTheSource) {
+    start();
+    expectBrowser("Save Project As", file("bridge"));
+    expectBrowser("Create ORBAWIDG code", file("bridge"));
+    send(CMD_GENERATE);
+    EXPECT_TRUE(pathExists(file("bridge.f90")));
+    EXPECT_EQ(project.sourceStale, 0);
+    EXPECT_EQ(project.sourceName, "bridge.f90");
+}
+
+TEST_F(DesignerTest, ACancelledGenerationLeavesNoName) {
+    preferences = {};
+    start();
+    preferences.generateSavesProject = 0;
+    project.projectTitle = "bridge";
+    expectBrowser("Create ORBAWIDG code", "");
+    expectBox("Source not generated", "Compilation aborted.", OANSWEROK);
+    send(CMD_COMPILE);
+    EXPECT_EQ(project.sourceName, "");
+    EXPECT_EQ(project.sourceDir, "");
+    EXPECT_EQ(project.sourceStale, 1);
+}
+
+// ---- The built program ----------------------------------------------------------------------------------------
+
+// A program that stands where a build would have put it.
+static void placeProgram(const std::filesystem::path& folder, const std::string& script) {
+    project.sourceDir = folder.string();
+    project.sourceName = "prog.f90";
+    const std::string path = (folder / "prog").string();
+    writeTextFile(path, "#!/bin/sh\n" + script + "\n");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    setCommandStatus(CMD_EXECUTE, STATUS_ENABLED);
+    setCommandStatus(CMD_COMPILE, STATUS_ENABLED);
+}
+
+struct RunStatus {
+    int compile, execute, abort;
+    bool operator==(const RunStatus&) const = default;
+};
+static RunStatus runStatus() {
+    return {commandStatus(CMD_COMPILE), commandStatus(CMD_EXECUTE), commandStatus(CMD_ABORT)};
+}
+static constexpr RunStatus RUNNING = {STATUS_DISABLED, STATUS_DISABLED, STATUS_ENABLED};
+static constexpr RunStatus IDLE = {STATUS_ENABLED, STATUS_ENABLED, STATUS_DISABLED};
+
+// Ticks of the watch until the program's end has been noticed.
+static void watchUntilIdle(void (*tick)(int)) {
+    for (int tries = 0; tries < 100 && !(runStatus() == IDLE); tries++) {
+        settle(50);
+        tick(CMD_WATCH);
+    }
+}
+
+TEST_F(DesignerTest, AProgramThatEndsIsNoticed) {
+    start();
+    placeProgram(root, "sleep 0.2; exit 3");
+    send(CMD_EXECUTE);
+    EXPECT_EQ(runStatus(), RUNNING);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), 0);
+    watchUntilIdle(send);
+    EXPECT_EQ(runStatus(), IDLE);
+    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), CMD_EXECUTE);
+}
+
+TEST_F(DesignerTest, AProgramThatCrashesIsReported) {
+    start();
+    placeProgram(root, "kill -SEGV $$");
+    expectBox("Application Terminted", "Unhandled Exception or Missing DLL", OANSWEROK);
+    send(CMD_EXECUTE);
+    watchUntilIdle(send);
+    EXPECT_EQ(runStatus(), IDLE);
+}
+
+TEST_F(DesignerTest, AbortEndsTheProgram) {
+    start();
+    placeProgram(root, "echo $$ > started; exec sleep 60");
+    send(CMD_EXECUTE);
+    for (int tries = 0; tries < 100 && !pathExists(file("started")); tries++) settle(20);
+    settle(50);
+    click(button(CMD_ABORT));
+    pump();
+    EXPECT_EQ(runStatus(), IDLE);
+    std::string pid;
+    readTextFile(file("started"), pid);
+    EXPECT_FALSE(std::filesystem::exists("/proc/" + pid.substr(0, pid.find('\n')) + "/exe"));
+}
+
+TEST_F(DesignerTest, ExecuteNeedsABuild) {
+    start();
+    expectBox("Execute Project", "Must Compile & Link first", OANSWEROK);
+    send(CMD_EXECUTE);
+}
