@@ -224,6 +224,94 @@ TEST(Surface, CheckBoxIsSelectedByItsFirstClickAndTickedByTheSecond) {
     EXPECT_EQ(toggle->initialStatus, 1);
 }
 
+TEST(Surface, TextAndValuesAreTypedOntoTheForm) {
+    Desk desk;
+    WidgetNode* text = desk.place(PLACE_TEXT_ENTRY, desk.panel, 20, 20);
+    robot::type(text->handle, "abc");
+    robot::key(text->handle, Qt::Key_Return);
+    desk.run();
+    EXPECT_EQ(text->text, "abc");
+    EXPECT_EQ(desk.property("Text"), "abc");
+    WidgetNode* value = desk.place(PLACE_VALUE_ENTRY, desk.panel, 20, 80);
+    robot::key(value->handle, Qt::Key_A, Qt::ControlModifier);
+    robot::type(value->handle, "2.5");
+    robot::key(value->handle, Qt::Key_Return);
+    desk.run();
+    EXPECT_FLOAT_EQ(value->value, 2.5F);
+    desk.click(text);
+    EXPECT_EQ(project.currentWidget, text);
+    EXPECT_EQ(text->text, "abc");
+}
+
+struct EntryRow {
+    int kind, level;
+    const char* label;
+};
+
+// A chain of entries, each named after its label.
+MenuEntryRec* chainOf(std::initializer_list<EntryRow> rows) {
+    MenuEntryRec* first = nullptr;
+    MenuEntryRec** end = &first;
+    for (const EntryRow& row : rows) {
+        *end = new MenuEntryRec;
+        (*end)->kind = row.kind;
+        (*end)->level = row.level;
+        (*end)->label = (*end)->name = row.label;
+        end = &(*end)->next;
+    }
+    return first;
+}
+
+MenuEntryRec* entryOf(const WidgetNode* node, const std::string& label) {
+    MenuEntryRec* entry = node->entries;
+    while (entry && entry->label != label) entry = entry->next;
+    return entry;
+}
+
+TEST(Surface, MenuOfAFormIsLive) {
+    Desk desk;
+    desk.form->entries = chainOf({{MENU_BAR, 0, ""},
+                                  {MENU_ENTRY, 0, "File"},
+                                  {MENU_PULL_DOWN, 1, ""},
+                                  {MENU_ENTRY, 1, "Send"},
+                                  {MENU_PULL_DOWN, 2, ""},
+                                  {MENU_ENTRY, 2, "Mail"},
+                                  {MENU_SEPARATOR, 1, ""},
+                                  {MENU_ENTRY, 1, "Exit"},
+                                  {MENU_ENTRY, 0, "Help"}});
+    rebuildWidget(*desk.form);
+    desk.run();
+    for (const char* label : {"File", "Send", "Mail", "Exit", "Help"}) {
+        const MenuEntryRec* entry = entryOf(desk.form, label);
+        ASSERT_GT(entry->handle, 0) << label;
+        EXPECT_TRUE(robot::actionOf(entry->handle)) << label;
+    }
+    EXPECT_EQ(entryOf(desk.form, "Exit")->callbackId, entryOf(desk.form, "Exit")->handle);
+    EXPECT_EQ(robot::reports(), std::vector<int>{});
+    selectWidget(desk.form);
+    desk.click(desk.panel, 100, 100);
+    EXPECT_EQ(project.currentWidget, desk.form) << "a form that was built anew still hears its panel";
+}
+
+TEST(Surface, EntriesOfATreeViewAreLive) {
+    Desk desk;
+    constexpr int PLACE_TREE = 17024;
+    WidgetNode* tree = desk.place(PLACE_TREE, desk.panel, 20, 20);
+    tree->entries = chainOf({{MENU_BAR, 0, ""},
+                             {MENU_ENTRY, 0, "Fruit"},
+                             {MENU_PULL_DOWN, 1, ""},
+                             {MENU_ENTRY, 1, "Apple"},
+                             {MENU_ENTRY, 0, "Stone"}});
+    rebuildWidget(*tree);
+    desk.run();
+    for (const char* label : {"Fruit", "Apple", "Stone"}) {
+        char shown[64] = "";
+        owEnqTreeViewLabel(entryOf(tree, label)->handle, shown, sizeof shown);
+        EXPECT_STREQ(shown, label);
+    }
+    EXPECT_EQ(robot::reports(), std::vector<int>{});
+}
+
 TEST(Surface, TheOnlyFormStays) {
     Desk desk;
     robot::expectBox("Cannot delete form",
