@@ -180,6 +180,21 @@ TEST_F(DesignerTest, SharedEntriesSayWhatTheyActOn) {
     EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_CLEAR_CODE)), OUNSELECTABLE);
 }
 
+TEST_F(DesignerTest, CommandsSayWhatAPreferenceAddsToThem) {
+    start();
+    EXPECT_EQ(label(menuEntry(CMD_GENERATE)), "Save Project and Generate Code");
+    EXPECT_EQ(label(menuEntry(CMD_COMPILE)), "Save Project, Compile, Link & Execute|F5");
+    EXPECT_EQ(toolTip(button(CMD_COMPILE)).toStdString(), "Save Project, Compile, Link & Execute");
+    EXPECT_EQ(label(menuEntry(CMD_SAVE_PROJECT)), "Save Project|Ctrl+S");
+    preferences.generateSavesProject = 0;
+    preferences.saveGeneratesCode = 1;
+    showPreferenceLabels();
+    EXPECT_EQ(label(menuEntry(CMD_GENERATE)), "Generate Code");
+    EXPECT_EQ(toolTip(button(CMD_COMPILE)).toStdString(), "Compile, Link & Execute");
+    EXPECT_EQ(label(menuEntry(CMD_SAVE_PROJECT)), "Save Project and Generate Code|Ctrl+S");
+    EXPECT_EQ(label(menuEntry(CMD_SAVE_PROJECT_AS)), "Save Project As... and Generate Code");
+}
+
 TEST_F(DesignerTest, CompileAndExecuteHaveTheirKeysOnlyWhileEnabled) {
     start();
     setCommandStatus(CMD_COMPILE, STATUS_ENABLED);
