@@ -162,9 +162,9 @@ void moveSelectionTo(WidgetNode* target, bool group) {
     design.pasteBuffer = nullptr;
     hooks.commandStatus(CMD_PASTE, OUNSELECTABLE);
     project.currentWidget = group ? nullptr : inserted;
+    hooks.bindCode(inserted); // the record that the code editor was bound to may be gone
     if (group) return;
     hooks.showProperties(inserted);
-    hooks.bindCode(inserted);
     design.undoWidget = inserted;
 }
 

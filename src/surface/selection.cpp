@@ -194,7 +194,6 @@ void refreshSelectionList() {
         const WidgetNode* real = findName(project.forms, copy->name, false);
         if (!real) continue;
         *end = copyNode(real, false);
-        (*end)->handle = copy->handle;
         end = &(*end)->next;
     }
     if (!fresh) return;

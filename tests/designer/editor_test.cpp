@@ -2,9 +2,11 @@
 #include "desk.h"
 
 #include "editing/code_editor.h"
+#include "editing/editor_window.h"
 #include "editing/modes.h"
 #include "editing/text_view.h"
 #include "project/preferences.h"
+#include "surface/event.h"
 #include "surface/hooks.h"
 
 namespace robot = orba::testing;
@@ -111,6 +113,34 @@ TEST(Editor, CommandsOnLines) {
         desk.command(row.command);
         EXPECT_EQ(linesOf(codeText()), row.after);
     }
+}
+
+TEST(Editor, CodeOfAMenuEntryReachesTheMenu) {
+    Desk desk;
+    auto* bar = new MenuEntryRec;
+    bar->kind = MENU_BAR;
+    MenuEntryRec** end = &bar->next;
+    for (const char* name : {"FileOpen", "FileExit"}) {
+        *end = new MenuEntryRec;
+        (*end)->kind = MENU_ENTRY;
+        (*end)->label = (*end)->name = name;
+        end = &(*end)->next;
+    }
+    desk.form->entries = bar;
+    selectWidget(desk.form);
+    EXPECT_NE(owEnqWidgetStatus(editor.menuTab), OUNSELECTABLE);
+    action.status = editor.menuTab;
+    selectorTabCommand();
+    EXPECT_EQ(project.currentBlockName, "General Callback");
+    typeCode(desk, "call open()");
+    owSetListEntry(editor.menuList, OSELECT, owString, "FileExit", owEntry, -1, 0);
+    menuEntryChosenCommand();
+    EXPECT_EQ(textOf(codeText()), "");
+    typeCode(desk, "stop");
+    selectWidget(desk.form);
+    EXPECT_EQ(bar->next->slots[ENTRY_GENERAL], "call open()");
+    EXPECT_EQ(bar->next->next->slots[ENTRY_GENERAL], "stop");
+    EXPECT_EQ(desk.form->slots[SLOT_GENERAL], "");
 }
 
 TEST(Editor, TabKeyTypesBlanks) {

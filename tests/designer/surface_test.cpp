@@ -163,6 +163,26 @@ TEST(Surface, DropOnAPanelMovesTheWidgetThere) {
     EXPECT_EQ(placeOf(panel->next), (Place{20, 20, 75, 25}));
 }
 
+TEST(Surface, GroupMovesToAnotherParentAndBack) {
+    Desk desk;
+    WidgetNode* panel = desk.place(PLACE_PANEL, desk.panel, 150, 200);
+    desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    desk.place(PLACE_BUTTON, desk.panel, 20, 60)->slots[SLOT_GENERAL] = "n = 1";
+    robot::drag(desk.panel->handle, {10, 10}, {120, 120});
+    desk.run();
+    robot::drag(design.groupPanel, {5, 30}, {5 + 150, 30 + 210});
+    desk.run();
+    ASSERT_EQ(childrenOf(panel).size(), 2U);
+    EXPECT_EQ(placeOf(panel->child), (Place{20, 30, 75, 25}));
+    EXPECT_EQ(panel->child->next->slots[SLOT_GENERAL], "n = 1");
+    desk.command(CMD_UNDO);
+    EXPECT_EQ(childrenOf(panel), Names{});
+    EXPECT_EQ(childrenOf(desk.panel).size(), 3U);
+    desk.click(desk.panel, 300, 450);
+    EXPECT_EQ(project.currentWidget, desk.form);
+    expectLiveAt(panel->next);
+}
+
 TEST(Surface, DropOnAButtonPutsTheWidgetBack) {
     Desk desk;
     desk.place(PLACE_BUTTON, desk.panel, 150, 200);
