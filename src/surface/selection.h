@@ -13,10 +13,10 @@ void ungroupSelection(WidgetNode* list, WidgetNode* second);
 void buildGroupPanel(WidgetNode& parent, WidgetNode* list, bool keep);
 // With Shift held, adds a widget beside the selected ones to the selection. True when Shift was meant for it.
 bool shiftAdds(WidgetNode& found);
-void dropSelection();      // ends a group, frees the selection list
+void dropSelection();        // ends a group, frees the selection list
 void refreshSelectionList(); // copies of the records as they are now, code on show included
-void showSelectionCount(); // in the status bar
-void forgetRecords();      // before the records of the project are freed: live forms down, no pointer to a record left
+void showSelectionCount();   // in the status bar
+void forgetRecords(); // before the records of the project are freed: live forms down, no pointer to a record left
 
 void readGeometry(WidgetNode* node); // null for the group
 
