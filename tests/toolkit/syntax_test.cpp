@@ -92,6 +92,25 @@ TEST_F(Syntax, ColoursCWithCommentsOverLines) {
                            {"IF", SyntaxCategory::Plain}}); // C tells case apart
 }
 
+TEST_F(Syntax, ColouringIsNoChangeOfTheText) {
+    const int text = entry("", 100, ORICHEDIT);
+    owSetTextSetting(text, "integer :: i\r\n! note\r\nend", 0);
+    focus(text);
+    events();
+    owSetSyntaxHighlighting(text, OON, owLanguage, 2, 0);
+    QTest::qWait(50); // colouring comes a moment later
+    owSetSyntaxFont(5, owBold, 0, 0);
+    QTest::qWait(50);
+    EXPECT_EQ(identifiers(), std::vector<int>{});
+    EXPECT_EQ(owTextUndoAction(text, OCANUNDO), 0);
+    const QTextDocument& document = *textEntryOf(widgetOf(text))->editor()->document();
+    EXPECT_FALSE(document.firstBlock().layout()->formats().isEmpty());
+    owSetSyntaxHighlighting(text, OOFF, 0);
+    QTest::qWait(50);
+    EXPECT_TRUE(document.firstBlock().layout()->formats().isEmpty());
+    EXPECT_TRUE(events().empty());
+}
+
 TEST_F(Syntax, KeepsAttributesAndKeywordsInItsFile) {
     QTemporaryDir folder;
     const std::string path = folder.filePath("a.syn").toStdString();

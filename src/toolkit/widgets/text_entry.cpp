@@ -160,6 +160,7 @@ void TextEntry::showOptions() {
         edit_->setHorizontalScrollBarPolicy(horizontal ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
         edit_->setLineWrapMode(horizontal || !options_.wordWrap ? QTextEdit::NoWrap : QTextEdit::WidgetWidth);
         edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        if (options_.autoUrl) coloured_ = index().text();
         showLinks(*edit_->document(), options_.autoUrl && !highlighter_);
     }
     showBorder();
@@ -246,6 +247,9 @@ void TextEntry::changeEvent(QEvent* event) {
 
 void TextEntry::userChanged() {
     forgetIndex();
+    // Colours of words are signalled like changes; then only the text itself tells.
+    if (edit_ && (highlighter_ || options_.autoUrl) && std::exchange(coloured_, index().text()) == index().text())
+        return;
     if (quiet_) return;
     changedSinceFocus_ = true;
     if (hooks_.changed) hooks_.changed();

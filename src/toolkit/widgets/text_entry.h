@@ -167,6 +167,7 @@ private:
     QPointer<QTextEdit> edit_;
     QPointer<SyntaxHighlighter> highlighter_;
     int quiet_ = 0;
+    QString coloured_; // the text at its last change, while words in it are coloured
     int frozen_ = 0;
     bool focused_ = false;
     bool awaitsUser_ = false; // the focus came with the window; the user has not turned to the entry yet

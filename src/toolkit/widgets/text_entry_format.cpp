@@ -237,6 +237,7 @@ void TextEntry::setHighlighting(SyntaxLanguage language, std::function<QColor(in
         highlighter_->setLanguage(language);
         highlighter_->refresh();
     } else {
+        coloured_ = index().text();
         highlighter_ = new SyntaxHighlighter(edit_->document(), language, std::move(colour));
     }
 }
