@@ -155,7 +155,7 @@ void createText(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool editable = node.type == TYPE_TEXT_ENTRY;
     add(g, "   %s = owCreateTextEntry(%s, %d, %d, %d, %d,\"%s \", %d, %s\n", node.name, w.parent, node.xpos, node.ypos,
-        w.width, w.height, doubledTextBackslashes(withBars(node.text)), node.fieldWidth,
+        w.width, w.height, doubledTextBackslashes(withBarsForC(node.text)), node.fieldWidth,
         editable ? "OEDIT" : "ODISPLAY");
     writeStatementSplit(g);
     writeHelp(g, node);
@@ -455,7 +455,7 @@ void createProgressBar(Generation& g, const Placed& w) {
 void createTtyEntry(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateTTYEntry");
-    write(g, ", %d,\"%s \"\n", node.size, withBars(node.text));
+    write(g, ", %d,\"%s \"\n", node.size, withBarsForC(node.text));
     writeHelp(g, node);
     write(g, CONTINUATION);
     if (!node.icon.empty()) write(g, ", owPrompt,\"%s\"", node.icon);

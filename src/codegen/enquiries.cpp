@@ -15,7 +15,9 @@ bool isDynamic(const WidgetNode& form) {
 bool isMdiChild(const WidgetNode& form) {
     return form.formType == FORM_STATIC_MDI || form.formType == FORM_DYNAMIC_MDI;
 }
-bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
+bool isMaster(const WidgetNode& node) {
+    return node.type == TYPE_FORM && (node.formType == FORM_MASTER_SDI || node.formType == FORM_MASTER_MDI);
+}
 bool hasStatusBar(const WidgetNode& form) { return project.projectPlatform == 'w' && form.statusBar != nullptr; }
 
 // A lone blank is what an empty field of the preferences holds.

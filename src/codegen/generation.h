@@ -139,7 +139,7 @@ void pasteCode(Generation& g, PastedCode place, std::string_view code, bool inde
 
 bool isDynamic(const WidgetNode& form);
 bool isMdiChild(const WidgetNode& form);
-bool isMaster(const WidgetNode& form);
+bool isMaster(const WidgetNode& node);
 bool hasStatusBar(const WidgetNode& form); // one that a Windows program shows
 bool checksConfiguration();                // the program looks for its configuration file itself
 bool hasWindowCode(const WidgetNode& node);

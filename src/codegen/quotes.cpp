@@ -86,14 +86,20 @@ void restoreQuotes(SavedStrings& saved) {
     saved.clear();
 }
 
-// A line end of another kind than the stored one becomes a bar too: no language lets a string run over it.
+// A line feed alone becomes a bar too: no language lets a string run over it.
 std::string withBars(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
-        result += text[i] == '\n' || text[i] == '\r' ? '|' : text[i];
+        result += text[i] == '\n' ? '|' : text[i];
     }
+    return result;
+}
+
+std::string withBarsForC(std::string_view text) {
+    std::string result = withBars(text);
+    std::replace(result.begin(), result.end(), '\r', '|');
     return result;
 }
 

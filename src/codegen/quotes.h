@@ -20,8 +20,11 @@ using SavedStrings = std::vector<std::pair<std::string*, std::string>>;
 SavedStrings escapeQuotes(WidgetNode* forms, int language);
 void restoreQuotes(SavedStrings& saved);
 
-// Line ends of a text that runs over several lines as bars.
+// Line ends of a text that runs over several lines as bars. A carriage return alone, which is left where a field's
+// width cut the text between the two halves of a line end, stays in Fortran. In C a line ends at it, so it becomes a
+// bar.
 std::string withBars(std::string_view text);
+std::string withBarsForC(std::string_view text);
 
 // Every backslash that stands alone doubled; a pair stays a pair.
 std::string doubledBackslashes(std::string_view path);

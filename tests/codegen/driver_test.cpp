@@ -297,6 +297,17 @@ TEST_F(Driver, MarkersAndBranchHeadsAreInTheSource) {
     }
 }
 
+// Only a form is a master: the quit code of a tool bar runs under its status, whatever form type stands in its record.
+TEST_F(Driver, OnlyAMasterFormClosesTheProgram) {
+    for (const int language : {77, 90, 99}) {
+        project.projectLanguage = language;
+        readProjectScript("2001 Form1\n  2002\n    2025 Bar\n    .formType 1\n    > Window Quit: code\n");
+        GeneratedText generated;
+        ASSERT_TRUE(generateText("prog", generated));
+        EXPECT_NE(generated.text.find(statusTest(language, 2)), std::string::npos);
+    }
+}
+
 // --- The resource script.
 
 TEST_F(Driver, ResourceLinesOfEverythingThatNamesAFile) {

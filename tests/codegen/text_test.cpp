@@ -123,7 +123,8 @@ TEST(Quotes, TextsAndPathsOfC) {
         EXPECT_EQ(doubledBackslashes(c.stored), c.path);
         EXPECT_EQ(doubledTextBackslashes(c.stored), c.text);
     }
-    EXPECT_EQ(withBars("a\r\nb\nc\rd\r\n"), "a|b|c|d|");
+    EXPECT_EQ(withBars("a\r\nb\nc\rd\r\n\r"), "a|b|c\rd|\r");
+    EXPECT_EQ(withBarsForC("a\r\nb\nc\rd\r\n\r"), "a|b|c|d||");
 }
 
 TEST(Quotes, IconResourceNames) {
