@@ -71,7 +71,7 @@ QMessageBox::StandardButton buttonOf(int answer) {
     }
 }
 
-QString plain(QString text) { return text.trimmed(); }
+QString plain(const QString& text) { return text.trimmed(); }
 
 void answerMessage(QMessageBox& box, const ScriptLine& line) {
     EXPECT_EQ(plain(box.text()).toStdString(), plain(barsToLines(line.text)).toStdString());

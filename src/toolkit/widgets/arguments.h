@@ -17,6 +17,8 @@ inline Word wordOf(int value) { return value; }
 inline Word wordOf(double value) { return std::bit_cast<Word>(value); }
 inline Word wordOf(const void* value) { return static_cast<Word>(reinterpret_cast<std::intptr_t>(value)); }
 inline double realOf(Word word) { return std::bit_cast<double>(word); }
+// Words carry addresses by design: the other languages have no other way to pass them.
+// NOLINTNEXTLINE(performance-no-int-to-ptr)
 inline void* addressOf(Word word) { return reinterpret_cast<void*>(static_cast<std::intptr_t>(word)); }
 
 // A program's text: UTF-8, or Latin-1 where it is no UTF-8. textIn drops trailing blanks, wholeText keeps them.

@@ -25,6 +25,8 @@ public:
     int listHeight = 0; // pixels that the list may open to, 0 as it likes
 
     void showPopup() override {
+        if (itemDelegate() != rows)
+            setItemDelegate(rows); // not before: it makes the list, which costs more than the rest
         if (listHeight > 0 && count() > 0) {
             const int row = qMax(1, view()->sizeHintForRow(0));
             setMaxVisibleItems(qMax(4, listHeight / row));
@@ -143,7 +145,6 @@ Word createComboBox(const Arguments& call) {
     view->rows = new DescribedRow(view);
     view->rows->margin = 7;
     if (call.given(owDescWidth)) view->rows->width = pixelsAcross(call.keyword(owDescWidth));
-    view->setItemDelegate(view->rows);
     Widget& combo = addWidget(Kind::comboBox, comboBoxes, parent, view);
     view->handle = combo.handle;
     view->listHeight = pixelsDown(call.integer(4));

@@ -211,7 +211,6 @@ Widget* widgetAt(const QObject* object);
 Widget* windowOf(Widget* widget);
 // The Qt parent for a child's view.
 QWidget* clientOf(Widget* parent);
-bool isTopLevel(const Widget& widget);
 // What a menu entry shows; null for other widgets.
 class QAction* entryAction(const Widget& entry);
 // All live widgets, in no order.

@@ -60,7 +60,6 @@ bool setProperty(Widget& widget, int property, const Value& value);
 
 void setStatus(Widget& widget, int status);
 void showHelp(Widget& widget);
-void applyFont(Widget& widget);
 
 // The keyword and the identifier offset of a callback.
 struct SlotRow {

@@ -63,8 +63,6 @@ QWidget* clientOf(Widget* parent) {
     return parent->client ? parent->client.data() : parent->view.data();
 }
 
-bool isTopLevel(const Widget& widget) { return widget.view && widget.view->isWindow(); }
-
 void forEachWidget(void (*visit)(Widget& widget)) {
     for (auto& one : registry().table) {
         if (one) visit(*one);
