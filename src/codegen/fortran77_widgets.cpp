@@ -38,7 +38,7 @@ void writeFont(Generation& g, const Placed& w) {
     if (!needsFont(g, w)) return;
     if (!hasStandardFace(node)) {
         writeSplit(g, "      CALL WIDFNT(%s,0,0,'%s')\n", node.name, node.fontFace);
-        write(g, "      CALL WIDFNT(%s,1,%d,' ')\n", node.name, node.pointSize);
+        writeSplit(g, "      CALL WIDFNT(%s,1,%d,' ')\n", node.name, node.pointSize);
     }
     const auto writeStyle = [&](int attribute, int value) {
         if (value != 0) write(g, "      CALL WIDFNT(%s,%d,%d,' ')\n", node.name, attribute, value);

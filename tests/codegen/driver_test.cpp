@@ -308,6 +308,18 @@ TEST_F(Driver, OnlyAMasterFormClosesTheProgram) {
     }
 }
 
+// Both statements that set face and size keep the line length of fixed form, however long the widget's name is.
+TEST_F(Driver, FontOfALongNameKeepsTheLineLength) {
+    project.projectLanguage = 77;
+    const std::string name(47, 'n');
+    readProjectScript("2001 Form1\n  2002\n    2003 " + name + "\n    .fontFace Arial\n    .pointSize 12\n");
+    GeneratedText generated;
+    ASSERT_TRUE(generateText("prog", generated));
+    EXPECT_NE(generated.text.find("      CALL WIDFNT(\n     +" + name + ",0,0,'Arial')\n"), std::string::npos)
+        << generated.text;
+    EXPECT_NE(generated.text.find("      CALL WIDFNT(\n     +" + name + ",1,12,' ')\n"), std::string::npos);
+}
+
 // --- The resource script.
 
 TEST_F(Driver, ResourceLinesOfEverythingThatNamesAFile) {
