@@ -315,9 +315,9 @@ TEST_F(Driver, FontOfALongNameKeepsTheLineLength) {
     readProjectScript("2001 Form1\n  2002\n    2003 " + name + "\n    .fontFace Arial\n    .pointSize 12\n");
     GeneratedText generated;
     ASSERT_TRUE(generateText("prog", generated));
-    EXPECT_NE(generated.text.find("      CALL WIDFNT(\n     +" + name + ",0,0,'Arial')\n"), std::string::npos)
+    EXPECT_NE(generated.text.find("      CALL WIDFNT(" + name + ",\n     +0,0,'Arial')\n"), std::string::npos)
         << generated.text;
-    EXPECT_NE(generated.text.find("      CALL WIDFNT(\n     +" + name + ",1,12,' ')\n"), std::string::npos);
+    EXPECT_NE(generated.text.find("      CALL WIDFNT(" + name + ",\n     +1,12,' ')\n"), std::string::npos);
 }
 
 // --- The resource script.
