@@ -24,6 +24,13 @@ public:
     DescribedRow* rows = nullptr;
     int listHeight = 0; // pixels that the list may open to, 0 as it likes
 
+    // As wide as one character: the program says how wide it is. (Qt's own policy for that would make the list.)
+    QSize sizeHint() const override {
+        constexpr int ARROW_AND_FRAME = 40; // pixels
+        return {fontMetrics().horizontalAdvance(QLatin1Char('X')) + ARROW_AND_FRAME, QComboBox::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
     void showPopup() override {
         if (itemDelegate() != rows)
             setItemDelegate(rows); // not before: it makes the list, which costs more than the rest
@@ -140,8 +147,6 @@ Word createComboBox(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
     auto* view = new ComboView(clientOf(parent));
     view->setEditable(call.integer(6) == OEDIT);
-    view->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    view->setMinimumContentsLength(1);
     view->rows = new DescribedRow(view);
     view->rows->margin = 7;
     if (call.given(owDescWidth)) view->rows->width = pixelsAcross(call.keyword(owDescWidth));
