@@ -16,7 +16,7 @@ void bytesOut(std::string_view bytes, char* buffer, int length) {
         if (start + std::size_t(utf8SequenceLength(bytes, start)) > count) count = start;
     }
     while (count > 0 && bytes[count - 1] == ' ') --count; // the cut may end in blanks
-    std::memcpy(buffer, bytes.data(), count);
+    if (count > 0) std::memcpy(buffer, bytes.data(), count);
     buffer[count] = 0;
 }
 

@@ -163,8 +163,12 @@ class PanelMouse : public QObject {
 public:
     PanelMouse(Panel* panel, int handle) : QObject(panel), panel_(panel), handle_(handle) {}
     bool eventFilter(QObject* watched, QEvent* event) override {
+        const QEvent::Type type = event->type();
+        if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonRelease &&
+            type != QEvent::MouseButtonDblClick)
+            return false;
         auto* mouse = static_cast<QMouseEvent*>(event);
-        switch (event->type()) {
+        switch (type) {
         case QEvent::MouseButtonPress:
             if (mouse->button() == Qt::LeftButton) post(handle_, Slot::select, 1, place(watched, mouse));
             break;

@@ -74,7 +74,7 @@ void TextEntry::chooseField() {
         const std::string content = field() ? text(loadedRich_) : std::string();
         int start = 0, end = 0;
         if (field()) selection(start, end);
-        delete field();
+        dropField();
         single ? makeLine() : makeEdit();
         if (fontSet) field()->setFont(previousFont);
         setFocusProxy(options_.label ? nullptr : field());
@@ -96,13 +96,28 @@ void TextEntry::setOptions(const TextOptions& options) {
     if (kindChanged) {
         const std::string content = text(rich() && options.kind == TextKind::Rich);
         options_ = options;
-        delete field();
+        dropField();
         chooseField();
         setText(content, rich());
     } else {
         options_ = options;
         chooseField();
     }
+}
+
+// What a field sends while it goes is none of ours.
+void TextEntry::dropField() {
+    QWidget* old = field();
+    if (!old) return;
+    old->removeEventFilter(this);
+    if (edit_) {
+        edit_->viewport()->removeEventFilter(this);
+        edit_->document()->disconnect(this);
+    }
+    old->disconnect(this);
+    line_ = nullptr;
+    edit_ = nullptr;
+    delete old;
 }
 
 void TextEntry::makeLine() {

@@ -140,6 +140,7 @@ protected:
 private:
     bool wantsSingleLine() const;
     void chooseField();
+    void dropField();
     void makeLine();
     void makeEdit();
     void showOptions();
