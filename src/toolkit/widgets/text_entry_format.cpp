@@ -228,7 +228,7 @@ void TextEntry::setHighlighting(SyntaxLanguage language, std::function<QColor(in
     if (!edit_) return;
     Quiet quiet(*this);
     if (language == SyntaxLanguage::None) {
-        delete highlighter_;
+        delete std::exchange(highlighter_, nullptr).data(); // what it signals on its way finds it gone
         showLinks(*edit_->document(), options_.autoUrl);
         return;
     }
