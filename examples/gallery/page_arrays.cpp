@@ -11,7 +11,7 @@ static void build(int panel) {
     texts =
         owCreateTextArray(panel, 12, 30, 340, 170, 6, 12, owVpos, OTOP, owAxisW, 40, owAxisH, 22, owXtext, "*letters",
                           owYtext, "*digits", owBorderType, OCHISEL, owCallback, OIDENT, owSelectCallback, OIDENT, 0);
-    static const char* const words[] = {"Type here", "Tab", "goes on", "Return", "goes down"};
+    static const char* const words[] = {"Type", "Tab", "goes on", "Return", "down"};
     for (int i = 0; i < 5; i++) owSetTextArray(texts, i % 3 + 1, i / 3 + 1, words[i]);
     label(panel, 368, 8, 300, "Value array, cells in looks of their own");
     const int values = owCreateValueArray(panel, 368, 30, 332, 170, 12, 5, owVpos, OTOP, owAxisW, 60, owAxisH, 22,

@@ -43,9 +43,10 @@ static void build(int panel) {
         }
     }
     label(panel, 12, 330, 200, "Toggles in colours");
+    static const char* const coloured[] = {"Red square", "Diamond", "Blue square", "Tick box", "Circle"};
     for (int i = 0; i < 5; i++)
-        owCreateToggleButton(panel, 12 + i * 140, 352, 138, 22, types[i], i % 2 == 0, owVpos, OTOP, owType, i, owOnCol,
-                             i + 2, owOffCol, 54, owTextCol, i + 2, owCallback, OIDENT, 0);
+        owCreateToggleButton(panel, 12 + i * 140, 352, 138, 22, coloured[i], i % 2 == 0, owVpos, OTOP, owType, i,
+                             owOnCol, i + 2, owOffCol, 54, owTextCol, i + 2, owCallback, OIDENT, 0);
 
     label(panel, 12, 386, 100, "Icons");
     static const char* const kinds[] = {"Pictogram", "Sensitive", "Button"};

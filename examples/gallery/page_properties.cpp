@@ -22,7 +22,7 @@ static void number(const char* title, double value, int decimals, int type, doub
 static void build(int panel) {
     static const char* const types[] = {"Standard", "User Defined", "Default Button", 0};
     static const char* const onOff[] = {"Off", "On", 0};
-    label(panel, 12, 8, 320, "Click a value, or type; Tab goes on to the next row");
+    label(panel, 12, 8, 460, "Click a value, or type; Tab goes on to the next row");
     list = owCreatePropertyList(panel, 12, 30, 330, 420, owVpos, OTOP, owColumnWidth, 140, owRowHeight, 22,
                                 owSelectCallback, OIDENT, owCallback, OIDENT, owChangeCallback, OIDENT, 0);
     owAddPropertyToList(list, OPROPTEXT, "Name", owString, "Form1_Button1", owHelp, "A name of the language", 0);

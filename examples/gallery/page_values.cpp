@@ -6,9 +6,9 @@
 static int progress[2], slider, gauge;
 
 static void build(int panel) {
-    static const char* const types[] = {"Decimal",      "Scientific", "Binary",  "Octal",  "Hexadecimal", "Degrees",
-                                        "Percent",      "Fahrenheit", "Celsius", "Kelvin", "Pounds",      "US Dollars",
-                                        "Deutschmarks", "Francs",     "Yen",     "Euro"};
+    static const char* const types[] = {"Decimal", "Scientific", "Binary",  "Octal",  "Hexadecimal", "Degrees",
+                                        "Percent", "Fahrenheit", "Celsius", "Kelvin", "Pounds",      "US Dollars",
+                                        "Marks",   "Francs",     "Yen",     "Euro"};
     for (int i = 0; i < 16; i++) {
         const int x = 12 + i / 8 * 225, y = 8 + i % 8 * 29;
         label(panel, x, y + 2, 90, types[i]);
