@@ -3,6 +3,7 @@
 #include "project/tree.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace {
 
@@ -125,7 +126,8 @@ std::string doubledTextBackslashes(std::string_view text) {
         const char follower = i + 1 < text.size() ? text[i + 1] : '\0';
         if (run == 0 || follower == '\\') continue;
         const bool odd = run % 2 != 0;
-        const bool badEscape = follower == 'x' || follower == 'u' || follower == 'U';
+        const bool hexDigits = i + 2 < text.size() && std::isxdigit(static_cast<unsigned char>(text[i + 2])) != 0;
+        const bool badEscape = (follower == 'x' && !hexDigits) || follower == 'u' || follower == 'U';
         if (odd ? follower != '"' : !badEscape) result += '\\';
     }
     return result;

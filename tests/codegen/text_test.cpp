@@ -116,7 +116,8 @@ TEST(Quotes, TextsAndPathsOfC) {
         {"\\\\server\\c", "\\\\server\\\\c", "\\\\\\server\\\\c"}, // a pair: only paths know it
         {"a\\\"b", "a\\\\\"b", "a\\\"b"},                          // what keeps a quote inside the string is left alone
         {"a\\\\\"b", "a\\\\\"b", "a\\\\\\\"b"},                    // and two ahead of a quote become three
-        {"\\\\x", "\\\\x", "\\\\x"},                               // no escape that the language does not have
+        {"\\\\xab", "\\\\xab", "\\\\\\xab"},
+        {"\\\\x", "\\\\x", "\\\\x"}, // no escape that the language does not have
         {"end\\", "end\\\\", "end\\\\"},
     };
     for (const Case& c : cases) {
