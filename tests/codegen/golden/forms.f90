@@ -128,8 +128,8 @@ subroutine GenerateMain
 integer :: ISTBAR(32)
 
 ! Set up master window Main
-   Main = owCreateMDIMasterWindow(20, 30, 400, 550, ior(OMINIMIZE,OQUIT), 'Form 2', owHpos=ORIGHT, owVpos=OTOP, owImage='sea', &
-      owInitState=OMAXIMIZE, owBuildInfo=OOFF, owIconFormat=ODLLICON, owIconFile='main')
+   Main = owCreateMDIMasterWindow(20, 30, 400, 550, ior(OMINIMIZE,OQUIT), 'Form 2', owHpos=ORIGHT, owVpos=OTOP, owExpand=2, &
+      owImage='sea', owInitState=OMAXIMIZE, owBuildInfo=OOFF, owIconFormat=ODLLICON, owIconFile='main')
 
 ! Create Statusbar for Main
    ISTBAR(1)=100
@@ -177,7 +177,7 @@ subroutine GenerateChild1
 
 ! Set up complex dialogue box Child1 child of Main
    Child1 = owCreateComplexDialogueBox(Main, 200, 130, 400, 550, OALL, 'Child of the master', owHpos=OCENTRE, owVpos=OMIDDLE, &
-      owQuitMode=OREMOVE, owInitState=OTOP, owIconFormat=ODLLICON, owIconFile='Gee')
+      owExpand=OON, owQuitMode=OREMOVE, owInitState=OTOP, owIconFormat=ODLLICON, owIconFile='Gee')
 
 ! Create main panel for form
    Child1_MainPanel=owCreatePanel(Child1, 0, 0, 400, 550, owHpos=OCENTRE, owVpos=OMIDDLE, owExpand=OON, owType=ONOBOUNDARY, &
