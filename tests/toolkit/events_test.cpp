@@ -53,7 +53,7 @@ TEST(Handles, FreedOnesComeBackOnlyAfterTheWholeRange) {
     owEraseWidget(first);
     const int before = widgetCount();
     int last = first;
-    long warm = 0; // pages in use once everything that is made but once has been made
+    [[maybe_unused]] long warm = 0; // pages in use once everything that is made but once has been made
     for (int i = 0; i < 45'000; i++) {
         if (i == 5'000) warm = residentPages();
         const int handle = makePanel(toolkit.panel, 0, 0);
