@@ -11,7 +11,7 @@ char nativeSeparator();
 std::string joinPath(std::string_view folder, std::string_view name); // an empty folder gives the name alone
 std::string folderOf(std::string_view path);                          // up to the last separator; empty without one
 std::string fileNameOf(std::string_view path);                        // behind the last separator
-std::string nativePath(std::string path); // every separator turned into the system's own
+std::string nativePath(std::string path);                             // every separator turned into the system's own
 bool isAbsolutePath(std::string_view path);
 
 // A dot counts as an extension only in the file name itself, never in a folder's name.

@@ -43,7 +43,8 @@ std::vector<pid_t> probed();            // every living program with a probe, in
 bool waitUntil(const std::function<bool()>& holds, double seconds = 10);
 // Waits for the first thing that passes and returns it; fails the test when none comes.
 Thing waitFor(pid_t program, const std::string& what, const Test& test, double seconds = 10);
-// Waits until the program shows windows and they stand still: the window manager may move a window after it has come up.
+// Waits until the program shows windows and they stand still: the window manager may move a window after it has come
+// up.
 void settle(pid_t program);
 bool shows(pid_t program, const Test& test);
 

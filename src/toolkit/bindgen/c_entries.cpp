@@ -58,7 +58,8 @@ int main() {
         "// Written by bindgen from functions.def.\n#include \"toolkit/keywords/call.h\"\n\n#include <cstdarg>\n\n"
         "using namespace orba;\n\nextern \"C\" {\n\n");
     // Some routines are macros in the header.
-    for (int i = 0; i < static_cast<int>(Fn::count); i++) std::printf("#undef %s\n", functionRow(static_cast<Fn>(i)).name);
+    for (int i = 0; i < static_cast<int>(Fn::count); i++)
+        std::printf("#undef %s\n", functionRow(static_cast<Fn>(i)).name);
     for (int i = 0; i < static_cast<int>(Fn::count); i++) writeEntry(functionRow(static_cast<Fn>(i)));
     std::printf("} // extern \"C\"\n");
     return 0;

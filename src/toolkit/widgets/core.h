@@ -150,8 +150,8 @@ struct Family {
     void (*childLeaving)(Widget& widget, Widget& child) = nullptr;
     // Before the view is deleted, children first.
     void (*erased)(Widget& widget) = nullptr;
-    // A parent that places its children itself (bars, tabs, property lists): called once a child has its arguments, with
-    // place.width and height in pixels. The frame then neither places nor shows the child.
+    // A parent that places its children itself (bars, tabs, property lists): called once a child has its arguments,
+    // with place.width and height in pixels. The frame then neither places nor shows the child.
     void (*placeChild)(Widget& widget, Widget& child) = nullptr;
     // The status of a child is the parent's to show. False leaves it to the child's family.
     bool (*setChildStatus)(Widget& widget, Widget& child, int status) = nullptr;

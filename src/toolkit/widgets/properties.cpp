@@ -1,8 +1,8 @@
 // Properties by number, status, help and information of every widget.
 #include "toolkit/widgets/frame.h"
 
-#include <QApplication>
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QScrollBar>
 
 #include <algorithm>

@@ -29,8 +29,8 @@ struct TextOptions {
     bool label = false; // display only: no caret, no focus
     bool readOnly = false;
     bool tabStop = true; // Tab comes here
-    int limit = 0; // most characters a user may enter, 0 any number
-    int justify = -1; // -1 left, 0 centre, 1 right
+    int limit = 0;       // most characters a user may enter, 0 any number
+    int justify = -1;    // -1 left, 0 centre, 1 right
     TextBorder border = TextBorder::Default;
     ScrollMode scroll = ScrollMode::None;
     bool wordWrap = true; // lines also wrap at the right edge where no horizontal bar is asked for
@@ -47,7 +47,7 @@ struct TextHooks {
     std::function<void()> selected;  // the focus came, the caret or the selection moved
     std::function<void()> changed;
     std::function<void(const QString& url)> linked; // a link was pressed
-    std::function<void()> pressed; // the mouse, before anything else
+    std::function<void()> pressed;                  // the mouse, before anything else
 };
 
 struct TextFont { // absent parts stay as they are
@@ -102,7 +102,7 @@ public:
 
     // Of the selection in rich text, of the whole text otherwise.
     void setTextFont(const TextFont& font);
-    bool formatsWholeText() const; // whether a font goes to all of it
+    bool formatsWholeText() const;        // whether a font goes to all of it
     TextFont textFont() const;            // at the caret
     void setPlainFont(const QFont& font); // of the whole text, also under the highlighter
 

@@ -18,7 +18,7 @@ struct ValueOptions {
     int field = 0; // most characters while editing; 0 any number
     bool label = false;
     bool readOnly = false;
-    bool tabStop = true; // Tab comes here
+    bool tabStop = true;       // Tab comes here
     bool anyCharacter = false; // letters may be typed, too; what is no number is refused at the end
     bool thousands = false;    // groups of three at rest, decimal types only
     std::optional<double> minimum, maximum;

@@ -509,8 +509,8 @@ void activateView(QWidget* view) {
     expectActivation();
     session.expectedFocus = widgetAt(view)->handle;
     top->activateWindow();
-    // A window manager refuses a request that is older than the user's last input to another window, such as the release
-    // of the click that led to it. Once that has been read, the request is made again.
+    // A window manager refuses a request that is older than the user's last input to another window, such as the
+    // release of the click that led to it. Once that has been read, the request is made again.
     QTimer::singleShot(ACTIVATION_RETRY, view, [view, handle = session.expectedFocus] {
         if (session.expectedFocus != handle || view->window()->isActiveWindow()) return;
         expectActivation();

@@ -17,7 +17,7 @@ struct WindowData : FamilyData {
     int initState = ONORMAL;
     bool shown = false;             // was on the screen before
     QElapsedTimer settling;         // runs after a change by the program, while the window manager follows
-    QRect known;              // last geometry that Qt told of
+    QRect known;                    // last geometry that Qt told of
     QMdiSubWindow* frame = nullptr; // of a dialogue box inside an MDI master
 };
 
