@@ -113,8 +113,10 @@ std::string shownText(const WidgetNode& widget, const PropertyRow& row) {
 double shownNumber(const WidgetNode& widget, const PropertyRow& row) {
     const WidgetNode& target = targetOf(widget, row);
     if (row.id == ROW_TEXT_FIELD_WIDTH || row.id == ROW_VALUE_FIELD_WIDTH) return std::abs(target.fieldWidth);
-    if ((row.id == ROW_X_LABELS_HEIGHT || row.id == ROW_Y_LABELS_WIDTH) && project.gridMode == 1)
-        return target.*row.whole / std::max(project.gridPixelX, 1);
+    if ((row.id == ROW_X_LABELS_HEIGHT || row.id == ROW_Y_LABELS_WIDTH) && project.gridMode == 1) {
+        const int wholeCells = target.*row.whole / std::max(project.gridPixelX, 1);
+        return wholeCells;
+    }
     if (row.real) return static_cast<double>(target.*row.real);
     return row.whole ? target.*row.whole : 0;
 }

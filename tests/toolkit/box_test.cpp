@@ -67,6 +67,7 @@ TEST(MessageBoxes, AnswersOfTheirButtons) {
 }
 
 TEST(MessageBoxes, EscapeIsTheMildestAnswer) {
+    const Toolkit toolkit;
     struct Case {
         int buttons, answer;
     };
