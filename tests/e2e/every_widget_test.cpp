@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <ostream>
 
 namespace fs = std::filesystem;
 using namespace example;
@@ -24,6 +25,8 @@ struct Language {
     const char* press; // code of the button that answers
     const char* leave;
 };
+
+void PrintTo(const Language& language, std::ostream* out) { *out << language.name; }
 
 constexpr Language languages[] = {
     {"Fortran90", 90, ".f90", "gfortran -ffree-line-length-none", "-lorbawidg_f -lorbawidg",
