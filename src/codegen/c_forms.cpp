@@ -1,6 +1,7 @@
 // Forms in C: the routine of each, its window with status bar and menu, its main panel.
 
 #include "codegen/c_language.h"
+#include "codegen/quotes.h"
 
 namespace {
 
@@ -30,18 +31,18 @@ void beginMaster(Generation& g, const WidgetNode& form) {
     rememberMaster(g, form);
 }
 
-void beginDialogue(Generation& g, WidgetNode& form) {
-    borrowMasterName(form);
-    write(g, "\n// Set up complex dialogue box %s child of %s\n", form.name, form.parentName);
+void beginDialogue(Generation& g, const WidgetNode& form) {
+    const std::string_view parent = parentName(g, form);
+    write(g, "\n// Set up complex dialogue box %s child of %s\n", form.name, parent);
     if (isMdiChild(form)) {
         write(g,
               project.gridMode != 0 ? "   %s = owCreateMDIComplexDialogueBox(%s, %d, %d-1, %d, %d, "
                                     : "   %s = owCreateMDIComplexDialogueBox(%s, %d-4, %d-24, %d, %d, ",
-              form.name, form.parentName, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY),
-              form.width, form.height);
+              form.name, parent, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.width,
+              form.height);
     } else {
-        write(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d, ", form.name, form.parentName, form.xpos,
-              form.ypos, form.width, form.height);
+        write(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d, ", form.name, parent, form.xpos, form.ypos,
+              form.width, form.height);
     }
 }
 
@@ -58,7 +59,7 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
     }
 }
 
-void beginRoutine(Generation& g, WidgetNode& form) {
+void beginRoutine(Generation& g, const WidgetNode& form) {
     if (g.masterWritten) write(g, "}\n"); // of the form before
     const std::uint64_t types = typesBelow(form);
     write(g, "void Generate%s(void)\n", form.name);
@@ -74,7 +75,7 @@ void beginRoutine(Generation& g, WidgetNode& form) {
 } // namespace
 
 void createCForm(Generation& g, const Placed& w) {
-    WidgetNode& form = w.node;
+    const WidgetNode& form = w.node;
     beginRoutine(g, form);
     if (g.masterWritten) {
         beginDialogue(g, form);
@@ -82,7 +83,7 @@ void createCForm(Generation& g, const Placed& w) {
         beginMaster(g, form);
     }
     writeTitle(g, form);
-    write(g, "\"%s\"\n", form.text);
+    write(g, "\"%s\"\n", cText(form.text));
     write(g, CONTINUATION);
     if (!isMdiChild(form)) writeOrigin(g, form);
     writeNamed(g, "owInitState", INITIAL_STATE, form.initialState);
@@ -97,7 +98,6 @@ void createCForm(Generation& g, const Placed& w) {
         write(g, "\n// Create menu structure for %s\n", form.name);
         writeMenu(g, form);
     }
-    returnMasterName(g, form);
 }
 
 // Its place is fixed, whatever the record's origin says.

@@ -2,14 +2,15 @@
 
 #include "codegen/c_language.h"
 #include "codegen/generation.h"
+#include "codegen/quotes.h"
 
 #include "project/preferences.h"
 #include "project/tree.h"
 
 namespace {
 
-template <class Visit> void eachForm(Visit visit) {
-    for (WidgetNode* form = project.forms; form != nullptr; form = form->next) visit(*form);
+template <class Visit> void eachForm(const Generation& g, Visit visit) {
+    for (const WidgetNode* form : g.forms) visit(*form);
 }
 
 void writeDefinitions(Generation& g) {
@@ -18,13 +19,13 @@ void writeDefinitions(Generation& g) {
     write(g, "#include <menu-c.h>\n\n");
     writeBlock(g, BLOCK_GLOBAL_DEFINITIONS);
     write(g, "//Function Definitions\n");
-    eachForm([&](WidgetNode& form) { write(g, "void Generate%s(void);\n", form.name); });
+    eachForm(g, [&](const WidgetNode& form) { write(g, "void Generate%s(void);\n", form.name); });
     write(g, "\n// Widget identifier definitions\n");
     if (checksConfiguration()) {
         write(g, "char %s[256];\n", preferences.configDirExpr);
         write(g, "int configstatus;\n");
     }
-    eachForm([&](WidgetNode& form) { writeIdentifiers(g, form); });
+    eachForm(g, [&](const WidgetNode& form) { writeIdentifiers(g, form); });
     write(g, "int callid;\n");
 }
 
@@ -84,7 +85,7 @@ void writeGrid(Generation& g) {
 
 void writeProgramHead(Generation& g) {
     writeDefinitions(g);
-    eachForm([&](WidgetNode& form) { writeFormRoutine(g, form); });
+    eachForm(g, [&](const WidgetNode& form) { writeFormRoutine(g, form); });
     write(g, "}\n"); // of the last form routine
     write(g, "// Global Routines\n");
     writeBlock(g, BLOCK_GLOBAL_ROUTINES);
@@ -98,7 +99,7 @@ void writeProgramHead(Generation& g) {
     writeBlock(g, BLOCK_INITIALIZATION);
     write(g, "\n// Start management\n");
     write(g, "   owManage();\n");
-    if (const WidgetNode* active = findActiveOnInit(project.forms)) {
+    if (const WidgetNode* active = activeOnInit(g)) {
         write(g, "\n//   Set active widget\n");
         write(g, "   owSetActiveWidget(%s);\n", active->name);
     }
@@ -137,7 +138,7 @@ void writePullDown(Generation& g, const MenuEntryRec& menu, std::string_view abo
 }
 
 void writeMenuEntry(Generation& g, const MenuEntryRec& entry, std::string_view owner) {
-    write(g, "   %s = owCreateMenuEntry(%s, \"%s\", owAccel,%d", entry.name, owner, entry.label, entry.accel);
+    write(g, "   %s = owCreateMenuEntry(%s, \"%s\", owAccel,%d", entry.name, owner, cText(entry.label), entry.accel);
     if (g.windows) {
         if (!entry.help.empty()) write(g, ",owHelp,\"%s\"", entry.help);
         writeIconResource(g, "owUncheckIcon", entry.icon1);

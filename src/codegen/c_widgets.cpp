@@ -108,7 +108,7 @@ void endToolButton(Generation& g, const WidgetNode& node) {
 void createToolButton(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     write(g, "   %s = owCreateToolBarButton(%s, ", node.name, w.parent);
-    write(g, "OTEXTBUTTON,\"%s\"\n", node.text);
+    write(g, "OTEXTBUTTON,\"%s\"\n", cText(node.text));
     write(g, CONTINUATION);
     endToolButton(g, node);
     writeFont(g, w);
@@ -120,7 +120,7 @@ void createButton(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     if (node.onToolbar == 1) return createToolButton(g, w);
     beginCreation(g, w, "owCreatePushButton");
-    write(g, ", \"%s\"\n", node.text);
+    write(g, ", \"%s\"\n", cText(node.text));
     writeHelp(g, node);
     write(g, CONTINUATION);
     write(g, ", owType,%s", nameOf(BUTTON_TYPE, node.subType, "OSTANDARD"));
@@ -138,7 +138,7 @@ void createButton(Generation& g, const Placed& w) {
 void createToggle(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateToggleButton");
-    write(g, ", \"%s\", %d\n", node.text, node.initialStatus);
+    write(g, ", \"%s\", %d\n", cText(node.text), node.initialStatus);
     writeHelp(g, node);
     write(g, CONTINUATION);
     write(g, ", owType,%s", nameOf(TOGGLE_TYPE, node.subType, "OBEVELSQUARE"));
@@ -155,7 +155,7 @@ void createText(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool editable = node.type == TYPE_TEXT_ENTRY;
     add(g, "   %s = owCreateTextEntry(%s, %d, %d, %d, %d,\"%s \", %d, %s\n", node.name, w.parent, node.xpos, node.ypos,
-        w.width, w.height, doubledTextBackslashes(withBarsForC(node.text)), node.fieldWidth,
+        w.width, w.height, doubledTextBackslashes(withBarsForC(cText(node.text))), node.fieldWidth,
         editable ? "OEDIT" : "ODISPLAY");
     writeStatementSplit(g);
     writeHelp(g, node);
@@ -219,7 +219,7 @@ void createPlainIcon(Generation& g, const Placed& w) {
     write(g, CONTINUATION);
     writeNamed(g, "owType", ICON_TYPE, node.subType);
     writeSwitch(g, "owDragMode", node.dragMode == 1);
-    if (!node.text.empty()) write(g, ", owLabel,\"%s\"", node.text);
+    if (!node.text.empty()) write(g, ", owLabel,\"%s\"", cText(node.text));
     writeSize(g, node);
     writeTab(g, node);
     writeTail(g, node);
@@ -295,7 +295,7 @@ void createPanel(Generation& g, const Placed& w) {
     write(g, "\n");
     writeHelp(g, node);
     write(g, CONTINUATION);
-    if (node.titleFlag != 0 && node.scrollMode == -1) write(g, ", owTitle,\"%s\"", node.text);
+    if (node.titleFlag != 0 && node.scrollMode == -1) write(g, ", owTitle,\"%s\"", cText(node.text));
     writeBoundary(g, "owType", node.subType, true);
     write(g, CONTINUATION);
     writeBorder(g, node);
@@ -318,7 +318,7 @@ void createRadioBox(Generation& g, const Placed& w) {
     writeHelp(g, node);
     write(g, CONTINUATION);
     write(g, ", owType,OFREEFORM");
-    if (node.titleFlag != 0) write(g, ", owTitle,\"%s\"", node.text);
+    if (node.titleFlag != 0) write(g, ", owTitle,\"%s\"", cText(node.text));
     writeBoundary(g, "owBorderType", node.borderType, false);
     write(g, CONTINUATION);
     writeBorder(g, node);
@@ -340,7 +340,7 @@ void createGraphicsFrame(Generation& g, const Placed& w) {
     writeTail(g, node);
 }
 
-void writeCells(Generation& g, WidgetNode& node) {
+void writeCells(Generation& g, const WidgetNode& node) {
     write(g, "   owEnqCellAttribs(%s, 1, 1, &arrayattribs);\n", node.name);
     for (const CellSize& cell : cellSizes(node)) {
         if (cell.changed) {
@@ -387,7 +387,7 @@ void createArray(Generation& g, const Placed& w) {
 void endDocked(Generation& g, const WidgetNode& node) {
     writeNamed(g, "owQuitMode", QUIT_MODE, node.quitMode);
     const std::string_view title = nameOf(DOCK_TITLE, node.titleFlag);
-    if (!title.empty()) write(g, ", owTitleFlag,%s, owTitle,\"%s\"", title, node.text);
+    if (!title.empty()) write(g, ", owTitleFlag,%s, owTitle,\"%s\"", title, cText(node.text));
     write(g, ");\n");
 }
 
@@ -455,7 +455,7 @@ void createProgressBar(Generation& g, const Placed& w) {
 void createTtyEntry(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateTTYEntry");
-    write(g, ", %d,\"%s \"\n", node.size, withBarsForC(node.text));
+    write(g, ", %d,\"%s \"\n", node.size, withBarsForC(cText(node.text)));
     writeHelp(g, node);
     write(g, CONTINUATION);
     if (!node.icon.empty()) write(g, ", owPrompt,\"%s\"", node.icon);
@@ -545,7 +545,7 @@ void writeIconResource(Generation& g, std::string_view keyword, std::string_view
 
 // Only a tree whose icons are the user's own takes them from its entries.
 void writeCTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryRec& entry, std::string_view parent) {
-    write(g, "   %s = owCreateTreeEntry(%s, OLASTCHILD, \"%s\"", entry.name, parent, entry.label);
+    write(g, "   %s = owCreateTreeEntry(%s, OLASTCHILD, \"%s\"", entry.name, parent, cText(entry.label));
     if (tree.subType == TREE_OWN_ICONS) {
         writeIconResource(g, "owIcon", entry.icon1);
         writeIconResource(g, "owCloseIcon", entry.icon2);
@@ -555,7 +555,7 @@ void writeCTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryRec& 
 }
 
 void writeCListEntry(Generation& g, const WidgetNode& list, const ListEntryRec& entry) {
-    add(g, "   owSetListEntry(%s, OADD, owString,\"%s\"", list.name, entry.text);
+    add(g, "   owSetListEntry(%s, OADD, owString,\"%s\"", list.name, cText(entry.text));
     if (!entry.icon.empty()) add(g, ", owIcon,owGetIconResource(\"%s\")", iconResourceName(entry.icon));
     add(g, ",0);\n");
     writeStatementSplit(g);

@@ -60,9 +60,9 @@ struct TextCheck {
         checkLineEnds(property, text);
         if (isC()) {
             checkEscapes(property, text, false);
-        } else if (countQuotes(text, project.projectLanguage) % 2 != 0) {
+        } else if (std::count(text.begin(), text.end(), '\'') % 2 != 0) {
             complain(property, "a single quote ends the text in the source; double it or remove it");
-        } else if (countQuotes(text, project.projectLanguage) != 0 && !allDoubled(text)) {
+        } else if (!allDoubled(text)) {
             complain(property, "single quotes end the text in the source; double them or remove them");
         }
     }
@@ -223,20 +223,10 @@ bool continues(std::string_view line) {
     return project.projectLanguage == 90 ? line.ends_with(" &") : line.starts_with("     +");
 }
 
-// The text as the next generation will write it: what a generation leaves in the forms is taken back.
-bool generateForCheck(GeneratedText& generated) {
-    std::vector<std::pair<WidgetNode*, std::string>> parents;
-    for (WidgetNode* form = project.forms; form != nullptr; form = form->next)
-        parents.emplace_back(form, form->parentName);
-    const bool made = generateText("check", generated);
-    for (auto& [form, parent] : parents) form->parentName = std::move(parent);
-    return made;
-}
-
 // Counts continuation lines in the source itself. The comment ahead of a statement names its widget.
 void checkLengths(std::vector<Complaint>& complaints) {
     GeneratedText generated;
-    if (isC() || !generateForCheck(generated)) return;
+    if (isC() || !generateText("check", generated)) return;
     std::string_view rest = generated.text;
     std::string widget;
     int lines = 0;

@@ -12,7 +12,7 @@ struct Complaint {
 };
 
 // Every complaint about the open project in its language, in walking order. Generation itself never
-// refuses. Puts the master form first in the chain, as a generation does.
+// refuses.
 std::vector<Complaint> checkProject();
 
 // "form: widget: property: message", the parts that are empty left out.

@@ -89,10 +89,12 @@ void writeEntryBranches(Generation& g, const WidgetNode& owner) {
 void writeDispatch(Generation& g) {
     g.branchOpen = false;
     g.branchUnended = false;
-    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
-        writeWidgetBranches(g, *node);
-        writeEntryBranches(g, *node);
-        passOn(g);
+    for (const WidgetNode* form : g.forms) {
+        for (const WidgetNode* node = form; node != nullptr; node = walkBelow(node, form)) {
+            writeWidgetBranches(g, *node);
+            writeEntryBranches(g, *node);
+            passOn(g);
+        }
     }
     if (g.branchOpen) g.out += g.language.dispatch.chainEnd;
 }

@@ -2,7 +2,6 @@
 
 #include "codegen/generation.h"
 
-#include "project/host.h"
 #include "project/preferences.h"
 #include "project/tree.h"
 
@@ -113,9 +112,7 @@ std::span<const int> held(const std::vector<int>& sizes, int count) {
 
 } // namespace
 
-// Sizes that a live widget holds are brought into the record first.
-std::vector<CellSize> cellSizes(WidgetNode& array) {
-    host.storeArrayGeometry(array);
+std::vector<CellSize> cellSizes(const WidgetNode& array) {
     const std::span<const int> widths = held(array.columnWidths, array.columns);
     const std::span<const int> heights = held(array.rowHeights, array.rows);
     if (widths.empty() || heights.empty()) return {};
@@ -138,8 +135,7 @@ std::vector<CellSize> cellSizes(WidgetNode& array) {
     return sizes;
 }
 
-std::vector<TableColumn> tableColumns(WidgetNode& table) {
-    host.storeArrayGeometry(table);
+std::vector<TableColumn> tableColumns(const WidgetNode& table) {
     const std::span<const int> widths = held(table.columnWidths, table.columns);
     std::vector<TableColumn> columns(widths.size());
     std::string_view labels = table.xLabels;

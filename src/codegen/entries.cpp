@@ -36,13 +36,14 @@ struct ChainPlace {
     std::string_view ownerName(std::string_view otherwise) const { return owner != nullptr ? owner->name : otherwise; }
 };
 
-// A menu entry that opens forms answers a press although it holds no code of its own.
+// A menu entry that opens forms answers a press although it holds no code of its own. A form in a module of its own has
+// its constant for a parent, and the user's code opens it.
 void writeOpenedForms(Generation& g, const MenuEntryRec& entry) {
     const auto opened = g.formsByParent.find(entry.name);
     if (opened == g.formsByParent.end()) return;
     for (const WidgetNode* form : opened->second) {
-        if (form->parentName == entry.name)
-            write(g, g.language.defineEntryCalls[ENTRY_GENERAL], entry.name, entry.name);
+        if (g.ownModules.contains(form)) continue;
+        write(g, g.language.defineEntryCalls[ENTRY_GENERAL], entry.name, entry.name);
     }
 }
 

@@ -1,5 +1,6 @@
 // The walk that every language's source follows: identifiers, form routines with their widgets, user colours.
 
+#include "codegen/fortran90.h"
 #include "codegen/generation.h"
 #include "codegen/markers.h"
 
@@ -9,8 +10,6 @@
 #include "project/tree.h"
 
 #include <algorithm>
-
-std::string masterName;
 
 namespace {
 
@@ -121,8 +120,8 @@ void writeWidget(Generation& g, const Placed& widget) {
 
 } // namespace
 
-void writeFormRoutine(Generation& g, WidgetNode& form) {
-    for (WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
+void writeFormRoutine(Generation& g, const WidgetNode& form) {
+    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
         // Tool bars and panes live on the window itself, not on its main panel.
         const bool onWindow = node->type == TYPE_TOOL_BAR || node->type == TYPE_PANE || node->parent == nullptr;
         Placed widget{*node, form, onWindow ? form.name : node->parent->name, node->width, node->height};
@@ -191,7 +190,7 @@ void writeUserColours(Generation& g) {
 }
 
 void writeGenerateCalls(Generation& g) {
-    for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) {
+    for (const WidgetNode* form : g.forms) {
         if (!isDynamic(*form)) write(g, g.language.generateForm, form->name);
     }
 }
@@ -199,17 +198,21 @@ void writeGenerateCalls(Generation& g) {
 void rememberMaster(Generation& g, const WidgetNode& form) {
     g.masterX = form.xpos;
     g.masterY = form.ypos;
-    masterName = form.name;
+    g.masterName = form.name;
 }
 
-void borrowMasterName(WidgetNode& form) {
-    if (form.parentName == "NONE") form.parentName = masterName;
+std::string_view parentName(const Generation& g, const WidgetNode& form) {
+    if (g.language.code == 90 && isDynamic(form)) return parentConstant(form);
+    return form.parentName == "NONE" ? g.masterName : std::string_view(form.parentName);
 }
 
-// Dynamic forms of Fortran 90 keep the name that stands for their parent in their module.
-void returnMasterName(const Generation& g, WidgetNode& form) {
-    const bool inOwnModule = g.language.code == 90 && isDynamic(form);
-    if (form.parentName == masterName && !inOwnModule) form.parentName = "NONE";
+const WidgetNode* activeOnInit(const Generation& g) {
+    for (const WidgetNode* form : g.forms) {
+        for (const WidgetNode* node = form; node != nullptr; node = walkBelow(node, form)) {
+            if (node->activeOnInit == 1) return node;
+        }
+    }
+    return nullptr;
 }
 
 void writeStatementSplit(Generation& g) {

@@ -2,13 +2,14 @@
 
 #include "codegen/fortran77.h"
 #include "codegen/generation.h"
+#include "codegen/quotes.h"
 
 #include "project/tree.h"
 
 namespace {
 
-template <class Visit> void eachForm(Visit visit) {
-    for (WidgetNode* form = project.forms; form != nullptr; form = form->next) visit(*form);
+template <class Visit> void eachForm(const Generation& g, Visit visit) {
+    for (const WidgetNode* form : g.forms) visit(*form);
 }
 
 void writeModule(Generation& g) {
@@ -18,11 +19,11 @@ void writeModule(Generation& g) {
     write(g, "      INTEGER :: OIDENT=50000\n");
     writeBlock(g, BLOCK_GLOBAL_DEFINITIONS);
     write(g, "C Widget identifier definitions\n");
-    eachForm([&](WidgetNode& form) { writeIdentifiers(g, form); });
+    eachForm(g, [&](const WidgetNode& form) { writeIdentifiers(g, form); });
     if (g.windows) write(g, "      INTEGER ISTBAR(32)\n");
     write(g, "      INTEGER CALLID\n");
     write(g, "      CONTAINS\n");
-    eachForm([&](WidgetNode& form) { writeFormRoutine(g, form); });
+    eachForm(g, [&](const WidgetNode& form) { writeFormRoutine(g, form); });
     write(g, "      RETURN\n"); // of the last form routine
     write(g, "      END SUBROUTINE\n");
     write(g, "C     Global Routines\n");
@@ -86,7 +87,7 @@ void writeProgramHead(Generation& g) {
     writeBlock(g, BLOCK_INITIALIZATION);
     write(g, "C start management\n");
     write(g, "      CALL MANAGE\n");
-    if (const WidgetNode* active = findActiveOnInit(project.forms)) {
+    if (const WidgetNode* active = activeOnInit(g)) {
         write(g, "\n!   Set active widget\n");
         write(g, "      call ACTWID(%s)\n", active->name);
     }
@@ -128,7 +129,7 @@ void writePullDown(Generation& g, const MenuEntryRec& menu, std::string_view abo
 
 // An entry with a picture for its unchecked state gets all three.
 void writeMenuEntry(Generation& g, const MenuEntryRec& entry, std::string_view owner) {
-    write(g, "      CALL MENENT(%s,'%s',%d,%s)\n", owner, entry.label, entry.accel, entry.name);
+    write(g, "      CALL MENENT(%s,'%s',%d,%s)\n", owner, fortranText(entry.label), entry.accel, entry.name);
     if (!g.windows) return;
     writeHelpStatement(g, entry.name, entry.help);
     if (entry.icon1.empty()) return;

@@ -31,7 +31,9 @@ void writeStatus(Generation& g, const WidgetNode& node) {
     if (node.initialState != 1) write(g, "      CALL WIDSTA(%s, %d)\n", node.name, node.initialState);
 }
 
-void writeTitleText(Generation& g, const WidgetNode& node) { writeSplit(g, "      CALL WIDSTR('%s')\n", node.text); }
+void writeTitleText(Generation& g, const WidgetNode& node) {
+    writeSplit(g, "      CALL WIDSTR('%s')\n", fortranText(node.text));
+}
 
 void writeFont(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
@@ -104,9 +106,9 @@ void createMaster(Generation& g, const Placed& w) {
 
 // A child of an MDI master stands at its offset from the master, less what the master's frame takes.
 void createDialogue(Generation& g, const Placed& w) {
-    WidgetNode& form = w.node;
-    borrowMasterName(form);
-    write(g, "C set up complex dialogue box %s child of %s\n", form.name, form.parentName);
+    const WidgetNode& form = w.node;
+    const std::string_view parent = parentName(g, form);
+    write(g, "C set up complex dialogue box %s child of %s\n", form.name, parent);
     writeMinimum(g, w);
     writeMaximum(g, w);
     if (!isMdiChild(form)) writePosition(g, form);
@@ -116,9 +118,9 @@ void createDialogue(Generation& g, const Placed& w) {
     writeTitleText(g, form);
     if (isMdiChild(form)) {
         write(g, project.gridMode != 0 ? "      CALL DIAMDI(%s,%d,%d-1,%s)\n" : "      CALL DIAMDI(%s,%d-4,%d-24,%s)\n",
-              form.parentName, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.name);
+              parent, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.name);
     } else {
-        write(g, "      CALL DIACMP(%s,%d,%d,%s)\n", form.parentName, form.xpos, form.ypos, form.name);
+        write(g, "      CALL DIACMP(%s,%d,%d,%s)\n", parent, form.xpos, form.ypos, form.name);
     }
 }
 
@@ -136,7 +138,7 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
     }
 }
 
-void beginRoutine(Generation& g, WidgetNode& form) {
+void beginRoutine(Generation& g, const WidgetNode& form) {
     if (g.masterWritten) { // the form before is complete
         write(g, "      RETURN\n");
         write(g, "      END SUBROUTINE\n");
@@ -150,7 +152,7 @@ void beginRoutine(Generation& g, WidgetNode& form) {
 }
 
 void createForm(Generation& g, const Placed& w) {
-    WidgetNode& form = w.node;
+    const WidgetNode& form = w.node;
     beginRoutine(g, form);
     if (g.masterWritten) {
         createDialogue(g, w);
@@ -170,7 +172,6 @@ void createForm(Generation& g, const Placed& w) {
         write(g, "C create menu structure for %s\n", form.name);
         writeMenu(g, form);
     }
-    returnMasterName(g, form);
 }
 
 void createMainPanel(Generation& g, const Placed& w) {
@@ -195,7 +196,7 @@ void createMainPanel(Generation& g, const Placed& w) {
 void createToolButton(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     write(g, "      CALL ICOTYP(0)\n");
-    write(g, "      CALL TOLBUT(%s,1,'%s',%s)\n", w.parent, node.text, node.name);
+    write(g, "      CALL TOLBUT(%s,1,'%s',%s)\n", w.parent, fortranText(node.text), node.name);
     writeFont(g, w);
     write(g, "      CALL PRPSET(%s,25,%d,0.0D0,' ')\n", node.name, node.colour2);
     write(g, "      CALL PRPSET(%s,26,%d,0.0D0,' ')\n", node.name, node.colour1);
@@ -214,8 +215,8 @@ void createButton(Generation& g, const Placed& w) {
     if (node.size != 100) write(g, "      CALL BUTSIZ(%d)\n", node.size);
     write(g, "      CALL BUTTYP(%d)\n", node.subType);
     writePosition(g, node);
-    writeSplit(g, "      CALL BUTTON(%s,%d,%d,'%s',%d,%s)\n", w.parent, node.xpos, node.ypos, node.text, node.accel,
-               node.name);
+    writeSplit(g, "      CALL BUTTON(%s,%d,%d,'%s',%d,%s)\n", w.parent, node.xpos, node.ypos, fortranText(node.text),
+               node.accel, node.name);
     writeFont(g, w);
     writeHelp(g, node);
     resetMaximum(g);
@@ -230,7 +231,7 @@ void createToggle(Generation& g, const Placed& w) {
     write(g, "      CALL TOGATR(%d,%d,%d)\n", node.colour1, node.colour2, node.colour3);
     writePosition(g, node);
     writeSplit(g, "      CALL TOGGLE(%s,%d,%d,%d,'%s',%s)\n", w.parent, node.xpos, node.ypos, node.initialStatus,
-               node.text, node.name);
+               fortranText(node.text), node.name);
     write(g, "      CALL TOGACC(%s,%d)\n", node.name, node.accel);
     writeEnding(g, w);
 }
@@ -246,8 +247,8 @@ void createText(Generation& g, const Placed& w) {
     writePosition(g, node);
     writeEntryBorder(g, node);
     writeScroll(g, "0", node);
-    writeSplit(g, "      CALL TEXENT(%s,%d,%d,'%s ',%d,%d,%s)\n", w.parent, node.xpos, node.ypos, withBars(node.text),
-               node.fieldWidth, editable ? 0 : 1, node.name);
+    writeSplit(g, "      CALL TEXENT(%s,%d,%d,'%s ',%d,%d,%s)\n", w.parent, node.xpos, node.ypos,
+               withBars(fortranText(node.text)), node.fieldWidth, editable ? 0 : 1, node.name);
     writeHelp(g, node);
     if (editable) resetScroll(g);
     writeFont(g, w);
@@ -285,8 +286,8 @@ void createPlainIcon(Generation& g, const Placed& w) {
     writeIconType(g, node);
     writePosition(g, node);
     if (picture.kind == 4 && !node.text.empty()) {
-        writeSplit(g, "      CALL BUTICO(%s,%d,%d,'%s','%s',%s)\n", w.parent, node.xpos, node.ypos, node.text,
-                   picture.image, node.name);
+        writeSplit(g, "      CALL BUTICO(%s,%d,%d,'%s','%s',%s)\n", w.parent, node.xpos, node.ypos,
+                   fortranText(node.text), picture.image, node.name);
     } else {
         writeSplit(g, "      CALL ICODEF(%s,%d,%d,'%s',%d,%d,%s)\n", w.parent, node.xpos, node.ypos, picture.image,
                    picture.kind, node.iconId, node.name);
@@ -441,7 +442,7 @@ int dockSide(int initialPosition) {
 
 void createToolBar(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    write(g, "      CALL WIDSTR('%s')\n", node.text);
+    write(g, "      CALL WIDSTR('%s')\n", fortranText(node.text));
     if (node.titleFlag == 1) write(g, "      CALL REMMOD(2)\n");
     if (node.titleFlag == 2) write(g, "      CALL REMMOD(0)\n");
     write(g, "      CALL TOLBAR(%s,%d,%d,%s)\n", w.parent, dockSide(node.initialPosition), node.iconSize, node.name);
@@ -492,7 +493,7 @@ void createTtyEntry(Generation& g, const Placed& w) {
     write(g, "      CALL TEXTYP(0,%d)\n", node.sign);
     writePosition(g, node);
     writeSplit(g, "      CALL TTYENT(%s,%d,%d,%d,'%s',%s)\n", w.parent, node.xpos, node.ypos, node.size,
-               withBars(node.text), node.name);
+               withBars(fortranText(node.text)), node.name);
     writeEnding(g, w);
 }
 
@@ -578,20 +579,21 @@ void writeFetchIcon(Generation& g, std::string_view variable, std::string_view i
 void writeFixedTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryRec& entry, std::string_view parent) {
     const bool ownIcons = tree.subType == TREE_OWN_ICONS;
     if (!ownIcons || (entry.icon1.empty() && entry.icon2.empty() && entry.icon3.empty())) {
-        write(g, "      CALL TREENT(%s,1,'%s',%s)\n", parent, entry.label, entry.name);
+        write(g, "      CALL TREENT(%s,1,'%s',%s)\n", parent, fortranText(entry.label), entry.name);
         return;
     }
     if (!entry.icon1.empty()) writeFetchIcon(g, "icon1", entry.icon1);
     if (!entry.icon2.empty()) writeFetchIcon(g, "icon2", entry.icon2);
     if (!entry.icon3.empty()) writeFetchIcon(g, "icon3", entry.icon3);
-    writeSplit(g, "      CALL GUIESC(880,%s,1,icon1,icon2,icon3,0,%s,iret2,'%s')\n", parent, entry.name, entry.label);
+    writeSplit(g, "      CALL GUIESC(880,%s,1,icon1,icon2,icon3,0,%s,iret2,'%s')\n", parent, entry.name,
+               fortranText(entry.label));
 }
 
 void writeFixedListEntry(Generation& g, const WidgetNode& list, const ListEntryRec& entry) {
     if (entry.icon.empty()) {
-        writeSplit(g, "      CALL LISSET(%s,0,'%s',0)\n", list.name, entry.text);
+        writeSplit(g, "      CALL LISSET(%s,0,'%s',0)\n", list.name, fortranText(entry.text));
         return;
     }
     writeFetchIcon(g, "icon1", entry.icon);
-    writeSplit(g, "      CALL GUIESC(890,%s,0,0,icon1,0,0,iret1,iret2,'%s')\n", list.name, entry.text);
+    writeSplit(g, "      CALL GUIESC(890,%s,0,0,icon1,0,0,iret1,iret2,'%s')\n", list.name, fortranText(entry.text));
 }

@@ -2,6 +2,7 @@
 
 #include "codegen/fortran90.h"
 #include "codegen/generation.h"
+#include "codegen/quotes.h"
 
 #include "project/preferences.h"
 #include "project/tree.h"
@@ -15,31 +16,21 @@ namespace {
 // constant stands for its parent.
 constexpr std::string_view PARENT_CONSTANT = "Form1";
 
-// A name may be declared only once, in whatever case: in the module of a form that bears the constant's own name the
-// constant gets another one.
-std::string_view parentConstant(const WidgetNode& form) {
-    const bool taken =
-        std::equal(form.name.begin(), form.name.end(), PARENT_CONSTANT.begin(), PARENT_CONSTANT.end(),
-                   [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == std::tolower(b); });
-    return taken ? "Form1_Parent" : PARENT_CONSTANT;
-}
-
-void writeDynamicModule(Generation& g, WidgetNode& form) {
-    form.parentName = parentConstant(form);
+void writeDynamicModule(Generation& g, const WidgetNode& form) {
+    g.ownModules.insert(&form);
     write(g, "module %s_mod\n", form.name);
     write(g, "use menu_f90\n");
-    write(g, "integer,private :: %s = 1\n", form.parentName);
+    write(g, "integer,private :: %s = 1\n", parentConstant(form));
     writeIdentifiers(g, form);
     write(g, "contains\n");
     writeFormRoutine(g, form);
     write(g, "return\n");
     write(g, "end subroutine\n");
     write(g, "end module %s_mod\n\n", form.name);
-    form.parentName = PARENT_CONSTANT;
 }
 
-template <class Visit> void eachForm(bool dynamic, Visit visit) {
-    for (WidgetNode* form = project.forms; form != nullptr; form = form->next) {
+template <class Visit> void eachForm(const Generation& g, bool dynamic, Visit visit) {
+    for (const WidgetNode* form : g.forms) {
         if (isDynamic(*form) == dynamic) visit(*form);
     }
 }
@@ -48,24 +39,24 @@ void writeModule(Generation& g) {
     write(g, "%s Global Definitions\n", g.language.commentPrefix);
     write(g, "Module wdesign\n");
     write(g, "use menu_f90\n\n");
-    eachForm(true, [&](WidgetNode& form) { write(g, "use %s_mod\n", form.name); });
+    eachForm(g, true, [&](const WidgetNode& form) { write(g, "use %s_mod\n", form.name); });
     writeBlock(g, BLOCK_GLOBAL_DEFINITIONS);
     write(g, "\n! Widget identifier definitions\n");
     if (checksConfiguration()) {
         write(g, "character*256 :: %s\n", preferences.configDirExpr);
         write(g, "integer :: configstatus\n");
     }
-    eachForm(false, [&](WidgetNode& form) { writeIdentifiers(g, form); });
+    eachForm(g, false, [&](const WidgetNode& form) { writeIdentifiers(g, form); });
     write(g, "integer :: callid\n");
     write(g, "contains\n");
-    eachForm(false, [&](WidgetNode& form) {
+    eachForm(g, false, [&](const WidgetNode& form) {
         writeFormRoutine(g, form);
         write(g, "return\n");
         write(g, "end subroutine\n");
     });
     write(g, "%s GetMasterFormID Function\n", g.language.commentPrefix);
     write(g, "   Integer Function GetMasterFormID()\n");
-    write(g, "   GetMasterFormID = %s\n", project.forms->name);
+    write(g, "   GetMasterFormID = %s\n", g.forms.front()->name);
     write(g, "   end function\n");
     writeBlock(g, BLOCK_GLOBAL_ROUTINES);
     write(g, "End Module\n\n");
@@ -110,7 +101,7 @@ void writeGrid(Generation& g) {
 
 void writeProgramHead(Generation& g) {
     g.masterWritten = true;
-    eachForm(true, [&](WidgetNode& form) { writeDynamicModule(g, form); });
+    eachForm(g, true, [&](const WidgetNode& form) { writeDynamicModule(g, form); });
     g.masterWritten = false;
     writeModule(g);
     write(g, "use wdesign\n");
@@ -132,7 +123,7 @@ void writeProgramHead(Generation& g) {
     writeBlock(g, BLOCK_INITIALIZATION);
     write(g, "\n! Start management\n");
     write(g, "   call owManage\n");
-    if (const WidgetNode* active = findActiveOnInit(project.forms)) {
+    if (const WidgetNode* active = activeOnInit(g)) {
         write(g, "\n!   Set active widget\n");
         write(g, "   call owSetActiveWidget(%s)\n", active->name);
     }
@@ -172,7 +163,7 @@ void writePullDown(Generation& g, const MenuEntryRec& menu, std::string_view abo
 }
 
 void writeMenuEntry(Generation& g, const MenuEntryRec& entry, std::string_view owner) {
-    add(g, "   %s = owCreateMenuEntry(%s, '%s', owAccel=%d", entry.name, owner, entry.label, entry.accel);
+    add(g, "   %s = owCreateMenuEntry(%s, '%s', owAccel=%d", entry.name, owner, fortranText(entry.label), entry.accel);
     if (g.windows) {
         if (!entry.help.empty()) add(g, ", owHelp='%s'", entry.help);
         addIconResource(g, "owUncheckIcon", entry.icon1);
@@ -217,6 +208,15 @@ constexpr DispatchTexts DISPATCH = {
 };
 
 } // namespace
+
+// A name may be declared only once, in whatever case: in the module of a form that bears the constant's own name the
+// constant gets another one.
+std::string_view parentConstant(const WidgetNode& form) {
+    const bool taken =
+        std::equal(form.name.begin(), form.name.end(), PARENT_CONSTANT.begin(), PARENT_CONSTANT.end(),
+                   [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == std::tolower(b); });
+    return taken ? "Form1_Parent" : PARENT_CONSTANT;
+}
 
 const Language FORTRAN_90 = {
     .code = 90,

@@ -5,6 +5,9 @@
 
 extern const std::span<const CreationRow> FORTRAN_90_CREATION;
 
+// The constant of a dynamic form's module that stands for its parent.
+std::string_view parentConstant(const WidgetNode& form);
+
 // ", keyword=NAME" when the value has a name.
 template <class Table> void addNamed(Generation& g, std::string_view keyword, const Table& table, int value) {
     const std::string_view name = nameOf(table, value);

@@ -1,6 +1,7 @@
 // Forms in Fortran 90: the routine of each, its window with status bar and menu, its main panel.
 
 #include "codegen/fortran90.h"
+#include "codegen/quotes.h"
 
 namespace {
 
@@ -33,18 +34,18 @@ void beginMaster(Generation& g, const WidgetNode& form) {
 }
 
 // A child of an MDI master stands at its offset from the master, less what the master's frame takes.
-void beginDialogue(Generation& g, WidgetNode& form) {
-    borrowMasterName(form);
-    write(g, "\n! Set up complex dialogue box %s child of %s\n", form.name, form.parentName);
+void beginDialogue(Generation& g, const WidgetNode& form) {
+    const std::string_view parent = parentName(g, form);
+    write(g, "\n! Set up complex dialogue box %s child of %s\n", form.name, parent);
     if (isMdiChild(form)) {
         add(g,
             project.gridMode != 0 ? "   %s = owCreateMDIComplexDialogueBox(%s, %d, %d-1, %d, %d"
                                   : "   %s = owCreateMDIComplexDialogueBox(%s, %d-4, %d-24, %d, %d",
-            form.name, form.parentName, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.width,
+            form.name, parent, difference(form.xpos, g.masterX), difference(form.ypos, g.masterY), form.width,
             form.height);
     } else {
-        add(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d", form.name, form.parentName, form.xpos,
-            form.ypos, form.width, form.height);
+        add(g, "   %s = owCreateComplexDialogueBox(%s, %d, %d, %d, %d", form.name, parent, form.xpos, form.ypos,
+            form.width, form.height);
     }
 }
 
@@ -66,7 +67,7 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
 } // namespace
 
 void createFreeForm(Generation& g, const Placed& w) {
-    WidgetNode& form = w.node;
+    const WidgetNode& form = w.node;
     const std::uint64_t types = typesBelow(form);
     write(g, "subroutine Generate%s\n", form.name);
     if (holdsType(types, TYPE_SLIDER)) write(g, "type (OWIDGET) :: Slider_attribs\n");
@@ -81,7 +82,7 @@ void createFreeForm(Generation& g, const Placed& w) {
         beginMaster(g, form);
     }
     addTitle(g, form);
-    add(g, ", '%s'", form.text);
+    add(g, ", '%s'", fortranText(form.text));
     if (!isMdiChild(form)) addPosition(g, form);
     if (g.masterWritten) addNamed(g, "owQuitMode", QUIT_MODE, form.quitMode);
     if (form.formType == FORM_MASTER_MDI && form.child != nullptr) addBackgroundImage(g, *form.child);
@@ -96,7 +97,6 @@ void createFreeForm(Generation& g, const Placed& w) {
         write(g, "\n! Create menu structure for %s\n", form.name);
         writeMenu(g, form);
     }
-    returnMasterName(g, form);
 }
 
 void createFreeMainPanel(Generation& g, const Placed& w) {

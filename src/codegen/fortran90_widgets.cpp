@@ -77,7 +77,7 @@ void writeFont(Generation& g, const Placed& w) {
 
 void createToolButton(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    add(g, "   %s = owCreateToolBarButton(%s, OTEXTBUTTON, '%s'", node.name, w.parent, node.text);
+    add(g, "   %s = owCreateToolBarButton(%s, OTEXTBUTTON, '%s'", node.name, w.parent, fortranText(node.text));
     addSwitch(g, "owDragMode", node.dragMode == 1);
     addHelp(g, node);
     addTab(g, node);
@@ -91,7 +91,7 @@ void createButton(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     if (node.onToolbar == 1) return createToolButton(g, w);
     beginCreation(g, w, "owCreatePushButton");
-    add(g, ", '%s'", node.text);
+    add(g, ", '%s'", fortranText(node.text));
     addNamed(g, "owType", BUTTON_TYPE, node.subType);
     addNamed(g, "owJustify", LEFT_RIGHT, node.justify);
     addSwitch(g, "owDragMode", node.dragMode == 1);
@@ -108,7 +108,7 @@ void createButton(Generation& g, const Placed& w) {
 void createToggle(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateToggleButton");
-    add(g, ", '%s', %d", node.text, node.initialStatus);
+    add(g, ", '%s', %d", fortranText(node.text), node.initialStatus);
     add(g, ", owType=%s", nameOf(TOGGLE_TYPE, node.subType, "OBEVELSQUARE"));
     addNumber(g, "owSize", node.size, 100);
     addNumber(g, "owAccel", node.accel, 0);
@@ -132,7 +132,7 @@ void createText(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool editable = node.type == TYPE_TEXT_ENTRY;
     beginCreation(g, w, "owCreateTextEntry");
-    add(g, ",'%s '", withBars(node.text));
+    add(g, ",'%s '", withBars(fortranText(node.text)));
     add(g, ", %d, %s", node.fieldWidth, editable ? "OEDIT" : "ODISPLAY");
     addNamed(g, "owEntryType", ENTRY_TYPE, node.subType);
     addNumber(g, "owSize", node.size, 100);
@@ -191,7 +191,7 @@ void beginIcon(Generation& g, const Placed& w) {
     addNamed(g, "owType", ICON_TYPE, node.subType);
     addSwitch(g, "owDragMode", node.dragMode == 1);
     addNumber(g, "owSize", node.size, 100);
-    if (!node.text.empty()) add(g, ", owLabel='%s'", node.text);
+    if (!node.text.empty()) add(g, ", owLabel='%s'", fortranText(node.text));
     addPosition(g, node);
 }
 
@@ -265,7 +265,7 @@ void createSlider(Generation& g, const Placed& w) {
 void createPanel(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreatePanel");
-    if (node.titleFlag != 0 && node.scrollMode == -1) add(g, ", owTitle='%s'", node.text);
+    if (node.titleFlag != 0 && node.scrollMode == -1) add(g, ", owTitle='%s'", fortranText(node.text));
     addBoundary(g, "owType", node.subType);
     addBorder(g, node);
     addBackgroundImage(g, node);
@@ -284,7 +284,7 @@ void createRadioBox(Generation& g, const Placed& w) {
     add(g, ", owType=OFREEFORM");
     addBoundary(g, "owBorderType", node.borderType);
     addBorder(g, node);
-    if (node.titleFlag != 0) add(g, ", owTitle='%s'", node.text);
+    if (node.titleFlag != 0) add(g, ", owTitle='%s'", fortranText(node.text));
     addPosition(g, node);
     addHelp(g, node);
     endStatement(g);
@@ -302,7 +302,7 @@ void createGraphicsFrame(Generation& g, const Placed& w) {
     endStatement(g);
 }
 
-void writeCells(Generation& g, WidgetNode& node) {
+void writeCells(Generation& g, const WidgetNode& node) {
     add(g, "   call owEnqCellAttribs(%s, 1, 1, arrayattribs)\n", node.name);
     writeStatementSplit(g);
     for (const CellSize& cell : cellSizes(node)) {
@@ -347,7 +347,7 @@ void createArray(Generation& g, const Placed& w) {
 void endDocked(Generation& g, const WidgetNode& node) {
     addNamed(g, "owQuitMode", QUIT_MODE, node.quitMode);
     const std::string_view title = nameOf(DOCK_TITLE, node.titleFlag);
-    if (!title.empty()) add(g, ", owTitleFlag=%s, owTitle='%s'", title, node.text);
+    if (!title.empty()) add(g, ", owTitleFlag=%s, owTitle='%s'", title, fortranText(node.text));
     endStatement(g);
 }
 
@@ -416,7 +416,7 @@ void createProgressBar(Generation& g, const Placed& w) {
 void createTtyEntry(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateTTYEntry");
-    add(g, ", %d,'%s '", node.size, withBars(node.text));
+    add(g, ", %d,'%s '", node.size, withBars(fortranText(node.text)));
     if (!node.icon.empty()) add(g, ", owPrompt='%s'", node.icon);
     addSwitch(g, "owReadOnly", node.readOnly == 1);
     addColours(g, node);
@@ -509,7 +509,7 @@ void addIconResource(Generation& g, std::string_view keyword, std::string_view i
 
 // Only a tree whose icons are the user's own takes them from its entries.
 void writeFreeTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryRec& entry, std::string_view parent) {
-    add(g, "   %s = owCreateTreeEntry(%s, OLASTCHILD, '%s'", entry.name, parent, entry.label);
+    add(g, "   %s = owCreateTreeEntry(%s, OLASTCHILD, '%s'", entry.name, parent, fortranText(entry.label));
     if (tree.subType == TREE_OWN_ICONS) {
         addIconResource(g, "owIcon", entry.icon1);
         addIconResource(g, "owCloseIcon", entry.icon2);
@@ -519,7 +519,7 @@ void writeFreeTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryRe
 }
 
 void writeFreeListEntry(Generation& g, const WidgetNode& list, const ListEntryRec& entry) {
-    add(g, "   call owSetListEntry(%s, OADD, owString='%s'", list.name, entry.text);
+    add(g, "   call owSetListEntry(%s, OADD, owString='%s'", list.name, fortranText(entry.text));
     if (!entry.icon.empty()) add(g, ",owIcon=owGetIconResource('%s')", iconResourceName(entry.icon));
     endStatement(g);
 }

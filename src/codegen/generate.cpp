@@ -4,7 +4,6 @@
 #include "codegen/generate.h"
 
 #include "codegen/generation.h"
-#include "codegen/quotes.h"
 #include "codegen/resources.h"
 
 #include "platform/paths.h"
@@ -48,17 +47,19 @@ bool mayBeMaster(const WidgetNode& form) {
     return !isDynamic(form) && !isMdiChild(form) && form.formType != FORM_STATIC_SDI;
 }
 
-// The form that is to stand first in the chain; the other forms keep their order. Null when none may.
+// The form that stands first in the source; the other forms keep their order. Null when none may.
 WidgetNode* findMaster() {
     WidgetNode* form = project.forms;
     while (form != nullptr && !mayBeMaster(*form)) form = form->next;
     return form;
 }
 
-void noteOpenedForms(Generation& g) {
+void noteForms(Generation& g, const WidgetNode* master) {
+    g.forms.push_back(master);
     for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) {
-        g.formsByParent[form->parentName].push_back(form);
+        if (form != master) g.forms.push_back(form);
     }
+    for (const WidgetNode* form : g.forms) g.formsByParent[form->parentName].push_back(form);
 }
 
 bool anyWindowCallback() {
@@ -101,25 +102,22 @@ const PastedCode* pastedCodeAt(const GeneratedText& generated, int line) {
 bool generateText(const std::string& path, GeneratedText& generated, const TextSink& sink) {
     generated.text.clear();
     generated.map.clear();
-    WidgetNode* master = findMaster();
+    const WidgetNode* master = findMaster();
     if (master == nullptr) return false;
-    if (master != project.forms) moveFormToHead(master);
 
     const Language& language = languageOf(project.projectLanguage);
-    SavedStrings saved = escapeQuotes(project.forms, language.code);
     Generation g{
         .language = language, .out = generated.text, .sink = sink, .map = generated.map, .base = basePath(path)};
     g.windows = project.projectPlatform == 'w';
     g.windowCallbacks = anyWindowCallback();
     for (const CreationRow& row : language.creation)
         g.creation[static_cast<std::size_t>(row.type - TYPE_FORM)] = row.write;
-    noteOpenedForms(g);
+    noteForms(g, master);
     writeProgram(g);
     if (sink) {
         sink(g.out);
         g.out.clear();
     }
-    restoreQuotes(saved);
     return true;
 }
 
@@ -143,6 +141,22 @@ bool chooseSourceFile() {
 
 namespace {
 
+// Sizes that the user has dragged on live arrays come into the records.
+void storeArraySizes() {
+    for (WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
+        if (node->type == TYPE_TEXT_ARRAY || node->type == TYPE_VALUE_ARRAY || node->type == TYPE_TABLE_BOX)
+            host.storeArrayGeometry(*node);
+    }
+}
+
+// What a source that is complete leaves in the project.
+void markGenerated(const std::string& fileName) {
+    moveFormToHead(findMaster());
+    if (project.projectTitle.empty()) project.projectTitle = withoutExtension(fileName);
+    project.sourceStale = 0;
+    project.exeTime = 0;
+}
+
 bool reportUnwritable() {
     host.errorBox("Error during save",
                   "File to save code to could not be created or opened.|Make sure the file is not open "
@@ -156,6 +170,7 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
     SafeFile file;
     if (!openSafeFile(file, path)) return reportUnwritable();
     host.busyCursor(true);
+    storeArraySizes();
     const TextSink toFile = [&](std::string_view piece) { writeSafeFile(file, piece.data(), piece.size()); };
     GeneratedText own;
     const bool made = generated != nullptr ? generateText(path, *generated) : generateText(path, own, toFile);
@@ -170,9 +185,7 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
     if (generated != nullptr) toFile(generated->text);
     const bool written = commitSafeFile(file);
     if (written) {
-        if (project.projectTitle.empty()) project.projectTitle = withoutExtension(fileName);
-        project.sourceStale = 0;
-        project.exeTime = 0;
+        markGenerated(fileName);
         const std::string base = basePath(path);
         if (!writeManifest(base, project.projectTitle)) reportUnwritable();
         if (!writeResourceScript(base)) reportUnwritable();

@@ -52,17 +52,16 @@ std::string basePath(std::string_view path);
 using TextSink = std::function<void(std::string_view piece)>;
 
 // The whole source text, for a source file that will stand at `path`; with a sink it goes there instead, and
-// generated.text stays empty. Puts the master form first in the chain and leaves dynamic forms of Fortran 90 with the
-// parent name "Form1"; touches no file. False when the project has no master form: then there is no text and nothing
-// was changed.
+// generated.text stays empty. Reads the project and changes nothing in it; touches no file. False when the project has
+// no master form: then there is no text.
 bool generateText(const std::string& path, GeneratedText& generated, const TextSink& sink = {});
 
 // Asks for the source file with host.fileDialogue, starting from sourceDir and sourceName, and asks before one is
 // overwritten. True when one was chosen; on cancelling both names are as before.
 bool chooseSourceFile();
 
-// Writes the source to `path`, the manifest and the resource script, and clears sourceStale and exeTime. `fileName`
-// gives the project its title when it has none. An existing source is replaced only once the new text is complete.
-// On failure an error box has told the user, sourceStale keeps its value and the result is false. The caller sets the
-// title of its window. With `generated` it hands back the text with its map.
+// Writes the source to `path`, the manifest and the resource script, puts the master form first in the chain and clears
+// sourceStale and exeTime. `fileName` gives the project its title when it has none. An existing source is replaced only
+// once the new text is complete. On failure an error box has told the user, sourceStale keeps its value and the result
+// is false. The caller sets the title of its window. With `generated` it hands back the text with its map.
 bool generateSource(const std::string& path, const std::string& fileName, GeneratedText* generated = nullptr);

@@ -13,14 +13,15 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 struct Generation;
 
 // A widget with what its place in the tree says about it.
 struct Placed {
-    WidgetNode& node;
-    WidgetNode& form;
+    const WidgetNode& node;
+    const WidgetNode& form;
     std::string_view parent; // name of the parent that its creation names
     int width;               // of the creation call, by the sizing rule of its type
     int height;
@@ -105,19 +106,19 @@ struct Generation {
     bool masterWritten = false; // from then on a form is a dialogue box
     bool branchOpen = false;    // the dispatch has its first branch
     bool branchUnended = false; // the last branch still waits for its end
-    int masterX = 0;            // place of the master, once it is written
+    int masterX = 0;            // place and name of the master, once it is written
     int masterY = 0;
-    bool windowCallbacks = false;   // some widget has code in a window slot
-    std::string statement{};        // being put together, to be split
-    std::size_t linesCountedTo = 0; // place in `out` up to which...
-    int linesCounted = 0;           // ...line ends are counted
-    // The forms that each menu entry opens, in chain order, by the parent name they had at the start.
-    std::unordered_map<std::string, std::vector<const WidgetNode*>> formsByParent{};
+    std::string_view masterName{};
+    bool windowCallbacks = false;           // some widget has code in a window slot
+    std::string statement{};                // being put together, to be split
+    std::size_t linesCountedTo = 0;         // place in `out` up to which...
+    int linesCounted = 0;                   // ...line ends are counted
+    std::vector<const WidgetNode*> forms{}; // in walking order: the master first
+    // The forms that each menu entry opens, in chain order, by the name of their parent.
+    std::unordered_map<std::string_view, std::vector<const WidgetNode*>> formsByParent{};
+    std::unordered_set<const WidgetNode*> ownModules{};               // forms written as modules of their own so far
     std::array<CreationWriter, TYPE_PANE - TYPE_FORM + 1> creation{}; // by type
 };
-
-// Name of the master form written last; outlives a generation.
-extern std::string masterName;
 
 // --- Writing. A format's places are filled as in text.h.
 
@@ -169,7 +170,7 @@ Picture toolPicture(const WidgetNode& icon);
 
 void writeHeader(Generation& g);
 void writeIdentifiers(Generation& g, const WidgetNode& form);
-void writeFormRoutine(Generation& g, WidgetNode& form); // with all below it, in pre-order
+void writeFormRoutine(Generation& g, const WidgetNode& form); // with all below it, in pre-order
 void writeUserColours(Generation& g);
 void writeGenerateCalls(Generation& g);
 void writeDispatch(Generation& g);
@@ -177,10 +178,10 @@ void writeMenu(Generation& g, const WidgetNode& form);
 void writeListEntries(Generation& g, const WidgetNode& list, std::string_view comment);
 void writeTreeEntries(Generation& g, const WidgetNode& tree);
 
-// Parent name of a dialogue while it is written: the master's for one that names none; and back again.
-void borrowMasterName(WidgetNode& form);
-void returnMasterName(const Generation& g, WidgetNode& form);
+// What the source calls the parent of a dialogue: the master where the record names none.
+std::string_view parentName(const Generation& g, const WidgetNode& form);
 void rememberMaster(Generation& g, const WidgetNode& form);
+const WidgetNode* activeOnInit(const Generation& g); // the widget that has the input at the start; null for none
 
 // Sizes of an array's cells: one item for all when they agree, else one for each column and row in step.
 struct CellSize {
@@ -190,7 +191,7 @@ struct CellSize {
     int height;
     bool changed; // differs from the item before
 };
-std::vector<CellSize> cellSizes(WidgetNode& array);
+std::vector<CellSize> cellSizes(const WidgetNode& array);
 
 // Columns of a table box. The label is absent once the labels have run out.
 struct TableColumn {
@@ -199,4 +200,4 @@ struct TableColumn {
     bool labelled;
     std::string_view label;
 };
-std::vector<TableColumn> tableColumns(WidgetNode& table);
+std::vector<TableColumn> tableColumns(const WidgetNode& table);

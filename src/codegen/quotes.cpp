@@ -7,84 +7,41 @@
 
 namespace {
 
-constexpr std::size_t ESCAPED_LIMIT = 32767; // characters of `text` once escaped
+constexpr std::size_t QUOTED_LIMIT = 32767; // characters between the quotes
 
-bool isC(int language) { return language == 99; }
-char quoteOf(int language) { return isC(language) ? '"' : '\''; }
-
-bool endsString(std::string_view text, std::size_t at, int language) {
-    return text[at] == quoteOf(language) && !(isC(language) && at > 0 && text[at - 1] == '\\');
+// Cut to the limit, but never behind half of a pair: that would end the string, or take its end away.
+void cutDoubled(std::string& text, char first) {
+    if (text.size() <= QUOTED_LIMIT) return;
+    std::size_t run = 0; // of `first` up to the cut
+    while (run < QUOTED_LIMIT && text[QUOTED_LIMIT - 1 - run] == first) ++run;
+    text.resize(QUOTED_LIMIT - run % 2);
 }
-
-std::string escaped(std::string_view text, int quotes, int language) {
-    std::string result;
-    result.reserve(text.size() + static_cast<std::size_t>(quotes));
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (endsString(text, i, language)) result += isC(language) ? '\\' : '\'';
-        result += text[i];
-    }
-    return result;
-}
-
-// Cut to the limit of a text, but never between a quote and what escapes it: half a pair would end the string.
-void cutEscaped(std::string& text, int language) {
-    if (text.size() <= ESCAPED_LIMIT) return;
-    std::size_t end = ESCAPED_LIMIT;
-    if (isC(language)) {
-        if (text[end] == '"' && text[end - 1] == '\\') --end;
-    } else {
-        const auto run =
-            std::find_if(text.rend() - static_cast<std::ptrdiff_t>(end), text.rend(), [](char c) { return c != '\''; });
-        if ((run - (text.rend() - static_cast<std::ptrdiff_t>(end))) % 2 != 0) --end;
-    }
-    text.resize(end);
-}
-
-struct Escaper {
-    int language;
-    SavedStrings saved;
-
-    bool rewrite(std::string& string) {
-        const int quotes = countQuotes(string, language);
-        if (quotes == 0) return false;
-        std::string before = escaped(string, quotes, language);
-        std::swap(before, string);
-        saved.emplace_back(&string, std::move(before));
-        return true;
-    }
-};
 
 } // namespace
 
-int countQuotes(std::string_view text, int language) {
-    int quotes = 0;
-    for (std::size_t at = text.find(quoteOf(language)); at != std::string_view::npos;
-         at = text.find(quoteOf(language), at + 1)) {
-        if (endsString(text, at, language)) ++quotes;
+std::string fortranText(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (const char c : text) {
+        if (c == '\'') result += '\'';
+        result += c;
     }
-    return quotes;
+    cutDoubled(result, '\'');
+    return result;
 }
 
-SavedStrings escapeQuotes(WidgetNode* forms, int language) {
-    Escaper escaper{language, {}};
-    for (WidgetNode* node = forms; node != nullptr; node = walkList(node, forms)) {
-        escaper.rewrite(node->name);
-        if (escaper.rewrite(node->text)) cutEscaped(node->text, language);
-        escaper.rewrite(node->parentName);
-        for (MenuEntryRec* entry = node->entries; entry != nullptr; entry = entry->next) {
-            escaper.rewrite(entry->name);
-            escaper.rewrite(entry->label);
-        }
-        for (ListEntryRec* entry = node->listEntries; entry != nullptr; entry = entry->next) {
-            escaper.rewrite(entry->text);
-        }
+// A backslash takes the next character with it, so the quote behind a pair of them still ends the string.
+std::string cText(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    bool taken = false;
+    for (const char c : text) {
+        if (c == '"' && !taken) result += '\\';
+        result += c;
+        taken = c == '\\' && !taken;
     }
-    return std::move(escaper.saved);
-}
-
-void restoreQuotes(SavedStrings& saved) {
-    for (auto& [string, before] : saved) *string = std::move(before);
-    saved.clear();
+    cutDoubled(result, '\\');
+    return result;
 }
 
 // A line feed alone becomes a bar too: no language lets a string run over it.

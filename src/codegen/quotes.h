@@ -1,24 +1,14 @@
-// Stored strings as they stand between quotes in a source: quotes, backslashes, line ends, names of image resources.
+// Stored texts as they stand between quotes in a source: quotes, backslashes, line ends, names of image resources.
 #pragma once
-
-#include "project/records.h"
 
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
-// The quote characters that would end a string: all of them in Fortran; in C those with no backslash ahead.
-int countQuotes(std::string_view text, int language);
+// A text between the quotes of Fortran: every apostrophe doubled. At most 32767 characters.
+std::string fortranText(std::string_view text);
 
-// The strings that escapeQuotes has rewritten, with what they held before.
-using SavedStrings = std::vector<std::pair<std::string*, std::string>>;
-
-// Rewrites name, text and parentName of every record of the chain and below, name and label of its menu and tree
-// entries and the texts of its list entries so that they can stand between quotes. Only strings that hold a quote
-// change, and restoreQuotes undoes it.
-SavedStrings escapeQuotes(WidgetNode* forms, int language);
-void restoreQuotes(SavedStrings& saved);
+// A text between the quotes of C: a backslash ahead of every quote that has none. At most 32767 characters.
+std::string cText(std::string_view text);
 
 // Line ends of a text that runs over several lines as bars. A carriage return alone, which is left where a field's
 // width cut the text between the two halves of a line end, stays in Fortran. In C a line ends at it, so it becomes a
@@ -29,8 +19,8 @@ std::string withBarsForC(std::string_view text);
 // Every backslash that stands alone doubled; a pair stays a pair.
 std::string doubledBackslashes(std::string_view path);
 
-// The text of a C text widget: a backslash that no other one follows is doubled, except where the one ahead of a quote
-// already keeps the quote inside the string.
+// What cText makes of the text of a C text widget, with its backslashes: one that no other one follows is doubled,
+// except where the one ahead of a quote already keeps the quote inside the string.
 std::string doubledTextBackslashes(std::string_view text);
 
 // The name of an image among the program's resources: the file name without folder and extension, blanks turned into

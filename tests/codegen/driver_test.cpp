@@ -121,16 +121,38 @@ TEST_F(Driver, TheMasterStandsFirstFromThenOn) {
     std::string order;
     for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) order += form->name;
     EXPECT_EQ(order, "MABC");
-    // Forms without a parent of their own get their "NONE" back; the dynamic form keeps what stands for its parent.
+    // The names that the source gives to parents stay out of the records.
     EXPECT_EQ(findForm(project.forms, "A")->parentName, "NONE");
-    EXPECT_EQ(findForm(project.forms, "B")->parentName, "Form1");
-    EXPECT_EQ(findForm(project.forms, "C")->parentName, "NONE");
+    EXPECT_EQ(findForm(project.forms, "B")->parentName, "NONE");
+    EXPECT_EQ(findForm(project.forms, "C")->parentName, "M");
     const std::string first = contents(path("prog.f90"));
     generate();
     EXPECT_EQ(contents(path("prog.f90")).substr(first.find("module")), first.substr(first.find("module")));
-    EXPECT_EQ(findForm(project.forms, "B")->parentName, "Form1");
     WidgetNode* last = newForm();
     EXPECT_EQ(findForm(project.forms, "C")->next, last);
+}
+
+// Text alone is put together without a trace: order, parents and names stay, and sizes are those of the records.
+TEST_F(Driver, TextIsMadeWithoutTouchingTheProject) {
+    for (const int language : {77, 90, 99}) {
+        project.projectLanguage = language;
+        readProjectScript("2001 A\n.formType 0\n.text it's \"a\"\n2001 B\n.formType 4\n.parentName E\n2001 M\n"
+                          "+ 1001 0 Bar\n+ 1003 0 E ; it's \"e\"\n  2002\n    2022 T\n    columns 10 20\n    rows 5\n");
+        project.forms->next->next->formType = FORM_MASTER_SDI;
+        host.storeArrayGeometry = [](WidgetNode& node) { node.columnWidths.assign(node.columnWidths.size(), 99); };
+        GeneratedText first;
+        ASSERT_TRUE(generateText("prog", first));
+        EXPECT_EQ(project.forms->name, "A");
+        EXPECT_EQ(project.forms->text, "it's \"a\"");
+        EXPECT_EQ(project.forms->next->parentName, "E");
+        EXPECT_EQ(findName(project.forms, "M", false)->entries->next->label, "it's \"e\"");
+        EXPECT_EQ(findName(project.forms, "T", false)->columnWidths, (std::vector<int>{10, 20}));
+        GeneratedText second;
+        ASSERT_TRUE(generateText("prog", second));
+        EXPECT_EQ(second.text.substr(second.text.find("Using")), first.text.substr(first.text.find("Using")));
+        generate(); // a program on the disk shows the sizes of the screen
+        EXPECT_EQ(findName(project.forms, "T", false)->columnWidths, (std::vector<int>{99, 99}));
+    }
 }
 
 TEST_F(Driver, ChoosesTheSourceFile) {

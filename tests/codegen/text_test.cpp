@@ -1,7 +1,7 @@
 #include "codegen/quotes.h"
 #include "codegen/text.h"
 
-#include "project/tree.h"
+#include "project/records.h"
 
 #include <gtest/gtest.h>
 
@@ -54,54 +54,36 @@ TEST(Format, FillsPlacesInTurnAndTakesValuesAsTheyAre) {
     EXPECT_EQ(text, "100% sure%%d= 9,123,4,-5");
 }
 
-TEST(Quotes, AreCountedByTheLanguagesRule) {
-    EXPECT_EQ(countQuotes("it's ''", 90), 3);
-    EXPECT_EQ(countQuotes("\"a\" \\\" '", 99), 2);
-}
-
-TEST(Quotes, AreEscapedForTheSourceAndRestored) {
+TEST(Quotes, AreWrittenSoThatTheStringGoesOn) {
     struct Case {
         const char* stored;
-        int language;
-        const char* written;
+        const char* fortran;
+        const char* c;
     };
-    const Case cases[] = {{"it's", 90, "it''s"},     {"it's", 77, "it''s"}, {"say \"x\"", 99, "say \\\"x\\\""},
-                          {"\\\"", 99, "\\\""},      {"it's", 99, "it's"},  {"\"", 90, "\""},
-                          {"C:\\dir", 99, "C:\\dir"}};
+    const Case cases[] = {
+        {"it's", "it''s", "it's"},
+        {"say \"x\"", "say \"x\"", "say \\\"x\\\""},
+        {"\\\"", "\\\"", "\\\""},               // a quote that has its backslash
+        {"a\\\\\"b", "a\\\\\"b", "a\\\\\\\"b"}, // the backslash ahead of the quote belongs to the one ahead of it
+        {"C:\\dir", "C:\\dir", "C:\\dir"},
+        {"", "", ""},
+    };
     for (const Case& c : cases) {
-        resetProject();
-        WidgetNode* form = newForm();
-        form->text = c.stored;
-        form->listEntries = new ListEntryRec{c.stored, c.stored, nullptr};
-        form->entries = new MenuEntryRec;
-        form->entries->label = c.stored;
-        form->entries->help = c.stored;
-        form->bubbleHelp = c.stored;
-        SavedStrings saved = escapeQuotes(project.forms, c.language);
-        EXPECT_EQ(form->text, c.written);
-        EXPECT_EQ(form->listEntries->text, c.written);
-        EXPECT_EQ(form->entries->label, c.written);
-        EXPECT_EQ(form->listEntries->icon, c.stored);
-        EXPECT_EQ(form->entries->help, c.stored);
-        EXPECT_EQ(form->bubbleHelp, c.stored);
-        restoreQuotes(saved);
-        EXPECT_EQ(form->text, c.stored);
-        EXPECT_EQ(form->listEntries->text, c.stored);
-        EXPECT_EQ(form->entries->label, c.stored);
+        EXPECT_EQ(fortranText(c.stored), c.fortran);
+        EXPECT_EQ(cText(c.stored), c.c);
     }
 }
 
-TEST(Quotes, EscapedTextKeepsItsLimitAndNoHalfPair) {
+TEST(Quotes, ALongTextKeepsItsLimitAndNoHalfPair) {
     for (const std::size_t before : {32766U, 32765U, 30000U}) {
-        resetProject();
-        WidgetNode* form = newForm();
-        form->text = std::string(before, 'x') + std::string(TEXT_LIMIT - before, '\'');
-        SavedStrings saved = escapeQuotes(project.forms, 90);
-        EXPECT_LE(form->text.size(), 32767U);
-        EXPECT_GE(form->text.size(), 32766U);
-        EXPECT_EQ((form->text.size() - before) % 2, 0U);
-        restoreQuotes(saved);
-        EXPECT_EQ(form->text.size(), static_cast<std::size_t>(TEXT_LIMIT));
+        const std::string head(before, 'x');
+        const std::string fortran = fortranText(head + std::string(TEXT_LIMIT - before, '\''));
+        const std::string c = cText(head + std::string(TEXT_LIMIT - before, '"'));
+        for (const std::string& text : {fortran, c}) {
+            EXPECT_LE(text.size(), 32767U);
+            EXPECT_GE(text.size(), 32766U);
+            EXPECT_EQ((text.size() - before) % 2, 0U);
+        }
     }
 }
 
