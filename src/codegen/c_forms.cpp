@@ -55,7 +55,8 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
     }
     write(g, "   %s=owCreateStatusBar(%s, owPanes,%d,owSizes,ISTBAR,0);\n", bar.name, form.name, bar.panes);
     for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
-        write(g, "   owSetStatusBarText(%s,%d,\"%s\" );\n", bar.name, pane, bar.texts[static_cast<std::size_t>(pane)]);
+        write(g, "   owSetStatusBarText(%s,%d,\"%s\" );\n", bar.name, pane,
+              cText(bar.texts[static_cast<std::size_t>(pane)]));
     }
 }
 

@@ -140,7 +140,7 @@ void writePullDown(Generation& g, const MenuEntryRec& menu, std::string_view abo
 void writeMenuEntry(Generation& g, const MenuEntryRec& entry, std::string_view owner) {
     write(g, "   %s = owCreateMenuEntry(%s, \"%s\", owAccel,%d", entry.name, owner, cText(entry.label), entry.accel);
     if (g.windows) {
-        if (!entry.help.empty()) write(g, ",owHelp,\"%s\"", entry.help);
+        if (!entry.help.empty()) write(g, ",owHelp,\"%s\"", cText(entry.help));
         writeIconResource(g, "owUncheckIcon", entry.icon1);
         writeIconResource(g, "owCheckIcon", entry.icon2);
         writeIconResource(g, "owGreyIcon", entry.icon3);

@@ -26,7 +26,7 @@ void writeHelpSide(Generation& g, const WidgetNode& node) {
 void writeHelp(Generation& g, const WidgetNode& node) {
     if (!node.bubbleHelp.empty()) {
         write(g, CONTINUATION);
-        write(g, ",owHelp,\"%s\"", node.bubbleHelp);
+        write(g, ",owHelp,\"%s\"", cText(node.bubbleHelp));
     }
     writeHelpSide(g, node);
     if (!nameOf(HELP_SIDE, node.helpJustify).empty()) write(g, "\n");
@@ -63,7 +63,7 @@ void writeCharacterSet(Generation& g, const WidgetNode& node) {
 }
 
 void writeTextFont(Generation& g, const WidgetNode& node) {
-    if (!hasStandardFace(node)) write(g, ", owFontFace,\"%s\", owPointSize,%d", node.fontFace, node.pointSize);
+    if (!hasStandardFace(node)) write(g, ", owFontFace,\"%s\", owPointSize,%d", cText(node.fontFace), node.pointSize);
     writeSwitch(g, "owBold", node.bold != 0);
     writeSwitch(g, "owItalic", node.italic != 0);
     writeSwitch(g, "owUnderline", node.underline != 0);
@@ -72,7 +72,7 @@ void writeTextFont(Generation& g, const WidgetNode& node) {
 }
 
 void writeOtherFont(Generation& g, const WidgetNode& node) {
-    if (!hasStandardFace(node)) write(g, " ,owFontFace,\"%s\" ,owPointSize,%d", node.fontFace, node.pointSize);
+    if (!hasStandardFace(node)) write(g, " ,owFontFace,\"%s\" ,owPointSize,%d", cText(node.fontFace), node.pointSize);
     const auto writeStyle = [&](std::string_view keyword, int style) {
         if (style != 0) write(g, " ,%s,%d", keyword, style);
     };
@@ -99,7 +99,7 @@ void writeFont(Generation& g, const Placed& w) {
 // Tool bar buttons and icons have their help inside the statement and are closed alike.
 void endToolButton(Generation& g, const WidgetNode& node) {
     writeSwitch(g, "owDragMode", node.dragMode == 1);
-    if (!node.bubbleHelp.empty()) write(g, ", owHelp,\"%s\"", node.bubbleHelp);
+    if (!node.bubbleHelp.empty()) write(g, ", owHelp,\"%s\"", cText(node.bubbleHelp));
     writeHelpSide(g, node);
     writeTab(g, node);
     write(g, ", 0);\n");
@@ -155,8 +155,7 @@ void createText(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool editable = node.type == TYPE_TEXT_ENTRY;
     add(g, "   %s = owCreateTextEntry(%s, %d, %d, %d, %d,\"%s \", %d, %s\n", node.name, w.parent, node.xpos, node.ypos,
-        w.width, w.height, doubledTextBackslashes(withBarsForC(cText(node.text))), node.fieldWidth,
-        editable ? "OEDIT" : "ODISPLAY");
+        w.width, w.height, cFieldText(fieldText(node)), node.fieldWidth, editable ? "OEDIT" : "ODISPLAY");
     writeStatementSplit(g);
     writeHelp(g, node);
     write(g, CONTINUATION);
@@ -368,7 +367,7 @@ void createArray(Generation& g, const Placed& w) {
     write(g, ", %d, %d\n", node.columns, node.rows);
     writeHelp(g, node);
     write(g, CONTINUATION);
-    write(g, ", owXtext,\"%s\", owYtext,\"%s\"\n", node.xLabels, node.yLabels);
+    write(g, ", owXtext,\"%s\", owYtext,\"%s\"\n", cText(node.xLabels), cText(node.yLabels));
     write(g, CONTINUATION);
     write(g, ", owAxisW,%d", node.yLabelsWidth);
     write(g, ", owAxisH,%d", node.xLabelsHeight);
@@ -455,10 +454,10 @@ void createProgressBar(Generation& g, const Placed& w) {
 void createTtyEntry(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateTTYEntry");
-    write(g, ", %d,\"%s \"\n", node.size, withBarsForC(cText(node.text)));
+    write(g, ", %d,\"%s \"\n", node.size, cText(node.text));
     writeHelp(g, node);
     write(g, CONTINUATION);
-    if (!node.icon.empty()) write(g, ", owPrompt,\"%s\"", node.icon);
+    if (!node.icon.empty()) write(g, ", owPrompt,\"%s\"", cText(node.icon));
     write(g, ", owOffCol,%d, owOnCol,%d, owTextCol,%d", node.colour1, node.colour2, node.colour3);
     writeSwitch(g, "owReadOnly", node.readOnly == 1);
     writeTail(g, node);
@@ -482,7 +481,7 @@ void createTableBox(Generation& g, const Placed& w) {
     writeTail(g, w.node);
     for (const TableColumn& column : tableColumns(w.node)) {
         write(g, "   owAddTableBoxColumn(%s, %d, %d", w.node.name, column.number, column.width);
-        if (column.labelled) write(g, ", owLabel,\"%s\"", column.label);
+        if (column.labelled) write(g, ", owLabel,\"%s\"", cText(column.label));
         write(g, ");\n");
     }
     writeFont(g, w);

@@ -26,60 +26,30 @@ struct TextCheck {
         complaints.push_back({form->name, std::string(widget), property, std::move(message)});
     }
 
-    // A backslash in C takes the next character with it.
-    void checkEscapes(const char* property, std::string_view text, bool quotesEscaped) {
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            if (text[i] == '"' && (!quotesEscaped || (i > 0 && text[i - 1] == '\\'))) {
-                complain(property,
-                         "a double quote ends the text in the source; put a backslash ahead of it or remove it");
-                return;
-            }
-            if (text[i] != '\\') continue;
-            if (i + 1 == text.size()) {
-                complain(property, "a backslash at the end takes the closing quote with it in the source; remove it");
-                return;
-            }
-            const char next = text[++i];
-            const bool hexFollows = i + 1 < text.size() && std::isxdigit(static_cast<unsigned char>(text[i + 1])) != 0;
-            if (next == 'u' || next == 'U' || (next == 'x' && !hexFollows)) {
-                complain(property,
-                         std::string("\\") + next + " means something else to the compiler; double the backslash");
-                return;
-            }
-        }
-    }
-
     void checkLineEnds(const char* property, std::string_view text) {
         if (text.find_first_of("\r\n") != std::string_view::npos) {
             complain(property, "a line end cannot stand in a text of the source; remove it");
         }
     }
 
-    // A text that reaches the source as it is stored.
-    void checkRaw(const char* property, std::string_view text) {
-        checkLineEnds(property, text);
-        if (isC()) {
-            checkEscapes(property, text, false);
-        } else if (std::count(text.begin(), text.end(), '\'') % 2 != 0) {
-            complain(property, "a single quote ends the text in the source; double it or remove it");
-        } else if (!allDoubled(text)) {
-            complain(property, "single quotes end the text in the source; double them or remove them");
+    // A text of the user's: quotes and line ends are seen to, but an escape of C is kept.
+    void checkText(const char* property, std::string_view text) {
+        if (isC() && holdsEscape(text)) {
+            complain(property, "a backslash begins an escape here, so the program shows what the escape stands for; "
+                               "double the backslash to show it");
         }
     }
 
-    // A text whose quotes the generator takes care of.
-    void checkEscaped(const char* property, std::string_view text) {
-        checkLineEnds(property, text);
-        if (isC()) checkEscapes(property, text, true);
-    }
-
-    // An image path: C doubles its backslashes.
-    void checkImage(const char* property, std::string_view image) {
-        checkLineEnds(property, image);
-        if (!isC()) {
-            checkRaw(property, image);
-        } else if (image.find('"') != std::string_view::npos) {
-            complain(property, "a double quote cannot stand in the name of an image; remove it");
+    // A name that reaches the source as it is stored: an image, an icon.
+    void checkName(const char* property, std::string_view name) {
+        checkLineEnds(property, name);
+        if (isC()) {
+            if (name.find('"') != std::string_view::npos)
+                complain(property, "a double quote cannot stand in the name of an image; remove it");
+        } else if (std::count(name.begin(), name.end(), '\'') % 2 != 0) {
+            complain(property, "a single quote ends the text in the source; double it or remove it");
+        } else if (!allDoubled(name)) {
+            complain(property, "single quotes end the text in the source; double them or remove them");
         }
     }
 
@@ -91,8 +61,8 @@ struct TextCheck {
     }
 };
 
-// Strings of a record that are written as they stand, and on which records they are.
-struct RawText {
+// Texts of a record beside its own, and on which records they are.
+struct OtherText {
     std::string WidgetNode::*field;
     const char* property;
     bool (*written)(const WidgetNode&);
@@ -110,15 +80,13 @@ bool hasNamedImage(const WidgetNode& node) {
     return (node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL) && node.format == 1;
 }
 
-constexpr RawText RAW_TEXTS[] = {
+constexpr OtherText OTHER_TEXTS[] = {
     {&WidgetNode::bubbleHelp, "Bubble Help", hasHelp},
-    {&WidgetNode::backgroundImage, "Background Image", hasNamedImage},
     {&WidgetNode::fontFace, "Font Face", [](const WidgetNode&) { return project.projectPlatform == 'w'; }},
     {&WidgetNode::xLabels, "X Labels", isArray},
     {&WidgetNode::yLabels, "Y Labels", isArray},
     {&WidgetNode::xLabels, "Column Labels", [](const WidgetNode& node) { return node.type == TYPE_TABLE_BOX; }},
     {&WidgetNode::icon, "Prompt", [](const WidgetNode& node) { return node.type == TYPE_TTY_ENTRY; }},
-    {&WidgetNode::closeIcon, "Tab Icon", [](const WidgetNode& node) { return node.type == TYPE_PANEL; }},
 };
 
 // Whether the text stands in the source, and whether it may run over several lines.
@@ -148,23 +116,24 @@ const char* textProperty(const WidgetNode& node) {
 
 void checkOwnText(TextCheck& check, const WidgetNode& node) {
     if (node.type == TYPE_TTY_ENTRY) {
-        check.checkEscaped("Text", withBars(node.text));
+        check.checkText("Text", node.text);
     } else if (textUse(node) == ONE_LINE) {
-        check.checkEscaped(textProperty(node), node.text);
+        check.checkText(textProperty(node), node.text);
     }
 }
 
 void checkTexts(TextCheck check, const WidgetNode& node) {
     checkOwnText(check, node);
-    for (const RawText& row : RAW_TEXTS) {
-        if (row.written(node)) check.checkRaw(row.property, node.*row.field);
+    for (const OtherText& row : OTHER_TEXTS) {
+        if (row.written(node)) check.checkText(row.property, node.*row.field);
     }
-    if (node.type == TYPE_FORM || node.type == TYPE_ICON || node.type == TYPE_GAUGE)
-        check.checkImage("Icon", node.icon);
+    if (node.type == TYPE_FORM || node.type == TYPE_ICON || node.type == TYPE_GAUGE) check.checkName("Icon", node.icon);
+    if (hasNamedImage(node)) check.checkName("Background Image", node.backgroundImage);
+    if (node.type == TYPE_PANEL) check.checkName("Tab Icon", node.closeIcon);
     if (node.statusBar != nullptr) {
         check.widget = node.statusBar->name;
         for (int pane = 0; pane < std::min(node.statusBar->panes, STATUS_PANES); ++pane) {
-            check.checkRaw("Text", node.statusBar->texts[static_cast<std::size_t>(pane)]);
+            check.checkText("Text", node.statusBar->texts[static_cast<std::size_t>(pane)]);
         }
     }
 }
@@ -172,17 +141,17 @@ void checkTexts(TextCheck check, const WidgetNode& node) {
 void checkEntries(TextCheck check, const WidgetNode& node) {
     if (node.contents == 0) {
         for (const ListEntryRec* entry = node.listEntries; entry != nullptr; entry = entry->next) {
-            check.checkEscaped("Entries", entry->text);
-            check.checkRaw("Entries", iconResourceName(entry->icon));
+            check.checkText("Entries", entry->text);
+            check.checkName("Entries", iconResourceName(entry->icon));
         }
     }
     for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
         if (entry->kind != MENU_ENTRY) continue;
         check.widget = entry->name;
-        check.checkEscaped("Caption", entry->label);
-        check.checkRaw("Help Text", entry->help);
+        check.checkText("Caption", entry->label);
+        check.checkText("Help Text", entry->help);
         for (const std::string* icon : {&entry->icon1, &entry->icon2, &entry->icon3}) {
-            check.checkRaw("Icon", iconResourceName(*icon));
+            check.checkName("Icon", iconResourceName(*icon));
         }
     }
 }

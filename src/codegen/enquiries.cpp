@@ -1,6 +1,7 @@
 // What the generators ask of records.
 
 #include "codegen/generation.h"
+#include "codegen/quotes.h"
 
 #include "project/preferences.h"
 #include "project/tree.h"
@@ -59,6 +60,11 @@ bool hasStandardFace(const WidgetNode& node) { return node.fontFace == "MS Sans 
 
 bool isPlainText(const WidgetNode& node) {
     return (node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL) && node.subType != 1;
+}
+
+std::string fieldText(const WidgetNode& node) {
+    const bool rich = (node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL) && !isPlainText(node);
+    return rich ? withoutRichLineFeeds(node.text) : node.text;
 }
 
 bool needsFont(const Generation& g, const Placed& widget) {

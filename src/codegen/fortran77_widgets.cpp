@@ -39,7 +39,7 @@ void writeFont(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     if (!needsFont(g, w)) return;
     if (!hasStandardFace(node)) {
-        writeSplit(g, "      CALL WIDFNT(%s,0,0,'%s')\n", node.name, node.fontFace);
+        writeSplit(g, "      CALL WIDFNT(%s,0,0,'%s')\n", node.name, fortranText(node.fontFace));
         writeSplit(g, "      CALL WIDFNT(%s,1,%d,' ')\n", node.name, node.pointSize);
     }
     const auto writeStyle = [&](int attribute, int value) {
@@ -134,7 +134,8 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
     }
     write(g, "      CALL STAPAN(%s,%d,ISTBAR)\n", bar.name, bar.panes);
     for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
-        write(g, "      CALL STATEX(%s,%d,'%s')\n", bar.name, pane, bar.texts[static_cast<std::size_t>(pane)]);
+        write(g, "      CALL STATEX(%s,%d,'%s')\n", bar.name, pane,
+              fortranText(bar.texts[static_cast<std::size_t>(pane)]));
     }
 }
 
@@ -248,7 +249,7 @@ void createText(Generation& g, const Placed& w) {
     writeEntryBorder(g, node);
     writeScroll(g, "0", node);
     writeSplit(g, "      CALL TEXENT(%s,%d,%d,'%s ',%d,%d,%s)\n", w.parent, node.xpos, node.ypos,
-               withBars(fortranText(node.text)), node.fieldWidth, editable ? 0 : 1, node.name);
+               fortranText(fieldText(node)), node.fieldWidth, editable ? 0 : 1, node.name);
     writeHelp(g, node);
     if (editable) resetScroll(g);
     writeFont(g, w);
@@ -420,7 +421,7 @@ void createArray(Generation& g, const Placed& w) {
     writeMinimum(g, w);
     writeMaximum(g, w);
     writeSplit(g, "      CALL ARRATR(%d,%d,0,%d,%d,'%s','%s')\n", node.yLabelsWidth, node.xLabelsHeight,
-               node.alignXLabels, node.alignYLabels, node.xLabels, node.yLabels);
+               node.alignXLabels, node.alignYLabels, fortranText(node.xLabels), fortranText(node.yLabels));
     writePosition(g, node);
     writeSplit(g,
                node.type == TYPE_TEXT_ARRAY ? "      CALL TEXARR(%s,%d,%d,%d,%d,%s)\n"
@@ -493,7 +494,7 @@ void createTtyEntry(Generation& g, const Placed& w) {
     write(g, "      CALL TEXTYP(0,%d)\n", node.sign);
     writePosition(g, node);
     writeSplit(g, "      CALL TTYENT(%s,%d,%d,%d,'%s',%s)\n", w.parent, node.xpos, node.ypos, node.size,
-               withBars(fortranText(node.text)), node.name);
+               fortranText(fieldText(node)), node.name);
     writeEnding(g, w);
 }
 
@@ -518,7 +519,7 @@ void createTableBox(Generation& g, const Placed& w) {
     for (const TableColumn& column : tableColumns(w.node)) {
         if (column.labelled) {
             writeSplit(g, "      CALL TABCOL(%s, %d, %d, -1,'%s');\n", node.name, column.number, column.width,
-                       column.label);
+                       fortranText(column.label));
         } else {
             writeSplit(g, "      CALL TABCOL(%s, %d, %d, -1, ' ');\n", node.name, column.number, column.width);
         }
@@ -568,7 +569,7 @@ constexpr CreationRow CREATION[] = {
 const std::span<const CreationRow> FORTRAN_77_CREATION = CREATION;
 
 void writeHelpStatement(Generation& g, std::string_view name, std::string_view help) {
-    if (!help.empty()) writeSplit(g, "      CALL WIDHLP(%s,2,'%s')\n", name, help);
+    if (!help.empty()) writeSplit(g, "      CALL WIDHLP(%s,2,'%s')\n", name, fortranText(help));
 }
 
 void writeFetchIcon(Generation& g, std::string_view variable, std::string_view icon) {

@@ -165,7 +165,7 @@ void writePullDown(Generation& g, const MenuEntryRec& menu, std::string_view abo
 void writeMenuEntry(Generation& g, const MenuEntryRec& entry, std::string_view owner) {
     add(g, "   %s = owCreateMenuEntry(%s, '%s', owAccel=%d", entry.name, owner, fortranText(entry.label), entry.accel);
     if (g.windows) {
-        if (!entry.help.empty()) add(g, ", owHelp='%s'", entry.help);
+        if (!entry.help.empty()) add(g, ", owHelp='%s'", fortranText(entry.help));
         addIconResource(g, "owUncheckIcon", entry.icon1);
         addIconResource(g, "owCheckIcon", entry.icon2);
         addIconResource(g, "owGreyIcon", entry.icon3);

@@ -59,7 +59,8 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
     add(g, "   %s=owCreateStatusBar(%s, owPanes=%d,owSizes=ISTBAR)\n", bar.name, form.name, bar.panes);
     writeStatementSplit(g);
     for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
-        add(g, "   call owSetStatusBarText(%s,%d,'%s' )\n", bar.name, pane, bar.texts[static_cast<std::size_t>(pane)]);
+        add(g, "   call owSetStatusBarText(%s,%d,'%s' )\n", bar.name, pane,
+            fortranText(bar.texts[static_cast<std::size_t>(pane)]));
         writeStatementSplit(g);
     }
 }

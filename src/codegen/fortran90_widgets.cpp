@@ -27,7 +27,7 @@ void addColours(Generation& g, const WidgetNode& node) {
 
 void addHelp(Generation& g, const WidgetNode& node) {
     if (node.bubbleHelp.empty()) return;
-    add(g, ", owHelp='%s'", node.bubbleHelp);
+    add(g, ", owHelp='%s'", fortranText(node.bubbleHelp));
     addNamed(g, "owHelpJustify", HELP_SIDE, node.helpJustify);
 }
 
@@ -55,7 +55,7 @@ void writeFont(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool numbers = isPlainText(node);
     add(g, "   call owSetFontAttribs(%s", node.name);
-    if (!hasStandardFace(node)) add(g, ", owFontFace='%s', owPointSize=%d", node.fontFace, node.pointSize);
+    if (!hasStandardFace(node)) add(g, ", owFontFace='%s', owPointSize=%d", fortranText(node.fontFace), node.pointSize);
     const auto addStyle = [&](std::string_view keyword, int style) {
         if (numbers) {
             addNumber(g, keyword, style, 0);
@@ -132,7 +132,7 @@ void createText(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool editable = node.type == TYPE_TEXT_ENTRY;
     beginCreation(g, w, "owCreateTextEntry");
-    add(g, ",'%s '", withBars(fortranText(node.text)));
+    add(g, ",'%s '", fortranText(fieldText(node)));
     add(g, ", %d, %s", node.fieldWidth, editable ? "OEDIT" : "ODISPLAY");
     addNamed(g, "owEntryType", ENTRY_TYPE, node.subType);
     addNumber(g, "owSize", node.size, 100);
@@ -319,7 +319,7 @@ void createArray(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, node.type == TYPE_TEXT_ARRAY ? "owCreateTextArray" : "owCreateValueArray");
     add(g, ", %d, %d, owAxisW=%d, owAxisH=%d, owXtext='%s', owYtext='%s'", node.columns, node.rows, node.yLabelsWidth,
-        node.xLabelsHeight, node.xLabels, node.yLabels);
+        node.xLabelsHeight, fortranText(node.xLabels), fortranText(node.yLabels));
     addNamed(g, "owXjust", LEFT_CENTRE_RIGHT, node.alignXLabels);
     addNamed(g, "owYjust", LEFT_CENTRE_RIGHT, node.alignYLabels);
     if (g.windows) {
@@ -416,8 +416,8 @@ void createProgressBar(Generation& g, const Placed& w) {
 void createTtyEntry(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     beginCreation(g, w, "owCreateTTYEntry");
-    add(g, ", %d,'%s '", node.size, withBars(fortranText(node.text)));
-    if (!node.icon.empty()) add(g, ", owPrompt='%s'", node.icon);
+    add(g, ", %d,'%s '", node.size, fortranText(fieldText(node)));
+    if (!node.icon.empty()) add(g, ", owPrompt='%s'", fortranText(node.icon));
     addSwitch(g, "owReadOnly", node.readOnly == 1);
     addColours(g, node);
     addPosition(g, node);
@@ -441,7 +441,7 @@ void createTableBox(Generation& g, const Placed& w) {
     endStatement(g);
     for (const TableColumn& column : tableColumns(w.node)) {
         add(g, "   call owAddTableBoxColumn(%s, %d, %d", w.node.name, column.number, column.width);
-        if (column.labelled) add(g, ", owLabel='%s'", column.label);
+        if (column.labelled) add(g, ", owLabel='%s'", fortranText(column.label));
         endStatement(g);
     }
     writeFont(g, w);

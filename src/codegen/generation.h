@@ -154,7 +154,8 @@ int wholeNumber(float value); // truncated, held to what an integer can be
 // The font of a widget asks for a statement. `standardFace`: it has the standard face and size.
 bool hasStandardFace(const WidgetNode& node);
 bool needsFont(const Generation& g, const Placed& widget);
-bool isPlainText(const WidgetNode& node); // text entry or label that is not rich text
+bool isPlainText(const WidgetNode& node);      // text entry or label that is not rich text
+std::string fieldText(const WidgetNode& node); // of a text or TTY entry or a label, as the source is to tell it
 
 // The picture that a form or icon shows: kind of image, its name, and whether that is the record's `icon`.
 struct Picture {

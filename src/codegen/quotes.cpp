@@ -7,31 +7,23 @@
 
 namespace {
 
-constexpr std::size_t QUOTED_LIMIT = 32767; // characters between the quotes
+constexpr std::size_t QUOTED_LIMIT = 32767; // bytes between the quotes
 
-// Cut to the limit, but never behind half of a pair: that would end the string, or take its end away.
+bool continuesLetter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; } // of UTF-8
+
+// Cut to the limit, but never inside a letter, nor behind half of a pair: that would end the string, or take its end
+// away.
 void cutDoubled(std::string& text, char first) {
     if (text.size() <= QUOTED_LIMIT) return;
+    std::size_t length = QUOTED_LIMIT;
+    while (length > 0 && continuesLetter(text[length])) --length;
     std::size_t run = 0; // of `first` up to the cut
-    while (run < QUOTED_LIMIT && text[QUOTED_LIMIT - 1 - run] == first) ++run;
-    text.resize(QUOTED_LIMIT - run % 2);
-}
-
-} // namespace
-
-std::string fortranText(std::string_view text) {
-    std::string result;
-    result.reserve(text.size());
-    for (const char c : text) {
-        if (c == '\'') result += '\'';
-        result += c;
-    }
-    cutDoubled(result, '\'');
-    return result;
+    while (run < length && text[length - 1 - run] == first) ++run;
+    text.resize(length - run % 2);
 }
 
 // A backslash takes the next character with it, so the quote behind a pair of them still ends the string.
-std::string cText(std::string_view text) {
+std::string escapedQuotes(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     bool taken = false;
@@ -44,6 +36,92 @@ std::string cText(std::string_view text) {
     return result;
 }
 
+// Whether a backslash ahead of `rest` begins an escape of C that a string may hold.
+bool beginsEscape(std::string_view rest) {
+    if (rest.empty()) return false;
+    if (rest.front() == 'x') return rest.size() > 1 && std::isxdigit(static_cast<unsigned char>(rest[1])) != 0;
+    constexpr std::string_view FOLLOWERS = "abfnrtv'\"?\\01234567";
+    return FOLLOWERS.find(rest.front()) != std::string_view::npos;
+}
+
+// `visit` is told every backslash that takes the next character with it or stands alone: its place and which it is.
+template <class Visit> void forEachBackslash(std::string_view text, Visit visit) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\\') continue;
+        const bool escape = beginsEscape(text.substr(i + 1));
+        visit(i, escape);
+        if (escape) ++i;
+    }
+}
+
+std::string doubledLoneBackslashes(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    std::size_t from = 0;
+    forEachBackslash(text, [&](std::size_t at, bool escape) {
+        if (escape) return;
+        result.append(text.substr(from, at + 1 - from)).append(1, '\\');
+        from = at + 1;
+    });
+    return result.append(text.substr(from));
+}
+
+// Whether the text ends in a word of rich text: a backslash, letters and perhaps a number.
+bool endsInControlWord(std::string_view text) {
+    const std::size_t word = text.find_last_of('\\');
+    if (word == std::string_view::npos || word + 1 == text.size()) return false;
+    if (std::isalpha(static_cast<unsigned char>(text[word + 1])) == 0) return false;
+    return std::all_of(text.begin() + static_cast<std::ptrdiff_t>(word) + 1, text.end(),
+                       [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '-'; });
+}
+
+std::string withBarsForC(std::string_view text) {
+    std::string result = withBars(text);
+    std::replace(result.begin(), result.end(), '\r', '|');
+    return result;
+}
+
+} // namespace
+
+std::string fortranText(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (const char c : text) {
+        if (c == '\'') result += '\'';
+        result += c;
+    }
+    cutDoubled(result, '\'');
+    return withBars(result);
+}
+
+std::string cText(std::string_view text) { return doubledLoneBackslashes(withBarsForC(escapedQuotes(text))); }
+
+std::string cFieldText(std::string_view text) { return doubledTextBackslashes(withBarsForC(escapedQuotes(text))); }
+
+bool holdsEscape(std::string_view text) {
+    bool found = false;
+    forEachBackslash(text, [&](std::size_t, bool escape) { found |= escape; });
+    return found;
+}
+
+// A control word ends at what is no letter; where the feed ended it, a blank does so in its place.
+std::string withoutRichLineFeeds(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    const auto isWord = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '-'; };
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool lone = text[i] == '\n' && (i == 0 || text[i - 1] != '\r');
+        if (!lone) {
+            result += text[i];
+            continue;
+        }
+        const bool ahead = !result.empty() && isWord(result.back());
+        const bool behind = i + 1 < text.size() && (isWord(text[i + 1]) || text[i + 1] == ' ');
+        if (ahead && behind && endsInControlWord(result)) result += ' ';
+    }
+    return result;
+}
+
 // A line feed alone becomes a bar too: no language lets a string run over it.
 std::string withBars(std::string_view text) {
     std::string result;
@@ -52,12 +130,6 @@ std::string withBars(std::string_view text) {
         if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
         result += text[i] == '\n' ? '|' : text[i];
     }
-    return result;
-}
-
-std::string withBarsForC(std::string_view text) {
-    std::string result = withBars(text);
-    std::replace(result.begin(), result.end(), '\r', '|');
     return result;
 }
 

@@ -4,17 +4,29 @@
 #include <string>
 #include <string_view>
 
-// A text between the quotes of Fortran: every apostrophe doubled. At most 32767 characters.
+// A text between the quotes of Fortran: every apostrophe doubled, every line end a bar. A carriage return alone, which
+// is left where a field's width cut the text between the two halves of a line end, stays. At most 32767 bytes, cut
+// between letters.
 std::string fortranText(std::string_view text);
 
-// A text between the quotes of C: a backslash ahead of every quote that has none. At most 32767 characters.
+// A text between the quotes of C: a backslash ahead of every quote that has none, every line end a bar, a carriage
+// return too, since a line of C ends at it. A backslash that begins no escape of C, or ends the text, is doubled; the
+// others stay escapes. At most 32767 bytes, cut between letters.
 std::string cText(std::string_view text);
 
-// Line ends of a text that runs over several lines as bars. A carriage return alone, which is left where a field's
-// width cut the text between the two halves of a line end, stays in Fortran. In C a line ends at it, so it becomes a
-// bar.
+// The same for the text of a C text widget, where every backslash means itself; see doubledTextBackslashes.
+std::string cFieldText(std::string_view text);
+
+// Whether cText leaves a backslash of this text as the beginning of an escape, so that the program shows something
+// else than what was typed.
+bool holdsEscape(std::string_view text);
+
+// Rich text without the lone line feeds that its writer breaks lines with: they mean nothing in it, but would become
+// bars. Pairs of carriage return and line feed stay, and so does any other text.
+std::string withoutRichLineFeeds(std::string_view text);
+
+// Line ends of a text that runs over several lines as bars.
 std::string withBars(std::string_view text);
-std::string withBarsForC(std::string_view text);
 
 // Every backslash that stands alone doubled; a pair stays a pair.
 std::string doubledBackslashes(std::string_view path);

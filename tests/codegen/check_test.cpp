@@ -68,25 +68,18 @@ const Case CASES[] = {
      "it",
      "Form1: Save As_Pop1: Name: a name begins with a letter and goes on with letters, digits and underscores; change "
      "it"},
-    {"a quote in a help text", "    2003 B\n    .bubbleHelp it's\n",
-     "Form1: B: Bubble Help: a single quote ends the text in the source; double it or remove it",
-     "Form1: B: Bubble Help: a single quote ends the text in the source; double it or remove it", ""},
-    {"a double quote in labels", "    2022 A\n    .xLabels a\"b\n    columns 1\n    rows 1\n", "", "",
-     "Form1: A: X Labels: a double quote ends the text in the source; put a backslash ahead of it or remove it"},
-    {"quotes in column labels", "    2032 A\n    .xLabels 'a'\n    columns 1\n",
-     "Form1: A: Column Labels: single quotes end the text in the source; double them or remove them",
-     "Form1: A: Column Labels: single quotes end the text in the source; double them or remove them", ""},
-    {"doubled quotes", "    2032 A\n    .xLabels ''a''\n    columns 1\n", "", "", ""},
-    {"a line end in a prompt", "    2030 A\n    .icon a\\nb\n",
-     "Form1: A: Prompt: a line end cannot stand in a text of the source; remove it",
-     "Form1: A: Prompt: a line end cannot stand in a text of the source; remove it",
-     "Form1: A: Prompt: a line end cannot stand in a text of the source; remove it"},
-    {"a backslash at the end", "    2003 B\n    .text C:\\\\\n", "", "",
-     "Form1: B: Label: a backslash at the end takes the closing quote with it in the source; remove it"},
-    {"an escape that is none", "    2003 B\n    .text C:\\\\users\n", "", "",
-     "Form1: B: Label: \\u means something else to the compiler; double the backslash"},
-    {"a quote behind a pair of backslashes", "    2003 B\n    .text a\\\\\\\\\"b\n", "", "",
-     "Form1: B: Label: a double quote ends the text in the source; put a backslash ahead of it or remove it"},
+    {"quotes in a help text", "    2003 B\n    .bubbleHelp it's \"x\"\n", "", "", ""},
+    {"quotes in labels", "    2022 A\n    .xLabels a\"b'\n    columns 1\n    rows 1\n", "", "", ""},
+    {"quotes in column labels", "    2032 A\n    .xLabels 'a'\n    columns 1\n", "", "", ""},
+    {"a line end in a prompt", "    2030 A\n    .icon a\\nb\n", "", "", ""},
+    {"a backslash at the end", "    2003 B\n    .text C:\\\\\n", "", "", ""},
+    {"an escape in a label", "    2003 B\n    .text C:\\\\temp\n", "", "",
+     "Form1: B: Label: a backslash begins an escape here, so the program shows what the escape stands for; double the "
+     "backslash to show it"},
+    {"an escape in a help text", "    2003 B\n    .bubbleHelp a\\\\x41\n", "", "",
+     "Form1: B: Bubble Help: a backslash begins an escape here, so the program shows what the escape stands for; "
+     "double the backslash to show it"},
+    {"no escape", "    2003 B\n    .text C:\\\\Users\n", "", "", ""},
     {"an image that is missing", "    2010 I\n    .format 3\n    .icon nowhere.ico\n",
      "Form1: I: Icon: the image file \"nowhere.ico\" cannot be found; choose another one",
      "Form1: I: Icon: the image file \"nowhere.ico\" cannot be found; choose another one",
@@ -113,9 +106,7 @@ TEST(Check, EntriesAndStatusBars) {
     EXPECT_EQ(
         complaints(90, "2001 Form1\n= Bar ; 10 it's\n+ 1001 0 Menu\n+ 1003 0 E ; E ; 0 ; it's\n+ 1003 0 bar ; F\n"),
         (std::vector<std::string>{
-            "Form1: bar: Name: this name is taken by \"Bar\", from which it differs only in case; change it",
-            "Form1: Bar: Text: a single quote ends the text in the source; double it or remove it",
-            "Form1: E: Help Text: a single quote ends the text in the source; double it or remove it"}));
+            "Form1: bar: Name: this name is taken by \"Bar\", from which it differs only in case; change it"}));
     EXPECT_EQ(complaints(90, "project platform x\n2001 Form1\n= Bar ; 10 a\n"),
               (std::vector<std::string>{"Form1: Bar: Statusbar: an X project cannot hold a status bar; delete it"}));
 }

@@ -65,7 +65,14 @@ TEST(Quotes, AreWrittenSoThatTheStringGoesOn) {
         {"say \"x\"", "say \"x\"", "say \\\"x\\\""},
         {"\\\"", "\\\"", "\\\""},               // a quote that has its backslash
         {"a\\\\\"b", "a\\\\\"b", "a\\\\\\\"b"}, // the backslash ahead of the quote belongs to the one ahead of it
-        {"C:\\dir", "C:\\dir", "C:\\dir"},
+        {"C:\\dir", "C:\\dir", "C:\\\\dir"},    // begins no escape of C
+        {"C:\\temp", "C:\\temp", "C:\\temp"},   // begins one, which stays
+        {"end\\", "end\\", "end\\\\"},
+        {"\\xz \\x1", "\\xz \\x1", "\\\\xz \\x1"},
+        {"\\u00e9 \\101 \\9", "\\u00e9 \\101 \\9", "\\\\u00e9 \\101 \\\\9"},
+        {"a\\\\b", "a\\\\b", "a\\\\b"},
+        {"a\r\nb\nc\rd", "a|b|c\rd", "a|b|c|d"},
+        {"100% |é", "100% |é", "100% |é"},
         {"", "", ""},
     };
     for (const Case& c : cases) {
@@ -107,7 +114,38 @@ TEST(Quotes, TextsAndPathsOfC) {
         EXPECT_EQ(doubledTextBackslashes(c.stored), c.text);
     }
     EXPECT_EQ(withBars("a\r\nb\nc\rd\r\n\r"), "a|b|c\rd|\r");
-    EXPECT_EQ(withBarsForC("a\r\nb\nc\rd\r\n\r"), "a|b|c|d||");
+}
+
+TEST(Quotes, ATextIsCutBetweenLetters) {
+    std::string letters;
+    while (letters.size() < TEXT_LIMIT - 1) letters += "é";
+    const std::string text = "x'\"" + letters; // from here on the letters lie across the limit
+    for (const std::string& cut : {fortranText(text), cText(text), cFieldText(text)}) {
+        EXPECT_LE(cut.size(), 32767U);
+        EXPECT_GE(cut.size(), 32764U);
+        EXPECT_EQ(cut.substr(cut.size() - 2), "é");
+    }
+}
+
+TEST(Quotes, LoneLineFeedsOfRichTextMeanNothing) {
+    struct Case {
+        const char* stored;
+        const char* written;
+    };
+    const Case cases[] = {
+        {"{\\rtf1\n\\pard\\f0 one\\par\n\\b two\\par\n}", "{\\rtf1\\pard\\f0 one\\par\\b two\\par}"},
+        {"\\par\nHello", "\\par Hello"}, // the feed ended the word
+        {"\\fs18\n7", "\\fs18 7"},
+        {"\\par\n two", "\\par  two"}, // and the blank behind it is the text's own
+        {"one\ntwo", "onetwo"},
+        {"one\r\ntwo", "one\r\ntwo"},
+    };
+    for (const Case& c : cases) EXPECT_EQ(withoutRichLineFeeds(c.stored), c.written);
+}
+
+TEST(Quotes, EscapesOfC) {
+    for (const char* text : {"a\\n", "\\x41", "\\101", "\\\\", "\\\""}) EXPECT_TRUE(holdsEscape(text)) << text;
+    for (const char* text : {"C:\\dir", "\\x", "end\\", "\\U", "plain"}) EXPECT_FALSE(holdsEscape(text)) << text;
 }
 
 TEST(Quotes, IconResourceNames) {
