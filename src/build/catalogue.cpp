@@ -239,7 +239,8 @@ void findCompiler() {
         row = &GNU_ROW;
     } else if (!folders.installDir.empty()) {
         host.errorBox("Designer Initialisation", "Could not detect current ORBA Implementation|"
-                                                 "Check ORBA environment variable set correctly");
+                                                 "Check ORBA environment variable set correctly|"
+                                                 "No gfortran and no g++ was found on PATH; install them to compile");
     }
     if (!row) return;
     takeRow(*row, script);
@@ -334,9 +335,9 @@ int readCompilerCatalogue() {
 
 int captureCompilerEnvironment() {
     if (folders.dataDir.empty()) return 0;
-    std::string batch = joinPath(folders.dataDir, "wdenv.bat");
-    std::string record = joinPath(folders.dataDir, "wdenvzz.bat");
-    std::string log = joinPath(folders.dataDir, "wdesign.tmp");
+    std::string batch = ownFile(folders.dataDir, "wdenv", ".bat");
+    std::string record = ownFile(folders.dataDir, "wdenvzz", ".bat");
+    std::string log = ownFile(folders.dataDir, "wdesign", ".tmp");
     int result = 0;
     LoggedRun run;
     bool written = writeTextFile(batch, INTERPRETER.ahead + compiler.varsCommand + "\n" + INTERPRETER.behind);
@@ -352,6 +353,7 @@ int captureCompilerEnvironment() {
 
 void setUpCompiler() {
     readCompilerCatalogue();
+    if (compiler.profile == COMPILER_GNU) return; // found on the PATH that is in force
     if (captureCompilerEnvironment()) return;
     host.errorBox("Set Environment ", "Can not find compiler in registry to set appropriate environment|"
                                       "Suggest restart ORBAWIDG Designer in compiler environment command window");

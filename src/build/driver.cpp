@@ -19,8 +19,12 @@
 
 namespace {
 
-std::string recordPath() { return joinPath(folders.dataDir, "wdcompzz.bat"); }
-std::string logPath() { return joinPath(folders.dataDir, "wdesign.tmp"); }
+std::string recordPath() { return ownFile(folders.dataDir, "wdcompzz", ".bat"); }
+std::string logPath() { return ownFile(folders.dataDir, "wdesign", ".tmp"); }
+
+// How the last build ended; the log of a compiler that was ended from here may say nothing of it.
+bool lastFailed = false;
+std::string missingProgram; // that the last build could not start, of the row that knows programs by name
 
 // --- the steps
 
@@ -41,10 +45,22 @@ std::string endWords(const std::string& command, const Build& build) {
     return "wdesign: error: " + command.substr(0, command.find(' ')) + " " + exitWords(build.run.exitCode) + "\n";
 }
 
+std::string notStartedWords() {
+    return "wdesign: error: " + missingProgram + " could not be started: " + lastSystemError.text +
+           "; install it, or put its folder on PATH\n";
+}
+
 // False when the command could not be started.
 bool runStep(Build& build, const BuildStep& step, bool reportFailure) {
     std::string command = commandText(step, build.scene);
-    if (!runLogged(build.run, command, reportFailure)) return false;
+    if (!runLogged(build.run, command, reportFailure)) {
+        if (build.gnu) {
+            missingProgram = command.substr(0, command.find(' '));
+            writeLogFile(build.run.log, notStartedWords());
+        }
+        return false;
+    }
+    if (build.run.cancelled) build.failed = true;
     if (build.gnu && build.run.exitCode != 0) {
         build.failed = true;
         build.failedWords = build.run.cancelled ? std::string() : endWords(command, build);
@@ -82,6 +98,7 @@ void compileListedSources(Build& build, const BuildStep& step) {
         build.scene.source = sourceOfRow(build.scene, rows[i]);
         if (sourceCurrent(build, build.scene.source, project.sourceFileTimes[i])) continue;
         build.result = runStep(build, step, true) ? 1 : 0;
+        if (build.run.cancelled) return;
         bool compiled = build.result > 0 && !(build.gnu && build.run.exitCode != 0);
         if (compiled) project.sourceFileTimes[i] = fileTime(build.scene.source);
     }
@@ -197,7 +214,7 @@ void showWholeLog() {
 void finishStarted(const std::string& sourcePath) {
     showWholeLog();
     host.busyCursor(false);
-    if (scanLog(compiler.profile) > 0) {
+    if (scanLog(compiler.profile) > 0 || lastFailed) {
         buildHooks.showLog();
         buildHooks.enableCompile(true);
     } else if (!runProgram(executablePath(sourcePath))) {
@@ -206,10 +223,34 @@ void finishStarted(const std::string& sourcePath) {
     buildHooks.enablePrintErrors(true);
 }
 
+// What a build writes into the project: the rows of sources that it completes, and the times by which it knows what
+// needs no compiling.
+struct BuildNotes {
+    FileList sources;
+    std::vector<std::int64_t> times;
+    std::int64_t exeTime;
+};
+
+BuildNotes notes() { return {project.fileLists[LIST_SOURCES], project.sourceFileTimes, project.exeTime}; }
+
+// The times alone are nothing that the user would miss, so they go into a file that was saved for this build and mark
+// nothing otherwise.
+void keepNotes(const BuildNotes& before, bool saved) {
+    bool rows = project.fileLists[LIST_SOURCES] != before.sources;
+    bool times = project.sourceFileTimes != before.times || project.exeTime != before.exeTime;
+    if (project.projectModified || (!rows && !times)) return;
+    bool kept = saved && !project.projectName.empty() && buildHooks.saveProject();
+    if (rows && !kept) project.projectModified = 1;
+}
+
 void finishNotStarted() {
     showWholeLog();
-    host.errorBox("Compile ", "Compile/Link process failed|Can not find compiler/linker in registry|"
-                              "Restart ORBAWIDG Designer in compiler environment command window");
+    host.errorBox("Compile ",
+                  !missingProgram.empty()
+                      ? "Compile/Link process failed|" + missingProgram +
+                            " could not be started|Install it, or put its folder on PATH and start the designer again"
+                      : "Compile/Link process failed|Can not find compiler/linker in registry|"
+                        "Restart ORBAWIDG Designer in compiler environment command window");
     host.busyCursor(false);
     buildHooks.enableCompile(true);
 }
@@ -223,6 +264,8 @@ int buildProject(bool force, int compilerProfile, const std::string& sourcePath,
     build.force = force;
     build.gnu = compilerProfile == COMPILER_GNU;
     build.scene = commandScene(compilerProfile, sourcePath, customSwitches);
+    lastFailed = false;
+    missingProgram.clear();
     if (upToDate(build.scene, force)) {
         loadBuildSource(sourcePath);
         return 1;
@@ -243,10 +286,8 @@ int buildProject(bool force, int compilerProfile, const std::string& sourcePath,
     if (!build.blocked) runSteps(build);
     if (!build.blocked) completeLog(build);
     closeLoggedRun(build.run);
-    if (build.result > 0) {
-        project.exeTime = build.blocked ? 0 : fileTime(build.scene.exe);
-        project.projectModified = 1;
-    }
+    if (build.result > 0) project.exeTime = build.blocked || build.failed ? 0 : fileTime(build.scene.exe);
+    lastFailed = build.failed || build.blocked;
     removeIntermediates(build);
     loadBuildSource(sourcePath);
     return build.result;
@@ -256,16 +297,20 @@ void compileCommand(bool force) {
     if (childProcess.handle != 0) return;
     buildHooks.selectorTool();
     buildHooks.commitEditor();
-    if (buildHooks.saveFirst()) buildHooks.saveProject();
+    bool saved = buildHooks.saveFirst() && buildHooks.saveProject();
     if (!generateIfStale()) return;
+    BuildNotes before = notes();
 
     buildHooks.enableCompile(false);
     buildHooks.enableExecute(false);
-    buildHooks.enableAbort(false);
+    buildHooks.enableAbort(true); // ends a compiler that does not come to an end
     host.busyCursor(true);
     buildHooks.clearLog();
     std::string path = projectSourcePath();
-    if (buildProject(force, compiler.profile, path, project.customSwitches) > 0) {
+    int started = buildProject(force, compiler.profile, path, project.customSwitches);
+    buildHooks.enableAbort(false);
+    keepNotes(before, saved);
+    if (started > 0) {
         finishStarted(path);
     } else {
         finishNotStarted();

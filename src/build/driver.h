@@ -9,7 +9,7 @@
 void compileCommand(bool force);
 
 // Runs what has to run for project.sourceDir/sourceName. Above 0 when every step was started; compiler errors are only
-// in the log. Writes dataDir/wdcompzz.bat and dataDir/wdesign.tmp and leaves them to the caller.
+// in the log. Writes the record of commands and the log into dataDir and leaves them to the caller.
 int buildProject(bool force, int compilerProfile, const std::string& sourcePath, int customSwitches);
 
 // The words of a text of switches, parted by blank, comma, tab and line feed.

@@ -4,6 +4,7 @@
 #include "build/hooks.h"
 #include "platform/environment.h"
 #include "platform/paths.h"
+#include "project/files.h"
 #include "project/host.h"
 #include "project/records.h"
 
@@ -13,11 +14,15 @@ namespace {
 
 constexpr std::uint32_t HIGHEST_SILENT_CODE = 1024; // codes above it are those of exceptions and signals
 
+std::string runningProgram; // path of the child
+
 void programEnded() {
     buildHooks.watchTimer(0);
     buildHooks.enableAbort(false);
     buildHooks.enableCompile(true);
-    buildHooks.enableExecute(true);
+    // Another project may have come in meanwhile.
+    bool own = !project.sourceName.empty() && executablePath(projectSourcePath()) == runningProgram;
+    buildHooks.enableExecute(own || executableCurrent());
     childProcess = {};
 }
 
@@ -38,6 +43,7 @@ bool runProgram(const std::string& exePath) {
         reportSystemError("Execute Application");
         return false;
     }
+    runningProgram = exePath;
     buildHooks.enableAbort(true);
     buildHooks.enableCompile(false);
     buildHooks.enableExecute(false);

@@ -233,4 +233,10 @@ int scanLog(int compilerProfile) {
     return scan.result;
 }
 
+void forgetLog() {
+    compilerLog = {};
+    buildHooks.clearLog();
+    buildHooks.enablePrintErrors(false);
+}
+
 void logEntryChosen(int entry) { goToLogEntry(entry, compiler.profile); }

@@ -43,5 +43,8 @@ bool isFortranMessage(const std::string& line); // "Error:", "Fatal Error:", "Wa
 // 0 means that the build failed.
 int scanLog(int compilerProfile);
 
+// Empties the log, for another project has come in.
+void forgetLog();
+
 // A click on an entry of the log (15028), numbered from 1.
 void logEntryChosen(int entry);

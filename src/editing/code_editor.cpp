@@ -152,7 +152,6 @@ void buildCodeEditor(int pane) {
     makeSelector(head);
     makeIcons(head);
     makeTexts(body, state.width, std::max(state.height - HEAD_HEIGHT, HEAD_HEIGHT));
-    if (preferences.syntaxColours) loadSyntaxAttributes();
     refreshFont(false, 0);
     fillHooks();
 }

@@ -80,6 +80,16 @@ bool removeFile(const std::string& path) {
     return !failure;
 }
 
+std::string absolutePath(const std::string& path) {
+    if (path.empty()) return path;
+    std::error_code failure;
+    // Behind a link ".." is another folder than the name ahead of it says, so there the disk is asked.
+    const bool goesUp = path.find("..") != std::string::npos;
+    const std::filesystem::path whole = std::filesystem::absolute(path, failure);
+    const std::filesystem::path named = goesUp ? std::filesystem::weakly_canonical(whole, failure) : whole;
+    return failure ? path : named.lexically_normal().string();
+}
+
 std::string currentFolder() {
     std::error_code failure;
     return std::filesystem::current_path(failure).string();

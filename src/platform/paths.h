@@ -33,6 +33,12 @@ bool removeFile(const std::string& path);
 // is.
 std::string shortPath(const std::string& path);
 
+// From the root, without "." and ".."; a relative one counts from the current folder. Empty stays empty.
+std::string absolutePath(const std::string& path);
+
 std::string currentFolder();
+
+// A file in `folder` that only this process uses: the number of the process stands between stem and extension.
+std::string ownFile(const std::string& folder, const std::string& stem, const std::string& extension);
 std::string programPath();                 // full path of the running program, empty when the system does not tell
 bool makeFolders(const std::string& path); // with all folders above it; true when it is there in the end

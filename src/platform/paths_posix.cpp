@@ -14,6 +14,10 @@ bool fileReadable(const std::string& path) {
 
 std::string shortPath(const std::string& path) { return path; }
 
+std::string ownFile(const std::string& folder, const std::string& stem, const std::string& extension) {
+    return joinPath(folder, stem + std::to_string(getpid()) + extension);
+}
+
 std::string programPath() {
     char path[PATH_MAX];
     ssize_t length = readlink("/proc/self/exe", path, sizeof path);

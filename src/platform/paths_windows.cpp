@@ -20,6 +20,10 @@ std::string shortPath(const std::string& path) {
     return length > 0 && length < sizeof text ? std::string(text, length) : path;
 }
 
+std::string ownFile(const std::string& folder, const std::string& stem, const std::string& extension) {
+    return joinPath(folder, stem + std::to_string(GetCurrentProcessId()) + extension);
+}
+
 std::string programPath() {
     char text[MAX_PATH + 1];
     DWORD length = GetModuleFileNameA(nullptr, text, sizeof text);

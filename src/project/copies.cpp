@@ -28,6 +28,7 @@ WidgetNode* copyRecord(const WidgetNode& source) {
     copy->entries = copyEntries(source.entries);
     copy->listEntries = copyListEntries(source.listEntries);
     copy->child = copy->next = copy->parent = copy->lastChild = nullptr;
+    copy->storedParentHandle = copy->storedFormCallbackId = 0; // the copy comes from no file
     copy->indexedName = 0;
     copy->indexedHandle = 0;
     copy->inProject = false;

@@ -21,7 +21,7 @@ constexpr FieldRow string(const char* name, std::string W::*field, int since = V
 constexpr FieldRow table[] = {
     string("name", &W::name),
     number("selected", &W::selected),
-    number("formCallbackId", &W::formCallbackId),
+    number("formCallbackId", &W::storedFormCallbackId),
     string("icon", &W::icon),
     string("backgroundImage", &W::backgroundImage),
     string("parentName", &W::parentName),
@@ -29,7 +29,7 @@ constexpr FieldRow table[] = {
     number("formType", &W::formType),
     number("type", &W::type),
     number("reserved", &W::reserved),
-    number("parentHandle", &W::parentHandle),
+    number("parentHandle", &W::storedParentHandle),
     number("xpos", &W::xpos),
     number("ypos", &W::ypos),
     number("width", &W::width),
@@ -122,7 +122,7 @@ const std::array<EntryStringRow, 6> entryStrings = {{
 }};
 
 const std::array<EntryNumberRow, 4> entryNumbers = {
-    {{&MenuEntryRec::kind}, {&MenuEntryRec::level}, {&MenuEntryRec::handle}, {&MenuEntryRec::accel}}};
+    {{&MenuEntryRec::kind}, {&MenuEntryRec::level}, {&MenuEntryRec::storedHandle}, {&MenuEntryRec::accel}}};
 
 const std::array<CounterPlace, 29> counterPlaces = {{
     {COUNTER_BUTTON, VERSION_10},

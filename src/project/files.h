@@ -15,12 +15,17 @@ bool loadProject(const std::string& folder, const std::string& name);
 // took something away. The designer calls it behind loadProject.
 void mendLoadedProject();
 
-// Writes the project. `quiet` for backups: names and title stay. True on success; else after an error box, with
-// projectModified and any existing file as they were.
+// Writes the project. `quiet` for backups: names, title and the modified mark stay. True on success; else after an
+// error box, with projectModified and any existing file as they were.
 bool saveProject(const std::string& folder, const std::string& name, bool quiet);
 
-// Writes a backup beside the project, or "Auto_Backup.wdp" in the current folder for an untitled one.
+// Writes a backup of a modified project beside it, or "Auto_Backup.wdp" in the current folder for an untitled one.
 bool autoBackup();
+
+// What was read becomes another project, to be saved under another name: it has no source and no program yet, so that
+// it never writes over those of the first.
+void startAnotherProject();
+
 std::string backupName(const std::string& name); // "bridge.wdp": "bridge_Backup.wdp"
 
 // Writes the active form and all forms behind it.

@@ -70,7 +70,9 @@ void readTriples(FileReader& reader, int below) {
 
 std::string headerString() {
     const char* language = project.projectLanguage == 90 ? "F90" : project.projectLanguage == 77 ? "F77" : "C";
-    const char platform = project.doubleBuffering == 1 ? project.projectPlatform : 's';
+    // The mark of software buffering names no platform, so only a Windows project may bear it.
+    const bool software = project.projectPlatform == 'w' && project.doubleBuffering != 1;
+    const char platform = software ? 's' : project.projectPlatform;
     return std::string("ORBAWIDGDESIGNV8.0-") + language + "-" + platform;
 }
 

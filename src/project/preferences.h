@@ -23,4 +23,8 @@ struct Preferences {
     int replaceTab = 1;        // ...when tabs are replaced
 };
 
+// Points of the code font that can be read and still show code.
+inline constexpr int SMALLEST_CODE_FONT = 4;
+inline constexpr int LARGEST_CODE_FONT = 144;
+
 inline Preferences preferences;

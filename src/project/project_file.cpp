@@ -178,10 +178,12 @@ void writeTail(FileWriter& writer) {
             if (list == LIST_SOURCES)
                 writeFileTime(writer, i < project.sourceFileTimes.size() ? project.sourceFileTimes[i] : 0);
         }
-    writeString(writer, project.sourceDir);
-    writeString(writer, project.sourceName);
-    writeNumber(writer, project.sourceStale);
-    writeNumber(writer, project.sourceStale);
+    const bool missing = project.sourceName.empty() && !project.missingSource.name.empty();
+    const int stale = missing ? project.missingSource.stale : project.sourceStale;
+    writeString(writer, missing ? project.missingSource.folder : project.sourceDir);
+    writeString(writer, missing ? project.missingSource.name : project.sourceName);
+    writeNumber(writer, stale);
+    writeNumber(writer, stale);
     writeFileTime(writer, project.exeTime);
     for (const BlockPlace& place : blockFileOrder) {
         const CodeBlock& block = project.codeBlocks[place.block];
@@ -301,6 +303,7 @@ bool saveProject(const std::string& folder, const std::string& name, bool quiet)
     host.commitEditor();
     host.busyCursor(true);
     const std::string path = joinPath(folder, name);
+    if (project.projectModified) project.missingSource.stale = 1;
     FileWriter writer;
     bool saved = openWriter(writer, path);
     if (saved) {
@@ -320,12 +323,11 @@ bool saveProject(const std::string& folder, const std::string& name, bool quiet)
         return false;
     }
     if (overDamagedFile(path)) project.damagedFile.clear();
+    if (quiet) return true;
     project.projectModified = 0;
-    if (!quiet) {
-        project.projectName = name;
-        project.projectDir = folder;
-        project.projectTitle = titleOf(name);
-    }
+    project.projectName = name;
+    project.projectDir = folder;
+    project.projectTitle = titleOf(name);
     return true;
 }
 
@@ -335,14 +337,25 @@ std::string backupName(const std::string& name) {
 }
 
 bool autoBackup() {
+    host.commitEditor();
+    if (!project.projectModified) return true;
     if (project.projectName.empty()) return saveProject(currentFolder(), "Auto_Backup.wdp", true);
     return saveProject(project.projectDir, backupName(project.projectName), true);
+}
+
+void startAnotherProject() {
+    project.sourceName.clear();
+    project.sourceDir.clear();
+    project.missingSource = {};
+    project.sourceStale = 1;
+    project.exeTime = 0;
 }
 
 bool executableCurrent() {
     if (project.fileVersion < VERSION_40 || project.sourceName.empty()) return false;
     const std::string source = joinPath(project.sourceDir, project.sourceName);
     if (!fileReadable(source)) {
+        project.missingSource = {project.sourceDir, project.sourceName, project.sourceStale};
         project.sourceStale = 1;
         project.sourceDir.clear();
         project.sourceName.clear();

@@ -109,10 +109,11 @@ struct MenuEntryRec {
     std::string icon2; // menu: check icon; tree: close icon
     std::string icon3; // menu: grey icon; tree: open icon
     int accel = 0;
-    int kind = 0;       // MenuKind
-    int level = 0;      // 0 at the top
-    int handle = 0;     // of the live entry; meaningless after loading
-    int callbackId = 0; // of the live entry; not stored
+    int kind = 0;         // MenuKind
+    int level = 0;        // 0 at the top
+    int handle = 0;       // of the live entry; not stored
+    int callbackId = 0;   // of the live entry; not stored
+    int storedHandle = 0; // what the file held there, kept for the next save
     std::array<CallbackSlot, ENTRY_SLOTS> slots;
     MenuEntryRec* next = nullptr;
 };
@@ -127,7 +128,8 @@ struct ListEntryRec {
 
 // The status bar of a form.
 struct StatusBarRec {
-    int handle = 0;                        // meaningless after loading
+    int handle = 0;                        // live; not stored
+    int storedHandle = 0;                  // what the file held there, kept for the next save
     int panes = 0;                         // panes in use, at most STATUS_PANES
     std::array<int, STATUS_PANES> sizes{}; // running right edge in pixels, -1 for the pane that takes the rest
     std::array<std::string, STATUS_PANES> texts;
@@ -158,7 +160,7 @@ struct WidgetNode {
     int selected = 0;                // 1 on the current widget
     MenuEntryRec* entries = nullptr; // form: menu; tree view: its entries
     int type = TYPE_NONE;
-    int parentHandle = 0; // live handle of the parent
+    int parentHandle = 0; // live handle of the parent; not stored
     int reserved = 0;     // kept through load and save; nothing reads it
     int hpos = 0;         // -1 left, 0 centre, 1 right
     int vpos = 0;         // -1 bottom, 0 middle, 1 top
@@ -198,8 +200,12 @@ struct WidgetNode {
     float xMax = 0;
     float yMin = 0;
     float yMax = 0;
-    std::string text; // title, label or initial text, at most TEXT_LIMIT
-    int formCallbackId = 0;
+    std::string text;       // title, label or initial text, at most TEXT_LIMIT
+    int formCallbackId = 0; // live; not stored
+    // Live numbers mean nothing in a file. What stood there when the record was read is kept, so that a project that is
+    // only opened and saved stays the same file; 0 in a record that was made here.
+    int storedParentHandle = 0;
+    int storedFormCallbackId = 0;
     WidgetNode* child = nullptr;
     WidgetNode* next = nullptr;
     // Kept by tree.h; not for others to write.
@@ -303,6 +309,14 @@ using FileList = std::vector<std::string>;
 enum FileListIndex : int { LIST_SOURCES, LIST_OBJECTS, LIST_LIBRARIES, LIST_MODULES, FILE_LISTS };
 
 // The open project. One instance, `project`; the model writes it, everybody reads it.
+// A source that the project's file names and that is not there. The project goes without one until another is chosen;
+// the file keeps the name, for the source may come back.
+struct MissingSource {
+    std::string folder;
+    std::string name; // empty: none is missing
+    int stale = 1;
+};
+
 struct ProjectState {
     WidgetNode* forms = nullptr;
     WidgetNode* currentWidget = nullptr; // shown in the property sheet; null when nothing is selected
@@ -334,6 +348,7 @@ struct ProjectState {
     std::string sourceDir;
     std::string sourceName;
     std::string storedSource; // path of the source that the project's file names, whether or not it is there
+    MissingSource missingSource;
     std::string projectTitle; // name without extension; default of the file dialogues
     std::string projectName;  // remembered file name, empty for an untitled project
     std::string projectDir;   // its folder

@@ -124,7 +124,7 @@ void readSizes(FileReader& reader, std::vector<int>& sizes, int count) {
 void readStatusBar(FileReader& reader, WidgetNode& node) {
     node.statusBar = std::make_unique<StatusBarRec>();
     StatusBarRec& bar = *node.statusBar;
-    readNumber(reader, bar.handle);
+    readNumber(reader, bar.storedHandle);
     for (int& size : bar.sizes) readNumber(reader, size);
     for (std::string& text : bar.texts) readString(reader, text);
     readNumber(reader, bar.panes);

@@ -71,7 +71,7 @@ void limitCount(int& count, std::size_t held) {
 
 void writeStatusBar(FileWriter& writer, const StatusBarRec& bar) {
     writeKeyword(writer, KEY_STABAR);
-    writeNumber(writer, bar.handle);
+    writeNumber(writer, bar.storedHandle);
     for (int size : bar.sizes) writeNumber(writer, size);
     for (const std::string& text : bar.texts) writeString(writer, text);
     writeNumber(writer, bar.panes);

@@ -5,6 +5,7 @@
 #include "project/preferences.h"
 #include "settings/places.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 
@@ -17,7 +18,11 @@ enum FieldKind { FIELD_NUMBER, FIELD_NEGATED, FIELD_TEXT };
 struct PreferenceField {
     FieldKind kind;
     int Preferences::*number; // null for the text
+    int least = 0, most = 1;  // a number outside them is damage
 };
+
+static constexpr int LONGEST_BACKUP = 24 * 60; // minutes
+static constexpr int WIDEST_INDENT = 99;       // blanks
 
 // In file order.
 static constexpr PreferenceField FIELDS[] = {
@@ -29,28 +34,43 @@ static constexpr PreferenceField FIELDS[] = {
     {FIELD_NUMBER, &Preferences::generateSavesProject},
     {FIELD_NUMBER, &Preferences::saveGeneratesCode},
     {FIELD_NUMBER, &Preferences::autoBackupOn},
-    {FIELD_NUMBER, &Preferences::autoBackupMinutes},
+    {FIELD_NUMBER, &Preferences::autoBackupMinutes, 1, LONGEST_BACKUP},
     {FIELD_NUMBER, &Preferences::configCheck},
     {FIELD_TEXT, nullptr}, // configDirExpr
-    {FIELD_NUMBER, &Preferences::globalIndent},
-    {FIELD_NUMBER, &Preferences::codePointSize},
-    {FIELD_NUMBER, &Preferences::selectedIndent},
-    {FIELD_NUMBER, &Preferences::tabSpaces},
+    {FIELD_NUMBER, &Preferences::globalIndent, 0, WIDEST_INDENT},
+    {FIELD_NUMBER, &Preferences::codePointSize, SMALLEST_CODE_FONT, LARGEST_CODE_FONT},
+    {FIELD_NUMBER, &Preferences::selectedIndent, 0, WIDEST_INDENT},
+    {FIELD_NUMBER, &Preferences::tabSpaces, 0, WIDEST_INDENT},
     {FIELD_NUMBER, &Preferences::replaceTab},
 };
 static_assert(sizeof FIELDS / sizeof *FIELDS == 16);
 
+static bool printable(const std::string& text) {
+    return std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; });
+}
+
+// What no user can have set leaves the field at its default.
 static void takeField(Preferences& values, const PreferenceField& field, const std::string& text) {
     if (field.kind == FIELD_TEXT) {
-        values.configDirExpr = text;
+        if (printable(text)) values.configDirExpr = text;
         return;
     }
-    const int number = static_cast<int>(std::strtol(text.c_str(), nullptr, 10));
-    values.*field.number = field.kind == FIELD_NEGATED ? number == 0 : number;
+    char* end = nullptr;
+    const long number = std::strtol(text.c_str(), &end, 10);
+    if (end == text.c_str() || number < field.least || number > field.most) return;
+    values.*field.number = field.kind == FIELD_NEGATED ? number == 0 : static_cast<int>(number);
+}
+
+// As many bytes as the slot has room for, without half of a character at their end.
+static std::size_t bytesOfCharacters(const std::string& text) {
+    std::size_t bytes = std::min(text.size(), SLOT_BYTES - 1);
+    const auto inside = [&](std::size_t at) { return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U; };
+    while (bytes > 0 && bytes < text.size() && inside(bytes)) bytes--;
+    return bytes;
 }
 
 static std::string fieldText(const Preferences& values, const PreferenceField& field) {
-    if (field.kind == FIELD_TEXT) return values.configDirExpr.substr(0, SLOT_BYTES - 1);
+    if (field.kind == FIELD_TEXT) return values.configDirExpr.substr(0, bytesOfCharacters(values.configDirExpr));
     const int number = values.*field.number;
     return std::to_string(field.kind == FIELD_NEGATED ? static_cast<int>(number == 0) : number);
 }
@@ -59,7 +79,7 @@ void loadPreferences(int defaultPointSize) {
     preferences = {};
     preferences.codePointSize = defaultPointSize;
     std::string bytes;
-    readTextFile(settingsFileToRead(FILE_NAME), bytes);
+    readTextFile(settingsFileToRead(FILE_NAME), bytes, SLOT_BYTES * std::size(FIELDS));
     std::size_t start = 0;
     for (const PreferenceField& field : FIELDS) {
         if (start + SLOT_BYTES > bytes.size()) return;
@@ -68,6 +88,8 @@ void loadPreferences(int defaultPointSize) {
         start += SLOT_BYTES;
     }
 }
+
+void syntaxNotAvailable() { preferences.syntaxColours = 0; }
 
 void savePreferences() {
     std::string bytes;

@@ -1,9 +1,13 @@
 // The preferences file "wdesign.prf": sixteen numbers and texts in slots of 25 bytes.
 #pragma once
 
-// Fills `preferences`. Fields that the file does not hold take their defaults; `defaultPointSize` is the one of the
+// Fills `preferences`. Fields that the file does not hold, or that hold what no user can
+// have set, take their defaults; `defaultPointSize` is the one of the
 // code font, which depends on the system.
 void loadPreferences(int defaultPointSize);
+
+// Switches the colours of the code off for this session: there are no attributes to show it with.
+void syntaxNotAvailable();
 
 // Writes the file. Tells the user when it cannot.
 void savePreferences();

@@ -10,7 +10,8 @@ inline constexpr int RECENT_CALLBACK = 14090; // of the first entry; the others 
 // Reads the list and adds its entries to the menu with the handle `menu`, behind a separator.
 void loadRecentProjects(int menu);
 
-// Puts `path` at the top of the list, in the file and in the menu.
+// Puts `path` at the top of the list, in the file and in the menu, each project once and by its whole path. A path that
+// a line of the file has no room for is left out.
 void addRecentProject(int menu, const std::string& path);
 
 // The path of an entry, 0 the most recent; empty for none.

@@ -8,13 +8,14 @@
 #include "settings/places.h"
 #include "surface/window_states.h"
 
+#include <algorithm>
 #include <cstdio>
-#include <memory>
+#include <optional>
+#include <sstream>
 #include <string>
+#include <vector>
 
 static const char FILE_NAME[] = "wdesign.ini";
-
-using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
 
 enum WindowKind { KIND_WINDOW, KIND_PANE, KIND_BAR };
 
@@ -50,27 +51,80 @@ static WindowState fallbackOf(const WindowRowInfo& info, int screenWidth, int sc
     return state;
 }
 
-// One line from where the last scan stopped, whether that one succeeded or not.
-static bool scanRow(std::FILE* file, WindowRow row, WindowState& state) {
-    int pointSize = 0; // stored for the editor's line, but the preferences hold the value in force
-    if (row == WINDOW_CODE_EDITOR)
-        return std::fscanf(file, "%6d %6d %6d %6d %3d %3d", &state.x, &state.y, &state.width, &state.height,
-                           &state.state, &pointSize) == 6;
-    return std::fscanf(file, "%6d %6d %6d %6d %3d", &state.x, &state.y, &state.width, &state.height, &state.state) == 5;
+// ---- Reading ----
+
+static constexpr int LARGEST_NUMBER = 999999; // that a row can hold
+static constexpr std::size_t FILE_LIMIT = 1 << 16;
+
+using Row = std::vector<int>;
+
+// The numbers of a line; nothing when something else stands there.
+static std::optional<Row> numbersOf(const std::string& line) {
+    std::istringstream words(line);
+    Row numbers;
+    std::string word;
+    while (words >> word) {
+        std::size_t used = 0;
+        const bool digits = word.size() <= 8 && word.find_first_not_of("0123456789", word[0] == '-') == word.npos;
+        const int number = digits && word != "-" ? std::stoi(word, &used) : 0;
+        if (used == 0 || number < -LARGEST_NUMBER || number > LARGEST_NUMBER) return std::nullopt;
+        numbers.push_back(number);
+    }
+    return numbers;
 }
 
+// The editor's row ends with the size of the code font; the preferences hold the one in force.
+static std::size_t numbersIn(WindowRow row) { return row == WINDOW_CODE_EDITOR ? 6 : 5; }
+
+// A row stands on its line, so that one that is damaged costs no other. In a file of numbers alone the lines may be
+// broken anywhere, if they come to all the rows.
+static std::vector<Row> readRows() {
+    std::vector<Row> rows;
+    std::string text, line;
+    readTextFile(settingsFileToRead(FILE_NAME), text, FILE_LIMIT);
+    std::size_t wanted = 0;
+    for (const WindowRowInfo& info : ROWS) wanted += numbersIn(info.row);
+    const std::optional<Row> all = numbersOf(text);
+    if (all && all->size() == wanted) {
+        auto next = all->begin();
+        for (const WindowRowInfo& info : ROWS) {
+            const auto count = static_cast<std::ptrdiff_t>(numbersIn(info.row));
+            rows.emplace_back(next, next + count);
+            next += count;
+        }
+        return rows;
+    }
+    std::istringstream lines(text);
+    while (rows.size() < WINDOW_ROWS && std::getline(lines, line)) rows.push_back(numbersOf(line).value_or(Row()));
+    return rows;
+}
+
+static bool knownState(int state, WindowKind kind) {
+    return kind == KIND_WINDOW ? state >= 0 : state >= POSITION_BOTTOM && state <= POSITION_FLOATING;
+}
+
+// False when the row cannot be shown.
+static bool takeRow(const Row& row, const WindowRowInfo& info, WindowState& state) {
+    if (row.size() < numbersIn(info.row)) return false;
+    state = {.x = row[0], .y = row[1], .width = row[2], .height = row[3], .state = row[4]};
+    const bool sized = state.width > 0 && (info.kind == KIND_BAR ? state.height >= 0 : state.height > 0);
+    return sized && knownState(state.state, info.kind);
+}
+
+// A window is as large as the screen at most, and then stands inside it.
 static void pullInsideScreen(WindowState& state, WindowKind kind, int screenWidth, int screenHeight) {
-    if (kind != KIND_BAR && state.x < 0) state.x = 0;
-    if (state.y < 0) state.y = 0;
-    if (kind != KIND_BAR && state.x + state.width > screenWidth) state.x = screenWidth - state.width;
-    if (state.y + state.height > screenHeight) state.y = screenHeight - state.height;
+    state.width = std::min(state.width, screenWidth);
+    state.height = std::min(state.height, screenHeight);
+    if (kind != KIND_BAR) state.x = std::clamp(state.x, 0, screenWidth - state.width);
+    state.y = std::clamp(state.y, 0, screenHeight - state.height);
 }
 
 void loadWindowStates(int screenWidth, int screenHeight) {
-    const File file(std::fopen(settingsFileToRead(FILE_NAME).c_str(), "r"), std::fclose);
+    const std::vector<Row> rows = readRows();
     for (const WindowRowInfo& info : ROWS) {
         WindowState state;
-        if (file && scanRow(file.get(), info.row, state))
+        const auto at = static_cast<std::size_t>(info.row);
+        if (at < rows.size() && takeRow(rows[at], info, state))
             pullInsideScreen(state, info.kind, screenWidth, screenHeight);
         else
             state = fallbackOf(info, screenWidth, screenHeight);
@@ -78,6 +132,8 @@ void loadWindowStates(int screenWidth, int screenHeight) {
         windowStates[info.row] = state;
     }
 }
+
+// ---- Writing ----
 
 // Brings a row up to date from its live window. The rows of the master window and of the Text Editor follow their own
 // events, so they hold what is to be stored.

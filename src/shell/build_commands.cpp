@@ -1,5 +1,6 @@
 #include "shell/build_commands.h"
 
+#include "build/catalogue.h"
 #include "build/driver.h"
 #include "build/execute.h"
 #include "build/hooks.h"
@@ -35,25 +36,35 @@ static bool askSourceFile() {
     return false;
 }
 
-static bool generateTo(const std::string& path) {
+// A source that was chosen now belongs to the project. One that was saved a moment ago is saved again with it.
+static void keepChosenSource() {
+    const bool saving = preferences.generateSavesProject || preferences.saveGeneratesCode;
+    if (project.projectModified) return;
+    if (project.projectName.empty() || !saving || !saveOpenProject()) project.projectModified = 1;
+}
+
+static bool generateTo(const std::string& before) {
+    const std::string path = sourcePath();
     if (!generateSource(path, project.sourceName)) return false;
-    const std::string title = environment.mainTitle + " - [" + project.projectTitle + " - " + projectKind() + "]";
-    owSetWidgetProp(MASTER_WINDOW, owTitle, title.c_str(), 0);
+    if (path != before) keepChosenSource();
+    showProjectTitle();
     enableExecute(false); // there is no program of this source yet
     return true;
 }
 
 bool generateKnownSource() {
     commitEditor();
+    const std::string before = sourcePath();
     if (project.sourceName.empty() && !askSourceFile()) return false;
-    return generateTo(sourcePath());
+    return generateTo(before);
 }
 
 void generateCommand() {
     selectTool(TOOL_SELECTOR);
     commitEditor();
     if (preferences.generateSavesProject) saveOpenProject();
-    if (askSourceFile()) generateTo(sourcePath());
+    const std::string before = sourcePath();
+    if (askSourceFile()) generateTo(before);
 }
 
 // ---- Building and running -------------------------------------------------------------------------------------
@@ -127,8 +138,8 @@ void buildCompilerLog(int pane) {
         .selectLogLine = selectLogLine,
         .showLog = [] { showControlWindow(CMD_VIEW_COMPILER_LOG); },
         .idle = owUpdateWindows,
-        .cancelled = [] { return false; },
-        .enableCompile = enableCompile,
+        .cancelled = [] { return owStopAsked(CMD_ABORT) != 0; },
+        .enableCompile = [](bool enabled) { enableCompile(enabled && compilerFitsProject(false)); },
         .enableExecute = enableExecute,
         .enableAbort = [](bool enabled) { setCommandStatus(CMD_ABORT, enabled); },
         .enablePrintErrors = [](bool enabled) { setCommandStatus(CMD_PRINT_ERRORS, enabled); },

@@ -4,6 +4,7 @@
 #include "build/execute.h"
 #include "codegen/generate.h"
 #include "editing/modes.h"
+#include "editing/syntax.h"
 #include "menu-c.h"
 #include "project/defaults.h"
 #include "project/host.h"
@@ -59,6 +60,7 @@ static void readSettings() {
 static void buildWindows() {
     buildMasterWindow();
     selectTool(TOOL_SELECTOR);
+    if (preferences.syntaxColours && !loadSyntaxAttributes()) syntaxNotAvailable();
     buildControlWindows();
     loadRecentProjects(fileMenu());
     showPreferenceLabels();

@@ -2,6 +2,7 @@
 
 #include "build/catalogue.h"
 #include "build/execute.h"
+#include "build/log.h"
 #include "codegen/generate.h"
 #include "editing/code_editor.h"
 #include "editing/modes.h"
@@ -22,8 +23,6 @@
 #include "surface/selection.h"
 #include "surface/state.h"
 
-#include <algorithm>
-
 // Where the form file dialogues were left; the name is also where Save Form goes.
 static FilePlace formFile;
 
@@ -31,7 +30,8 @@ void forgetFormFile() { formFile.name.clear(); }
 
 void showProjectTitle() {
     std::string title = environment.mainTitle;
-    if (!project.projectName.empty()) title += " - [" + project.projectName + " - " + projectKind() + "]";
+    const std::string& name = project.projectName.empty() ? project.projectTitle : project.projectName;
+    if (!name.empty()) title += " - [" + name + " - " + projectKind() + "]";
     owSetWidgetProp(MASTER_WINDOW, owTitle, title.c_str(), 0);
 }
 
@@ -44,6 +44,26 @@ static bool saveTo(const std::string& folder, const std::string& name) {
     return true;
 }
 
+// What makes a project the owner of its source and program.
+struct ProjectSource {
+    std::string folder, name;
+    MissingSource missing;
+    int stale;
+    std::int64_t exeTime;
+};
+
+static ProjectSource sourceOfProject() {
+    return {project.sourceDir, project.sourceName, project.missingSource, project.sourceStale, project.exeTime};
+}
+
+static void restoreSource(const ProjectSource& source) {
+    project.sourceDir = source.folder;
+    project.sourceName = source.name;
+    project.missingSource = source.missing;
+    project.sourceStale = source.stale;
+    project.exeTime = source.exeTime;
+}
+
 static bool chooseProjectName(bool asksOverwrite, FilePlace& place) {
     place.folder = project.projectDir.empty() ? currentFolder() : project.projectDir;
     place.name = project.projectTitle;
@@ -52,7 +72,18 @@ static bool chooseProjectName(bool asksOverwrite, FilePlace& place) {
 
 static bool saveUnderChosenName() {
     FilePlace place;
-    return chooseProjectName(true, place) && saveTo(place.folder, place.name);
+    if (!chooseProjectName(true, place)) return false;
+    const std::string old = joinPath(project.projectDir, project.projectName);
+    if (project.projectName.empty() || absolutePath(old) == absolutePath(joinPath(place.folder, place.name)))
+        return saveTo(place.folder, place.name);
+    const ProjectSource before = sourceOfProject();
+    startAnotherProject();
+    if (!saveTo(place.folder, place.name)) {
+        restoreSource(before);
+        return false;
+    }
+    enableExecute(false);
+    return true;
 }
 
 bool saveOpenProject() {
@@ -69,8 +100,7 @@ bool saveQuestion(const char* title, bool asksOverwrite) {
     }
     if (!project.projectName.empty()) return saveTo(project.projectDir, project.projectName);
     FilePlace place;
-    if (!chooseProjectName(asksOverwrite, place)) return true; // no name, no save: the caller goes on
-    return saveTo(place.folder, place.name);
+    return chooseProjectName(asksOverwrite, place) && saveTo(place.folder, place.name);
 }
 
 static void saved(bool success) {
@@ -87,12 +117,10 @@ void saveProjectAsCommand() {
     saved(saveUnderChosenName());
 }
 
-static constexpr int MINUTE = 60000;           // milliseconds
-static constexpr int LONGEST_PERIOD = 24 * 60; // minutes; longer ones are kept in the file but not waited for
+static constexpr int MINUTE = 60000; // milliseconds
 
 void startAutoBackup() {
-    const int minutes = std::clamp(preferences.autoBackupMinutes, 1, LONGEST_PERIOD);
-    owDefineTimerCallback(preferences.autoBackupOn ? minutes * MINUTE : 0, CMD_AUTO_BACKUP);
+    owDefineTimerCallback(preferences.autoBackupOn ? preferences.autoBackupMinutes * MINUTE : 0, CMD_AUTO_BACKUP);
 }
 
 void autoBackupCommand() { autoBackup(); }
@@ -104,6 +132,7 @@ static bool programRunning() { return childProcess.handle != 0; }
 // What follows from language, platform and grid of the project that has just come in.
 static void adoptProjectSettings() {
     owSetSnapGrid(project.snapOn ? project.snapGrid : 1);
+    forgetLog();
     const bool fits = compilerFitsProject(true);
     enableCompile(fits && !programRunning());
     refreshCommands();
@@ -156,8 +185,8 @@ FilePlace placeFromCommandLine(const std::string& commandLine) {
     const std::string rest = quoted ? commandLine.substr(1) : commandLine;
     const std::string path = rest.substr(0, rest.find_first_of(quoted ? "\"" : " \""));
     const std::string folder = folderOf(path);
-    if (folder.empty() && fileNameOf(path) == path) return {currentFolder(), path};
-    return {folder.empty() ? std::string(1, nativeSeparator()) : folder, fileNameOf(path)};
+    if (folder.empty()) return {currentFolder(), path};
+    return {isAbsolutePath(folder) ? folder : absolutePath(folder), fileNameOf(path)};
 }
 
 // ---- New and exit ---------------------------------------------------------------------------------------------

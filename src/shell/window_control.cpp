@@ -66,7 +66,9 @@ static bool isShown(const ControlWindow& window) { return commandStatus(window.v
 
 bool controlWindowShown(int viewCommand) { return isShown(windowOfView(viewCommand)); }
 
-static constexpr int STATE_MAXIMIZED = 4; // of the master window's row
+// Of the master window's row, as the toolkit tells them.
+static constexpr int STATE_MAXIMIZED = OMAXIMIZE;
+static constexpr int STATE_MINIMIZED = OMINIMIZE;
 
 // ---- Building -------------------------------------------------------------------------------------------------
 
@@ -76,9 +78,10 @@ static const int STATUS_BAR_SIZES[STATUS_BAR_PANES] = {300, 400, 500, -1}; // ri
 
 void buildMasterWindow() {
     WindowState& state = windowStates[WINDOW_MASTER];
-    state.handle = owCreateMDIMasterWindow(
-        state.x, state.y, state.width, state.height, OALL, environment.mainTitle.c_str(), owVpos, OTOP, owIconFile,
-        "Light", owIconFormat, ODLLICON, owCallback, CMD_MASTER_WINDOW, owInitState, state.state, 0);
+    state.handle = owCreateMDIMasterWindow(state.x, state.y, state.width, state.height, OALL,
+                                           environment.mainTitle.c_str(), owVpos, OTOP, owIconFile, "Light",
+                                           owIconFormat, ODLLICON, owCallback, CMD_MASTER_WINDOW, owInitState,
+                                           state.state == STATE_MAXIMIZED ? OMAXIMIZE : ONORMAL, 0);
     buildMenuBar(state.handle);
     windowStates[WINDOW_ICON_BAR].handle = buildIconBar(state.handle);
     windowStates[WINDOW_TOOL_BOX].handle = buildToolBox(state.handle);
@@ -217,14 +220,23 @@ void raiseWindowsCommand() {
     }
 }
 
+static void placeMasterWindow(const WindowState& row) {
+    OWIDGET info = {};
+    owEnqWidgetInfo(MASTER_WINDOW, &info);
+    info.state = ONORMAL; // a maximised window takes no place
+    owSetWidgetInfo(MASTER_WINDOW, &info);
+    owSetWidgetProp(MASTER_WINDOW, owXpos, row.x, owYpos, row.y, owWidth, row.width, owHeight, row.height, 0);
+    info.state = row.state;
+    info.xpos = row.x, info.ypos = row.y, info.width = row.width, info.height = row.height;
+    owSetWidgetInfo(MASTER_WINDOW, &info);
+}
+
 void defaultPositionsCommand() {
     deleteWindowStates();
     int screenWidth = 0, screenHeight = 0;
     owEnqScreenSize(&screenWidth, &screenHeight);
     loadWindowStates(screenWidth, screenHeight);
-    const WindowState& master = windowStates[WINDOW_MASTER];
-    owSetWidgetProp(MASTER_WINDOW, owXpos, master.x, owYpos, master.y, owWidth, master.width, owHeight, master.height,
-                    0);
+    placeMasterWindow(windowStates[WINDOW_MASTER]);
     owDrawWindow(MASTER_WINDOW, 1);
     for (const ControlWindow& window : CONTROL_WINDOWS) placeWindow(window);
     raiseWindowsCommand();
@@ -232,26 +244,22 @@ void defaultPositionsCommand() {
 
 // ---- The master window ----------------------------------------------------------------------------------------
 
-static void storeMasterPosition(WindowState& state) {
-    owEnqWidgetProp(MASTER_WINDOW, owXpos, &state.x, owYpos, &state.y, 0);
-}
-
-static void storeMasterSize(WindowState& state) {
+// The row keeps the place that the window has, or comes back to, when it is neither maximised nor minimised.
+static void storeMasterPlace(WindowState& state) {
     OWIDGET info = {};
     owEnqWidgetInfo(MASTER_WINDOW, &info);
-    if (info.width < 1 || info.height < 1) return;
+    if (info.state == STATE_MINIMIZED || info.width < 1 || info.height < 1) return;
     state.state = info.state;
-    if (info.state != STATE_MAXIMIZED) {
-        state.width = info.width;
-        state.height = info.height;
-    }
+    if (info.state == STATE_MAXIMIZED) return;
+    owEnqWidgetProp(MASTER_WINDOW, owXpos, &state.x, owYpos, &state.y, 0);
+    state.width = info.width;
+    state.height = info.height;
 }
 
 void masterWindowEvent() {
     static bool sheetPending = false;
     WindowState& state = windowStates[WINDOW_MASTER];
-    if (action.status == OMOVED) storeMasterPosition(state);
-    if (action.status == ORESIZED) storeMasterSize(state);
+    if (action.status == OMOVED || action.status == ORESIZED) storeMasterPlace(state);
     if (action.status == ORESIZED || action.status == OMINIMIZED) sheetPending = true;
     if (action.status != OMINIMIZED && sheetPending) {
         sheetPending = false;

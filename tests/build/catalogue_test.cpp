@@ -82,7 +82,8 @@ TEST_F(CatalogueTest, WithoutAScriptTheCompilersOnThePathDecide) {
     ScopedVariable none("PATH", (scratch / "bin").c_str());
     EXPECT_EQ(readCompilerCatalogue(), COMPILER_NONE);
     EXPECT_THAT(notes.boxes, ElementsAre("Designer Initialisation: Could not detect current ORBA Implementation|"
-                                         "Check ORBA environment variable set correctly"));
+                                         "Check ORBA environment variable set correctly|"
+                                         "No gfortran and no g++ was found on PATH; install them to compile"));
     notes.boxes.clear();
     folders.installDir.clear();
     EXPECT_EQ(readCompilerCatalogue(), COMPILER_NONE);

@@ -91,7 +91,7 @@ TEST_F(ExecuteTest, AbortEndsProgramsThatIgnoreIt) {
 TEST_F(ExecuteTest, AbortWithoutAProgramSaysSo) {
     abortCommand();
     EXPECT_THAT(notes.boxes, ElementsAre("Abort Application: Cannot find exit code of Project"));
-    EXPECT_THAT(notes.calls, ElementsAre("watch 0", "abort 0", "compile 1", "execute 1"));
+    EXPECT_THAT(notes.calls, ElementsAre("watch 0", "abort 0", "compile 1", "execute 0"));
 }
 
 TEST_F(ExecuteTest, ConsoleProgramsGetATerminal) {

@@ -18,6 +18,7 @@ void DesignerTest::SetUp() {
     data = root / "data";
     std::filesystem::create_directories(data);
     std::filesystem::current_path(root);
+    std::filesystem::copy_file(ORBA_SOURCE_DIR "/data/defaults.syn", root / "defaults.syn");
     setenv("ORBADATA", data.c_str(), 1);
     setenv("ORBA_NO_SPLASH", "1", 1);
     orba::testing::watchProgram(true);

@@ -7,6 +7,7 @@
 #include <QPoint>
 
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
 
 namespace robot = orba::testing;
@@ -24,6 +25,7 @@ int rowOf(const char* label) { return owPropertyItemNumber(propertyList(), label
 
 Desk::Desk() {
     settings = std::make_unique<ScratchFolder>("desk");
+    std::filesystem::copy_file(ORBA_SOURCE_DIR "/data/defaults.syn", settings->path / "wdesign.syn");
     setenv("ORBADATA", settings->path.c_str(), 1);
     setenv("ORBA_NO_SPLASH", "1", 1);
     startDesigner("");

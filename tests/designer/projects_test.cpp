@@ -41,13 +41,18 @@ TEST_F(DesignerTest, NoExitsWithoutASave) {
     EXPECT_EQ(design.quitRequested, 1);
 }
 
-TEST_F(DesignerTest, YesWithoutANameAsksForOneAndExitsEvenWithoutIt) {
+TEST_F(DesignerTest, YesAndThenNoNameCancelsWhatAskedForIt) {
     start();
     project.projectModified = 1;
     expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERYES);
     expectBrowser("Save Project As", "");
     send(CMD_EXIT);
-    EXPECT_EQ(design.quitRequested, 1);
+    EXPECT_EQ(design.quitRequested, 0);
+    expectBox("Start New Project", SAVE_TEXT, OANSWERYES);
+    expectBrowser("Save Project As", "");
+    send(CMD_NEW_PROJECT);
+    EXPECT_EQ(project.projectModified, 1);
+    project.projectModified = 0;
 }
 
 TEST_F(DesignerTest, YesSavesUnderTheChosenNameWithoutAskingAboutAnOldFile) {
@@ -157,19 +162,23 @@ TEST_F(DesignerTest, ANewProjectStartsAgain) {
     EXPECT_EQ(title(), "ORBAWIDG Designer v8.5");
 }
 
-TEST_F(DesignerTest, BackupsStandBesideTheProject) {
+TEST_F(DesignerTest, BackupsOfChangedProjectsStandBesideThemAndMarkNothing) {
     start();
     project.projectModified = 1;
     send(CMD_AUTO_BACKUP);
     send(CMD_AUTO_BACKUP);
     EXPECT_TRUE(pathExists(file("Auto_Backup.wdp")));
     EXPECT_EQ(project.projectName, "");
-    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(project.projectModified, 1);
     ASSERT_TRUE(saveProject(root.string(), "a.b.wdp", false));
+    send(CMD_AUTO_BACKUP);
+    EXPECT_FALSE(pathExists(file("a_Backup.b.wdp"))) << "nothing was changed since";
+    project.projectModified = 1;
     send(CMD_AUTO_BACKUP);
     EXPECT_TRUE(pathExists(file("a_Backup.b.wdp")));
     EXPECT_EQ(project.projectName, "a.b.wdp");
-    send(CMD_EXIT); // asks nothing
+    expectBox("Exit ORBAWIDG Designer", SAVE_TEXT, OANSWERNO);
+    send(CMD_EXIT);
     EXPECT_EQ(design.quitRequested, 1);
 }
 
@@ -215,6 +224,33 @@ TEST_F(DesignerTest, ACancelledGenerationLeavesNoName) {
     EXPECT_EQ(project.sourceName, "");
     EXPECT_EQ(project.sourceDir, "");
     EXPECT_EQ(project.sourceStale, 1);
+}
+
+// ---- Files ----------------------------------------------------------------------------------------------------
+
+// Where two files differ: the number of bytes and the first few places.
+static std::string difference(const std::string& first, const std::string& second) {
+    std::string places;
+    std::size_t count = first.size() == second.size() ? 0 : 1;
+    for (std::size_t at = 0; at < std::min(first.size(), second.size()); at++) {
+        if (first[at] == second[at]) continue;
+        if (count++ < 20) places += " " + std::to_string(at);
+    }
+    return count == 0 ? "" : std::to_string(count) + " bytes:" + places;
+}
+
+TEST_F(DesignerTest, AProjectThatIsOnlyOpenedAndSavedIsTheSameFile) {
+    for (const char* name : {"beam", "converter", "greeting", "heat"}) {
+        const std::string own = file(std::string(name) + ".wdp");
+        std::filesystem::copy_file(std::string(ORBA_SOURCE_DIR "/examples/") + name + "/" + name + ".wdp", own);
+        std::string before, after;
+        readTextFile(own, before);
+        start(own);
+        send(CMD_SAVE_PROJECT);
+        end();
+        readTextFile(own, after);
+        EXPECT_EQ(difference(before, after), "") << name;
+    }
 }
 
 // ---- The built program ----------------------------------------------------------------------------------------

@@ -83,7 +83,19 @@ static const WindowFileCase WINDOW_FILES[] = {
     {"right edge", GOOD_LINE + "2000 0 600 100 4\n", WINDOW_PROPERTIES, "424 0 600 100 4"},
     {"bottom edge", GOOD_LINE + "0 900 600 100 4\n", WINDOW_PROPERTIES, "0 668 600 100 4"},
     {"negative places", "-30 -7 600 500 4\n", WINDOW_MASTER, "0 0 600 500 4"},
-    {"a negative size stays", "5 6 -600 -50 4\n", WINDOW_MASTER, "5 6 -600 -50 4"},
+    {"a negative size", "5 6 -600 -50 4\n", WINDOW_MASTER, "4 42 1016 678 4"},
+    {"no size", "5 6 0 0 1\n", WINDOW_MASTER, "4 42 1016 678 4"},
+    {"larger than the screen", "100 50 3840 2100 1\n", WINDOW_MASTER, "0 0 1024 768 1"},
+    {"a huge width", "0 0 40000 500 1\n", WINDOW_MASTER, "0 0 1024 500 1"},
+    {"more digits than a number has", "0 0 99999999999999999999 500 1\n", WINDOW_MASTER, "4 42 1016 678 4"},
+    {"no number", "nan inf 1e3 0x10 1\n", WINDOW_MASTER, "4 42 1016 678 4"},
+    {"an empty row", "\n" + GOOD_LINE, WINDOW_MASTER, "4 42 1016 678 4"},
+    {"and the row behind it", "\n" + GOOD_LINE, WINDOW_PROPERTIES, "10 20 300 200 2"},
+    {"the row behind a short one", "1 2 3\n" + GOOD_LINE, WINDOW_PROPERTIES, "10 20 300 200 2"},
+    {"the row behind a word", "word\n" + GOOD_LINE, WINDOW_PROPERTIES, "10 20 300 200 2"},
+    {"a pane at no side", GOOD_LINE + "10 20 300 200 17\n", WINDOW_PROPERTIES, "0 0 235 513 3"},
+    {"a bar without width", GOOD_LINE + GOOD_LINE + GOOD_LINE + GOOD_EDITOR + GOOD_LINE + "0 0 -5 0 1\n",
+     WINDOW_ICON_BAR, "0 0 1000 0 1"},
     {"bars are held by the bottom edge only",
      GOOD_LINE + GOOD_LINE + GOOD_LINE + GOOD_EDITOR + GOOD_LINE + "-2000 -5 600 100 4\n", WINDOW_ICON_BAR,
      "-2000 0 600 100 4"},
@@ -91,7 +103,9 @@ static const WindowFileCase WINDOW_FILES[] = {
      GOOD_LINE + GOOD_LINE + GOOD_LINE + GOOD_EDITOR + GOOD_LINE + "2000 900 600 100 4\n", WINDOW_ICON_BAR,
      "2000 668 600 100 4"},
     {"a word spoils its line", "1 2 three 4 5\n", WINDOW_MASTER, "4 42 1016 678 4"},
-    {"lines may be broken anywhere", "1 2\n3 4 5 11 12 13 14 3\n", WINDOW_PROPERTIES, "11 12 13 14 3"},
+    {"lines may be broken anywhere",
+     "1 2\n3 4 5 11 12 13 14 3 " + GOOD_LINE + GOOD_EDITOR + GOOD_LINE + GOOD_LINE + "1\n2 3 4 3\n" + GOOD_LINE,
+     WINDOW_PROPERTIES, "11 12 13 14 3"},
     {"the editor's line needs its sixth number", GOOD_LINE + GOOD_LINE + GOOD_LINE + "1 2 3 4 5 x\n",
      WINDOW_CODE_EDITOR, "0 0 560 462 2"},
 };
@@ -202,4 +216,31 @@ TEST_F(SettingsFiles, AShortPreferenceFileLeavesTheRestAtDefaults) {
     EXPECT_EQ(preferences.delDeletes, 0);
     EXPECT_EQ(preferences.syntaxColours, 1);
     EXPECT_EQ(preferences.autoBackupMinutes, 20);
+}
+
+TEST_F(SettingsFiles, NumbersThatNobodyCanHaveSetLeaveTheirDefault) {
+    loadPreferences(9);
+    const Preferences defaults = preferences;
+    for (const char* number : {"-7", "999999999", "99999999999999999999", "nan", "1e", "", "word", "\xff\x01"}) {
+        writeTextFile((data / "wdesign.prf").string(),
+                      slots({number, number, number, number, number, number, number, number, number, number, "", number,
+                             number, number, number, number}));
+        loadPreferences(9);
+        if (std::string(number) == "1e") continue; // a number ahead of something else counts
+        EXPECT_EQ(preferences.repeatPlacement, defaults.repeatPlacement) << number;
+        EXPECT_EQ(preferences.delDeletes, 1) << number;
+        EXPECT_EQ(preferences.autoBackupOn, 1) << number;
+        EXPECT_EQ(preferences.autoBackupMinutes, 20) << number;
+        EXPECT_EQ(preferences.globalIndent, 9) << number;
+        EXPECT_EQ(preferences.codePointSize, 9) << number;
+        EXPECT_EQ(preferences.tabSpaces, 6) << number;
+    }
+}
+
+TEST_F(SettingsFiles, ALongExpressionIsCutBetweenCharacters) {
+    loadPreferences(9);
+    preferences.configDirExpr = "12345678901234567890123\u00E9"; // 23 bytes and one of two
+    savePreferences();
+    loadPreferences(9);
+    EXPECT_EQ(preferences.configDirExpr, "12345678901234567890123");
 }

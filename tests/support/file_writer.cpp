@@ -45,7 +45,7 @@ void text(Stream& s, const WidgetNode& n) {
 void fields(Stream& s, const WidgetNode& n) {
     s.str(n.name);
     s.num(n.selected);
-    s.num(n.formCallbackId);
+    s.num(n.storedFormCallbackId);
     s.str(n.icon);
     s.str(n.backgroundImage);
     s.str(n.parentName);
@@ -53,7 +53,7 @@ void fields(Stream& s, const WidgetNode& n) {
     s.num(n.formType);
     s.num(n.type);
     s.num(n.reserved);
-    s.num(n.parentHandle);
+    s.num(n.storedParentHandle);
     s.num(n.xpos);
     s.num(n.ypos);
     s.num(n.width);
@@ -140,7 +140,7 @@ void entry(Stream& s, const MenuEntryRec& e) {
     s.code(e.slots[ENTRY_GENERAL], "\n");
     if (s.from(50))
         for (int slot : {ENTRY_SELECT, ENTRY_CHANGE, ENTRY_DRAG_DROP, ENTRY_DOUBLE_CLICK}) s.code(e.slots[slot], "\n");
-    for (int number : {e.kind, e.level, e.handle, e.accel}) s.num(number);
+    for (int number : {e.kind, e.level, e.storedHandle, e.accel}) s.num(number);
 }
 
 void chain(Stream& s, const WidgetNode* n);
@@ -155,7 +155,7 @@ void record(Stream& s, const WidgetNode& n) {
     }
     if (n.statusBar && n.type == TYPE_FORM) {
         s.key("STABAR");
-        s.num(n.statusBar->handle);
+        s.num(n.statusBar->storedHandle);
         for (int size : n.statusBar->sizes) s.num(size);
         for (const std::string& pane : n.statusBar->texts) s.str(pane);
         s.num(n.statusBar->panes);

@@ -7,8 +7,6 @@
 
 namespace {
 
-bool isHandle(std::string_view field) { return field == "parentHandle" || field == "formCallbackId"; }
-
 void note(std::string& out, const WidgetNode& node, std::string_view field, const std::string& left,
           const std::string& right) {
     if (left != right) out += node.name + "." + std::string(field) + ": " + left + " against " + right + "\n";
@@ -16,7 +14,6 @@ void note(std::string& out, const WidgetNode& node, std::string_view field, cons
 
 void compareRecord(std::string& out, const WidgetNode& left, const WidgetNode& right) {
     for (const FieldRow& row : recordFields()) {
-        if (isHandle(row.name)) continue;
         if (row.number) note(out, left, row.name, std::to_string(left.*row.number), std::to_string(right.*row.number));
         if (row.real) note(out, left, row.name, std::to_string(left.*row.real), std::to_string(right.*row.real));
         if (row.string) note(out, left, row.name, left.*row.string, right.*row.string);

@@ -32,9 +32,9 @@ struct Maker {
                                                &WidgetNode::bubbleHelp, &WidgetNode::xLabels, &WidgetNode::yLabels,
                                                &WidgetNode::fontFace, &WidgetNode::closeIcon, &WidgetNode::openIcon})
             n.*field = text(chance(5) ? 255 : 12);
-        for (int WidgetNode::*field : {&WidgetNode::formCallbackId,
+        for (int WidgetNode::*field : {&WidgetNode::storedFormCallbackId,
                                        &WidgetNode::reserved,
-                                       &WidgetNode::parentHandle,
+                                       &WidgetNode::storedParentHandle,
                                        &WidgetNode::xpos,
                                        &WidgetNode::ypos,
                                        &WidgetNode::width,

@@ -506,6 +506,8 @@ int owAction(int* callback);  /* waits for an event; gives and returns its ident
 void owEnqActionState(OACTION* action);
 void owPostCallback(int callback, int widget); /* appends an event of the program's own */
 void owFlushCallbackQueue(void);               /* forgets the events not yet read */
+int owStopAsked(int callback); /* as owUpdateWindows, but menus, what calls back with `callback`, and Esc can be used: 1
+                                 when one of them did. Other input waits for the next owAction. */
 void owUpdateWindows(void); /* repaints what has changed while a long command runs; input waits for the next owAction */
 void owEnqScreenSize(int* width, int* height); /* of the main screen, in pixels */
 int owEnqShiftKey(void); /* 1 while a Shift key is held down */

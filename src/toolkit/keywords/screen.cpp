@@ -4,4 +4,5 @@
 
 void owEnqScreenSize(int* width, int* height) { widgets::screenSize(*width, *height); }
 int owEnqShiftKey() { return widgets::shiftHeld() ? 1 : 0; }
+int owStopAsked(int callback) { return widgets::stopAsked(callback) ? 1 : 0; }
 void owUpdateWindows() { widgets::updateWindows(); }

@@ -1,6 +1,7 @@
 // The one queue of events, and the routines that read and feed it.
 #include "toolkit/checked/report.h"
 #include "toolkit/widgets/frame.h"
+#include "toolkit/widgets/screen.h"
 #include "toolkit/widgets/session.h"
 
 #include <QApplication>
@@ -84,6 +85,7 @@ void keepScreenAlive() {
 Word action(const Arguments& call) {
     if (sessionState() < 2) reportError(-1, 0, false);
     eraseDoomed();
+    widgets::releaseHeldInput();
     if (session.queue.empty()) {
         waitForEvent();
     } else {

@@ -255,6 +255,11 @@ Word takeInfo(const Arguments& call) {
         const int number = *infoMember(wanted, property);
         if (number != present.integer) setProperty(widget, property, {.integer = number, .real = 0, .text = {}});
     }
+    // A window's state comes last: a maximised window takes no place.
+    constexpr int STATE = 10;
+    Value state;
+    if (getProperty(widget, STATE, state) && state.integer != wanted.state)
+        setProperty(widget, STATE, {.integer = wanted.state, .real = 0, .text = {}});
     // Compared as the record holds it, so that a text longer than the record is not cut by writing it back.
     char present[sizeof info->text];
     textOut(textOf(widget), present, static_cast<int>(sizeof present));

@@ -123,7 +123,23 @@ bool getWindowProperty(Widget& window, int property, Value& value) {
     }
 }
 
+void setWindowState(Widget& window, int state) {
+    QWidget* outer = outerOf(window);
+    dataOfWindow(window).initState = state == OMAXIMIZE || state == OMINIMIZE ? state : ONORMAL;
+    if (!outer->isVisible()) return;
+    startSettling(window);
+    switch (state) {
+    case OMAXIMIZE: outer->showMaximized(); break;
+    case OMINIMIZE: outer->showMinimized(); break;
+    default: outer->showNormal(); break;
+    }
+}
+
 bool setWindowProperty(Widget& window, int property, const Value& value) {
+    if (property == 10) {
+        setWindowState(window, value.integer);
+        return true;
+    }
     WindowData& data = dataOfWindow(window);
     readPlace(window);
     data.client = sizeOf(window);
