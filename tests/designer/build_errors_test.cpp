@@ -12,6 +12,8 @@
 #include "support/scratch.h"
 #include "surface/state.h"
 
+#include <filesystem>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -27,6 +29,7 @@ struct BuildErrors : testing::Test {
         if (toolkit.moduleDirs.empty() || !fileReadable(joinPath(toolkit.moduleDirs[0], "menu_f90.mod"))) {
             GTEST_SKIP() << "the modules are not built here";
         }
+        std::filesystem::copy_file(ORBA_SOURCE_DIR "/data/defaults.syn", scratch.path / "wdesign.syn");
         startDesigner("");
         started = true;
         preferences.generateSavesProject = 0;
