@@ -32,6 +32,7 @@ WidgetNode* copyRecord(const WidgetNode& source) {
     copy->indexedName = 0;
     copy->indexedHandle = 0;
     copy->inProject = false;
+    copy->id = 0;
     return copy;
 }
 

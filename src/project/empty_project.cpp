@@ -3,6 +3,7 @@
 #include "project/colours.h"
 #include "project/defaults.h"
 #include "project/host.h"
+#include "project/naming.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
 
@@ -85,6 +86,10 @@ WidgetNode* createFromDefaults(int type, int x, int y) {
 }
 
 WidgetNode* newForm() {
+    const bool first = project.nextFormNumber == 1;
+    while (!nameFree("Form" + std::to_string(project.nextFormNumber)) ||
+           !nameFree("Form" + std::to_string(project.nextFormNumber) + "_MainPanel"))
+        takeNumber(project.nextFormNumber);
     WidgetNode* form = createFromDefaults(TYPE_FORM, project.nextFormX, project.nextFormY);
     if (project.projectPlatform != 'w') {
         form->icon = "MBIG1084";
@@ -93,7 +98,7 @@ WidgetNode* newForm() {
     const std::string number = std::to_string(project.nextFormNumber);
     form->name = "Form" + number;
     form->text = "Form " + number;
-    form->formType = project.nextFormNumber == 1 ? FORM_MASTER_SDI : FORM_STATIC_SDI;
+    form->formType = first ? FORM_MASTER_SDI : FORM_STATIC_SDI;
     form->parentName = "NONE";
     ++project.widgetCount;
     linkChild(*form, mainPanelFor(*form));

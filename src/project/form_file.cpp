@@ -4,6 +4,7 @@
 #include "project/files.h"
 #include "project/header.h"
 #include "project/host.h"
+#include "project/naming.h"
 #include "project/records_io.h"
 #include "project/tree.h"
 
@@ -48,12 +49,18 @@ WidgetNode* lastForm() {
 
 // Appends the chain; false when its first form has a name that a form of the project has already.
 bool appendForms(WidgetNode* first) {
-    if (findForm(project.forms, first->name)) {
+    const bool form = findForm(project.forms, first->name);
+    if (form || NamesInUse().count(first->name) > 0) {
+        host.errorBox("Invalid Form Name", form ? "Form of same name alredy exists in this project"
+                                                : first->name + " is a name of something else in this project already");
         deleteList(first);
-        host.errorBox("Invalid Form Name", "Form of same name alredy exists in this project");
         return false;
     }
     adoptForms(first);
+    const std::string changed = numberTakenNames(first);
+    if (!changed.empty())
+        host.infoBox("Insert Form", "Names of the form that this project has already were changed:|" +
+                                        changed.substr(0, changed.size() - 1));
     return true;
 }
 

@@ -31,30 +31,36 @@ bool toChildMdi() {
     return formOfType(FORM_MASTER_MDI) || refuse("No Master MDI form found", "Cannot set a form to be child MDI");
 }
 
-bool takeOverMaster(const WidgetNode& form) {
-    WidgetNode* other = nullptr;
-    for (WidgetNode* f = project.forms; f && !other; f = f->next)
-        if (f != &form && isMaster(*f)) other = f;
-    if (!other) return true;
-    if (!agreed("Master already set",
-                "A form has already been set as the master.|If you set this form as the master, the current master "
-                "will become a child SDI window form.|Do you wish to continue?"))
-        return false;
-    other->formType = FORM_STATIC_SDI;
-    other->parentName = "NONE";
-    return true;
+WidgetNode* otherMaster(const WidgetNode& form) {
+    for (WidgetNode* other = project.forms; other; other = other->next)
+        if (other != &form && isMaster(*other)) return other;
+    return nullptr;
 }
 
-bool childrenToSdi() {
-    if (!formOfType(FORM_STATIC_MDI) && !formOfType(FORM_DYNAMIC_MDI)) return true;
-    if (!agreed("Master SDI Requested",
-                "All child MDI forms will be reset to child SDI forms|Do you wish to continue?"))
-        return false;
-    for (WidgetNode* form = project.forms; form; form = form->next) {
-        if (form->formType == FORM_STATIC_MDI) form->formType = FORM_STATIC_SDI;
-        if (form->formType == FORM_DYNAMIC_MDI) form->formType = FORM_DYNAMIC_SDI;
+bool mayTakeOver(const WidgetNode& form) {
+    return !otherMaster(form) ||
+           agreed("Master already set",
+                  "A form has already been set as the master.|If you set this form as the master, the current master "
+                  "will become a child SDI window form.|Do you wish to continue?");
+}
+
+bool childrenMayChange() {
+    return (!formOfType(FORM_STATIC_MDI) && !formOfType(FORM_DYNAMIC_MDI)) ||
+           agreed("Master SDI Requested",
+                  "All child MDI forms will be reset to child SDI forms|Do you wish to continue?");
+}
+
+// What a new master does to the other forms; only once nothing can be refused any more.
+void takeOver(const WidgetNode& form) {
+    if (WidgetNode* other = otherMaster(form)) {
+        other->formType = FORM_STATIC_SDI;
+        other->parentName = "NONE";
     }
-    return true;
+    if (form.formType != FORM_MASTER_SDI) return;
+    for (WidgetNode* child = project.forms; child; child = child->next) {
+        if (child->formType == FORM_STATIC_MDI) child->formType = FORM_STATIC_SDI;
+        if (child->formType == FORM_DYNAMIC_MDI) child->formType = FORM_DYNAMIC_SDI;
+    }
 }
 
 bool fitForMasterMdi(const WidgetNode& form) {
@@ -76,13 +82,16 @@ bool changeFormType(WidgetNode& form, int formType) {
     case FORM_DYNAMIC_SDI: accepted = toChildSdi(); break;
     case FORM_STATIC_MDI:
     case FORM_DYNAMIC_MDI: accepted = toChildMdi(); break;
-    case FORM_MASTER_SDI: accepted = takeOverMaster(form) && childrenToSdi(); break;
-    case FORM_MASTER_MDI: accepted = takeOverMaster(form) && fitForMasterMdi(form); break;
+    case FORM_MASTER_SDI: accepted = mayTakeOver(form) && childrenMayChange(); break;
+    case FORM_MASTER_MDI: accepted = mayTakeOver(form) && fitForMasterMdi(form); break;
     default: break;
     }
     if (!accepted) return false;
     form.formType = formType;
-    if (isMaster(form)) form.parentName = "NONE";
+    if (isMaster(form)) {
+        form.parentName = "NONE";
+        takeOver(form);
+    }
     project.projectModified = project.sourceStale = 1;
     return true;
 }

@@ -66,6 +66,9 @@ constexpr ToolRow tools[] = {
 
 constexpr char NO_PARENT[] = "Not a valid parent widget";
 constexpr char NO_CHILDREN[] = "This widget cannot support child widgets.";
+constexpr char MASTER_MDI[] = "Master MDI Form";
+constexpr char MASTER_MDI_BARE[] = "Cannot place widgets on Master MDI form";
+constexpr char SEPARATOR_PLACE[] = "Toolbar Separators can only be placed on toolbars";
 
 using Codes = std::initializer_list<int>;
 
@@ -95,7 +98,7 @@ const PlacementRule placementRules[] = {
     {TYPE_RADIO_BOX, 0, {TOOL_RADIO_BUTTON}, "This widget can only have radio buttons as its children"},
     {0, TOOL_TOOL_BAR, {TYPE_MAIN_PANEL}, "Tool bar widgets can only be placed on forms"},
     {0, TOOL_PANE, {TYPE_MAIN_PANEL}, "Docking Pane widgets can only be placed on forms"},
-    {0, TOOL_TOOL_SEPARATOR, {TYPE_TOOL_BAR}, "Toolbar Separators can only be placed on toolbars"},
+    {0, TOOL_TOOL_SEPARATOR, {TYPE_TOOL_BAR}, SEPARATOR_PLACE},
     {0,
      TOOL_RADIO_BUTTON,
      {TYPE_RADIO_BOX, TYPE_PANEL}, // and no page of a tab box
@@ -156,10 +159,10 @@ WidgetNode* checkedParent(int tool, WidgetNode* parent) {
     const WidgetNode* form = formOf(parent, project.forms);
     const bool docked = parent->type == TYPE_TOOL_BAR || parent->type == TYPE_PANE;
     if (form && form->formType == FORM_MASTER_MDI && tool != TOOL_TOOL_BAR && tool != TOOL_PANE && !docked) {
-        refuse("Master MDI Form", "Cannot place widgets on Master MDI form");
+        refuse(MASTER_MDI, MASTER_MDI_BARE);
         return nullptr;
     }
-    if (parent->type == TYPE_FORM && parent->child) parent = parent->child;
+    parent = containerFor(parent);
     if (!among(containers, parent->type)) {
         refuse(NO_PARENT, NO_CHILDREN);
         return nullptr;
@@ -219,31 +222,12 @@ void settleByPlatform(WidgetNode& node, bool inRadioBox) {
     }
 }
 
-void nameNew(WidgetNode& node) {
-    const WidgetTypeRow* row = widgetType(node.type);
-    if (!row || row->counter == COUNTER_NONE) return;
-    const WidgetNode* form = formOf(&node, project.forms);
-    const int number = takeNumber(counterOf(node.type));
-    renameNode(node, (form ? form->name : std::string()) + "_" + row->word + std::to_string(number));
-    ++project.widgetCount;
-}
-
-// The part up to the first underscore names the form that the copy came from.
-void namePasted(WidgetNode& node) {
-    const std::size_t underscore = node.name.find('_');
-    if (underscore != std::string::npos && findForm(project.forms, node.name.substr(0, underscore))) {
-        const WidgetNode* form = formOf(&node, project.forms);
-        if (form) renameNode(node, form->name + node.name.substr(underscore));
-    }
-    ++project.widgetCount;
-}
-
 void convertToRadioBox(WidgetNode& panel) {
     panel.type = TYPE_RADIO_BOX;
     panel.borderType = panel.subType;
     if (panel.text.rfind("Panel ", 0) == 0) panel.text = numbered("Radio Box %d", counterOf(TYPE_RADIO_BOX));
     --project.widgetCount; // its old name
-    nameNew(panel);
+    defaultName(&panel, NAME_NEW, false);
     --counterOf(TYPE_PANEL);
 }
 
@@ -265,12 +249,12 @@ Placement placeWidget(int tool, WidgetNode* givenParent, float clickX, float cli
     clickToPixels(*parent, clickX, clickY);
     WidgetNode* node = createFromDefaults(row->type, wholePosition(clickX), wholePosition(clickY));
     if (row->text) node->text = numbered(row->text, counterOf(row->type));
-    settleByPlatform(*node, givenParent->type == TYPE_RADIO_BOX);
     if (tool == TOOL_RADIO_BUTTON && parent->type == TYPE_PANEL && !parent->child) {
         placement.oldName = parent->name;
         placement.converted = parent;
         convertToRadioBox(*parent);
     }
+    settleByPlatform(*node, parent->type == TYPE_RADIO_BOX);
     linkChild(*parent, node);
     defaultName(node, NAME_NEW, false);
     node->onToolbar = parent->type == TYPE_TOOL_BAR ? 1 : 0;
@@ -279,43 +263,45 @@ Placement placeWidget(int tool, WidgetNode* givenParent, float clickX, float cli
     return placement;
 }
 
-void defaultName(WidgetNode* node, NameMode mode, bool withSiblings) {
-    for (WidgetNode* n = node; n; n = withSiblings ? walkList(n, node) : walkBelow(n, node)) {
-        if (n->type == TYPE_FORM || n->type == TYPE_MAIN_PANEL) continue;
-        if (mode == NAME_NEW)
-            nameNew(*n);
-        else
-            namePasted(*n);
+Refusal refusalToHold(const WidgetNode& target, const Records& records) {
+    if (!among(containers, target.type)) return {NO_PARENT, NO_CHILDREN};
+    const WidgetNode* form = formOf(&target, project.forms);
+    const bool bar = target.type == TYPE_TOOL_BAR || target.type == TYPE_PANE;
+    const bool masterMdi = form && form->formType == FORM_MASTER_MDI && !bar;
+    for (const WidgetNode* node : records) {
+        const bool docked = node->type == TYPE_TOOL_BAR || node->type == TYPE_PANE;
+        if (masterMdi && !docked) return {MASTER_MDI, MASTER_MDI_BARE};
+        for (const PasteRule& rule : pasteRules)
+            if (rule.parent == target.type && among(rule.types, node->type) != rule.allows)
+                return {NO_PARENT, rule.refusal};
+        if (node->type == TYPE_TOOL_SEPARATOR) return {NO_PARENT, SEPARATOR_PLACE};
     }
+    return {};
 }
 
-bool isIdentifier(std::string_view name) {
-    const auto letter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
-    const auto further = [&](char c) { return letter(c) || (c >= '0' && c <= '9') || c == '_'; };
-    return !name.empty() && letter(name[0]) && std::all_of(name.begin(), name.end(), further);
+bool mayHold(const WidgetNode& target, const Records& records) {
+    const Refusal refusal = refusalToHold(target, records);
+    return !refusal.text || refuse(refusal.title, refusal.text);
 }
 
-bool validName(std::string_view name, bool skipCurrent) {
-    return isIdentifier(name) && !findName(project.forms, name, skipCurrent);
+WidgetNode* containerFor(WidgetNode* node) { return node->type == TYPE_FORM && node->child ? node->child : node; }
+
+bool followLook(WidgetNode& node, const WidgetNode& parent) {
+    constexpr int RADIO = 6, CHECK = 7; // of the modern kinds
+    if (node.type != TYPE_TOGGLE) return false;
+    if (node.subType == RADIO && (parent.type == TYPE_PANEL || parent.type == TYPE_MAIN_PANEL))
+        node.subType = CHECK;
+    else if (node.subType == CHECK && parent.type == TYPE_RADIO_BOX)
+        node.subType = RADIO;
+    else
+        return false;
+    return true;
 }
 
-std::string identifierFrom(std::string_view caption) {
-    std::string name(caption);
-    for (char& c : name)
-        if (!isIdentifier(std::string("a") + c)) c = '_';
-    return name;
-}
-
-bool checkPasteParent(WidgetNode* list) {
-    WidgetNode*& current = project.currentWidget;
-    if (current && current->type == TYPE_FORM && current->child) current = current->child;
-    if (!current || !among(containers, current->type)) return refuse(NO_PARENT, NO_CHILDREN);
-    for (const PasteRule& rule : pasteRules) {
-        if (rule.parent != current->type) continue;
-        for (const WidgetNode* node = list; node; node = node->next)
-            if (among(rule.types, node->type) != rule.allows) return refuse(NO_PARENT, rule.refusal);
-    }
-    if (!list || (list->xpos <= current->width && list->ypos <= current->height)) return true;
+bool settleInside(const WidgetNode& target, const Records& records) {
+    if (records.empty()) return true;
+    const WidgetNode& first = *records.front();
+    if (first.xpos <= target.width && first.ypos <= target.height) return true;
     const int answer = host.messageBox("Paste widget position outside parent dimensions",
                                        "Do you want to reposition near origin?", BOX_QUESTION, BOX_YES_NO_CANCEL);
     if (answer != ANSWER_YES) return answer == ANSWER_NO;
@@ -323,14 +309,14 @@ bool checkPasteParent(WidgetNode* list) {
     constexpr int NEAR_ORIGIN = 10;
     int left = FAR_AWAY;
     int bottom = FAR_AWAY;
-    for (const WidgetNode* node = list; node; node = node->next) {
+    for (const WidgetNode* node : records) {
         left = std::min(left, node->xpos);
         bottom = std::min(bottom, node->ypos);
     }
     const auto shifted = [](int position, int least) {
         return static_cast<int>(std::min<std::int64_t>(std::int64_t{position} - least + NEAR_ORIGIN, FAR_AWAY));
     };
-    for (WidgetNode* node = list; node; node = node->next) {
+    for (WidgetNode* node : records) {
         node->xpos = shifted(node->xpos, left);
         node->ypos = shifted(node->ypos, bottom);
     }

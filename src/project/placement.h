@@ -2,10 +2,10 @@
 // Every refusal is an error box of the host and leaves the tree unchanged.
 #pragma once
 
-#include "project/records.h"
+#include "project/naming.h"
+#include "project/tree.h"
 
 #include <span>
-#include <string_view>
 
 // One tool of the Tool Box that places a widget.
 struct ToolRow {
@@ -30,24 +30,23 @@ struct Placement {
 // the box live and calls again with the Panel tool.
 Placement placeWidget(int tool, WidgetNode* parent, float clickX, float clickY);
 
-enum NameMode { NAME_NEW, NAME_PASTED };
+// Why `target`, a container, may not take the records; the text is null when it may.
+struct Refusal {
+    const char* title = nullptr;
+    const char* text = nullptr;
+};
+Refusal refusalToHold(const WidgetNode& target, const Records& records);
+bool mayHold(const WidgetNode& target, const Records& records); // the same, and the user is told
 
-// Names `node`, what is below it and, with `withSiblings`, what follows it; each adds 1 to widgetCount. NAME_NEW makes
-// default names, NAME_PASTED moves names of another form's widgets to the form that now holds them. The records must
-// be linked into the tree.
-void defaultName(WidgetNode* node, NameMode mode, bool withSiblings = true);
+// What takes a widget that is put on `node`: the main panel of a form, else the record itself.
+WidgetNode* containerFor(WidgetNode* node);
 
-// A letter, then letters, digits and underscores, used by no form, widget or status bar. With `skipCurrent` names of
-// the current widget and below count as free, and entry names of all others as used.
-bool validName(std::string_view name, bool skipCurrent);
-bool isIdentifier(std::string_view name);
+// Asks what is to be done with records that lie outside of `target`, and may shift them near its origin. False when the
+// user cancelled.
+bool settleInside(const WidgetNode& target, const Records& records);
 
-// `caption` with every character that cannot stand in an identifier turned into an underscore.
-std::string identifierFrom(std::string_view caption);
-
-// Asked before the chain `list` is put under the current widget; a current form gives way to its main panel. May shift
-// the chain when it lies outside. False to stop; the user has been told why.
-bool checkPasteParent(WidgetNode* list);
+// A toggle of the modern kinds looks like its neighbours in the parent that it is put in; true when that changed it.
+bool followLook(WidgetNode& node, const WidgetNode& parent);
 
 // Gives `form` the form type that the user chose, with all that follows for other forms. False when refused. On true
 // quitModeEnabled() tells the state of the row Quit Mode.

@@ -154,7 +154,7 @@ struct StatusBarPtr : std::unique_ptr<StatusBarRec> {
 };
 
 // One form or widget. Which generic field means what depends on `type`. A record owns what it points to except the
-// `child` and `next` chains, which belong to the tree.
+// `child` and `next` chains, which belong to the tree. Whoever remembers a record beyond one event remembers its id.
 struct WidgetNode {
     std::string name;                // variable name in generated source, unique in the project
     int selected = 0;                // 1 on the current widget
@@ -214,6 +214,7 @@ struct WidgetNode {
     std::size_t indexedName = 0;     // key under which the index holds it, 0 for none
     int indexedHandle = 0;           // the same of its handle
     bool inProject = false;          // hangs in the tree of project.forms
+    int id = 0;                      // of a record that was ever in a project, unique in the session; copies have none
 
     int handle = 0; // of the live widget; set with setHandle so that the index follows
     std::string icon;
@@ -333,8 +334,6 @@ struct ProjectState {
     int snapGrid = 10; // pixels
     int nextFormNumber = 1;
     std::array<int, COUNTERS> counters = allOnes<COUNTERS>(); // next number per widget word, by Counter
-    int nextPopNumber = 1;                                    // of the names of pull-down menus
-    int nextSeparatorNumber = 1;                              // of menu separators
     int nextFormX = 200;
     int nextFormY = 132;
     int widgetCount = 0; // named records; main panels do not count

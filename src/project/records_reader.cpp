@@ -1,6 +1,7 @@
 // Reading goes on without recursion: a file may nest its records as deep as it is long.
 #include "project/code_stores.h"
 #include "project/records_io.h"
+#include "project/tree.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -191,6 +192,7 @@ WidgetNode* readRecord(RecordSource& source, WidgetNode* parent, WidgetNode* pre
     const std::uint64_t before = source.reader.fields;
     auto* node = new WidgetNode();
     node->inProject = source.intoProject;
+    if (node->inProject) node->id = newRecordId();
     readFields(source, *node);
     if (source.reader.fields == before && (previous || parent)) {
         delete node;

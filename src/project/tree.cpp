@@ -14,6 +14,7 @@ struct Index {
     bool built = false;
     std::unordered_multimap<std::size_t, WidgetNode*> names;
     std::unordered_multimap<int, WidgetNode*> handles;
+    std::unordered_map<int, WidgetNode*> ids;
 };
 Index searchIndex;
 WidgetNode* lastForm = nullptr; // tail of project.forms as far as it is known
@@ -33,6 +34,7 @@ void enterIndex(WidgetNode& node) {
         node.indexedHandle = node.handle;
         searchIndex.handles.emplace(node.handle, &node);
     }
+    searchIndex.ids[node.id] = &node;
 }
 
 template <typename Map, typename Key> void eraseFrom(Map& map, Key& key, const WidgetNode* node) {
@@ -49,6 +51,9 @@ template <typename Map, typename Key> void eraseFrom(Map& map, Key& key, const W
 void leaveIndex(WidgetNode& node) {
     eraseFrom(searchIndex.names, node.indexedName, &node);
     eraseFrom(searchIndex.handles, node.indexedHandle, &node);
+    if (node.id == 0) return;
+    const auto held = searchIndex.ids.find(node.id);
+    if (held != searchIndex.ids.end() && held->second == &node) searchIndex.ids.erase(held);
 }
 
 void buildIndex() {
@@ -60,6 +65,7 @@ void buildIndex() {
 void dropIndex() {
     searchIndex.names.clear();
     searchIndex.handles.clear();
+    searchIndex.ids.clear();
     searchIndex.built = false;
 }
 
@@ -94,6 +100,7 @@ void setInProject(WidgetNode& top, bool inside) {
     if (inside && top.inProject && !searchIndex.built) return;
     for (WidgetNode* node = &top; node; node = walkBelow(node, &top)) {
         node->inProject = inside;
+        if (inside && node->id == 0) node->id = newRecordId();
         if (inside) {
             if (searchIndex.built) enterIndex(*node);
         } else {
@@ -242,6 +249,35 @@ WidgetNode* findHandle(int handle) {
     if (handle <= 0) return nullptr;
     buildIndex();
     return firstIn(searchIndex.handles, handle, [&](const WidgetNode& n) { return n.handle == handle; });
+}
+
+WidgetNode* findRecord(int id) {
+    buildIndex();
+    const auto found = searchIndex.ids.find(id);
+    return found == searchIndex.ids.end() ? nullptr : found->second;
+}
+
+int newRecordId() {
+    static int last = 0;
+    return ++last;
+}
+
+Records chainOf(WidgetNode* first) {
+    Records records;
+    for (; first; first = first->next) records.push_back(first);
+    return records;
+}
+
+bool liesWithin(const WidgetNode* node, const WidgetNode* root) {
+    while (node && node != root) node = node->parent;
+    return node == root;
+}
+
+WidgetNode* previousOf(const WidgetNode& node) {
+    WidgetNode* first = node.parent ? node.parent->child : project.forms;
+    if (first == &node) return nullptr;
+    while (first && first->next != &node) first = first->next;
+    return first;
 }
 
 void clearSelected(WidgetNode* list) {

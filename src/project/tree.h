@@ -4,7 +4,9 @@
 
 #include "project/records.h"
 
+#include <memory>
 #include <string_view>
+#include <vector>
 
 // Adds a form with its main panel behind the last of `project.forms` and returns it.
 WidgetNode* newForm();
@@ -31,10 +33,22 @@ WidgetNode* findSelected(WidgetNode* list);
 WidgetNode* activeForm(WidgetNode* list);
 WidgetNode* findActiveOnInit(WidgetNode* list);
 WidgetNode* findHandle(int handle); // of project.forms, by the index; null for none
+WidgetNode* findRecord(int id);     // the same by the record's id
 void clearSelected(WidgetNode* list);
 
 void deleteList(WidgetNode* node); // node and all that follows it along next, with what is below; null is allowed
 void deleteNode(WidgetNode* node); // node and what is below it; node->next is left alone
+struct ListDeleter {
+    void operator()(WidgetNode* first) const { deleteList(first); }
+};
+using OwnedList = std::unique_ptr<WidgetNode, ListDeleter>; // a chain that hangs in no tree
+
+// Records one beside the other: a selection, what is pasted or moved together.
+using Records = std::vector<WidgetNode*>;
+Records chainOf(WidgetNode* first);                              // `first` and all that follows it along next
+bool liesWithin(const WidgetNode* node, const WidgetNode* root); // `node` is `root` or below it
+WidgetNode* previousOf(const WidgetNode& node);                  // the sibling ahead of it, null for the first
+
 void freeRecord(WidgetNode* node); // one record and what it owns
 
 // The two kinds of entry chains that a record owns: copy and free them whole.
@@ -53,6 +67,7 @@ void linkChildAfter(WidgetNode& parent, WidgetNode* previous, WidgetNode* node);
 void unlinkNode(WidgetNode* node); // out of the tree, with its subtree; the caller owns it
 void setHandle(WidgetNode& node, int handle, int parentHandle);
 void renameNode(WidgetNode& node, std::string_view name);
+int newRecordId(); // for a record that is read straight into the project
 
 // The next record in pre-order within `root` and what is below it, null at the end. Starts from `root` itself.
 WidgetNode* walkBelow(const WidgetNode* node, const WidgetNode* root);

@@ -172,7 +172,7 @@ void editCellCount(WidgetNode& target, const PropertyRow& row, const CellInput& 
     else
         resizeCells(target, target.rowHeights, count, grid ? 1 : project.gridPixelY);
     target.*row.whole = count;
-    rebuildLive(target);
+    replaceLive(target);
     markEdited();
 }
 

@@ -19,25 +19,20 @@ constexpr size_t CELL_LIMIT = 256;  // a longer text can't be edited in a cell
 
 bool isText(const WidgetNode& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL; }
 
-// `name` with `to` in the place of `from`, where it begins with `from` and an underscore; else as it stands.
-std::string renamed(const std::string& name, const std::string& from, const std::string& to) {
-    return name.starts_with(from + "_") ? to + name.substr(from.size()) : name;
-}
-
 void renameRecord(WidgetNode& node, const std::string& name) {
     const std::string old = node.name;
     renameNode(node, name);
-    hooks.nameChanged(old, name);
+    if (node.type != TYPE_MAIN_PANEL) hooks.nameChanged(old, name); // which stands in no list
     if (node.hierarchyItem) owSetTreeViewLabel(node.hierarchyItem, name.c_str());
 }
 
 // Names that begin with the form's follow it, those of menu and tree entries too.
 void renameFamily(const std::string& from, const std::string& to) {
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
-        const std::string name = renamed(node->name, from, to);
+        const std::string name = familyName(node->name, from, to);
         if (name != node->name) renameRecord(*node, name);
         for (MenuEntryRec* entry = node->entries; entry; entry = entry->next)
-            entry->name = renamed(entry->name, from, to);
+            entry->name = familyName(entry->name, from, to);
     }
 }
 
@@ -68,8 +63,14 @@ bool acceleratorTaken(const WidgetNode& target, int key) {
 
 void editName(WidgetNode& target, const PropertyRow&, const CellInput& input) {
     if (input.text == target.name) return;
-    if (!validName(input.text, true)) {
+    if (!nameFree(input.text, &target)) {
         host.infoBox("Invalid Name", input.text + " is an empty, duplicate or invalid Fortran/C variable name");
+        return;
+    }
+    const std::string clash = target.type == TYPE_FORM ? clashOfFormName(target, input.text) : std::string();
+    if (!clash.empty()) {
+        host.infoBox("Invalid Name", "The widgets of " + target.name + " would be renamed with it, and the name " +
+                                         clash + " is taken already|Choose another name for the form");
         return;
     }
     hooks.commitEditor();

@@ -346,7 +346,7 @@ void showProperties(WidgetNode* widget) {
     sheet.widget = widget;
     eraseList();
     makeList();
-    const bool group = design.selectionList && design.selectionList->next;
+    const bool group = groupStands();
     setTitle(widget ? "Properties" : group ? "Widget group selected" : "No widget selected");
     if (widget) {
         if (isArray(*widget) && !design.defaultsMode) fetchLabelArea(*widget);

@@ -260,6 +260,5 @@ void closeProject() {
     host.closeForms();
     deleteList(project.forms);
     project.forms = nullptr;
-    deleteList(design.pasteBuffer);
-    design.pasteBuffer = nullptr;
+    design.pasteBuffer = {};
 }

@@ -4,15 +4,17 @@
 #include "project/host.h"
 #include "project/placement.h"
 #include "project/tree.h"
-#include "project/widget_types.h"
 #include "surface/commands.h"
+#include "surface/geometry.h"
 #include "surface/hierarchy.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/selection.h"
 #include "surface/state.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -27,29 +29,22 @@ WidgetNode* predecessorOf(const WidgetNode& node) {
     return nullptr;
 }
 
-// Forgets a record that is about to go.
-void forget(const WidgetNode& real) {
-    if (design.undoWidget == &real) {
-        design.undoWidget = nullptr;
-        design.undoAvailable = design.redoAvailable = 0;
-    }
-}
-
-// Takes one real record out of the tree and frees it; returns what is to be selected instead.
-WidgetNode* removeOne(WidgetNode& real, bool eraseLive) {
-    removeHierarchyEntry(real, false);
-    if (eraseLive && real.type == TYPE_FORM) owRemoveWindow(real.handle);
-    if (eraseLive && real.handle > 0) owEraseWidget(real.handle);
-    WidgetNode* result = real.next ? real.next : predecessorOf(real);
-    if (project.currentWidget == &real) project.currentWidget = nullptr;
-    forget(real);
-    unlinkNode(&real);
-    deleteNode(&real);
+// Takes one record out of the tree and frees it; returns what is to be selected instead.
+WidgetNode* removeOne(WidgetNode& node) {
+    removeHierarchyEntry(node, false);
+    if (node.type == TYPE_FORM) owRemoveWindow(node.handle);
+    if (node.handle > 0) owEraseWidget(node.handle);
+    WidgetNode* result = node.next ? node.next : predecessorOf(node);
+    if (project.currentWidget == &node) project.currentWidget = nullptr;
+    std::erase_if(design.selection, [&](const WidgetNode* one) { return liesWithin(one, &node); });
+    design.placeholders.erase(node.id);
+    unlinkNode(&node);
+    deleteNode(&node);
     return result;
 }
 
 bool nothingSelected() {
-    if (design.selectionList) return false;
+    if (!design.selection.empty()) return false;
     host.infoBox("No widget selected", "You must select a widget");
     return true;
 }
@@ -57,47 +52,105 @@ bool nothingSelected() {
 // The tests of Copy, Cut and Duplicate; `verb` stands in the refusal.
 bool refusesForm(const char* verb) {
     if (nothingSelected()) return true;
-    if (design.selectionList->type != TYPE_FORM) return false;
+    if (design.selection.front()->type != TYPE_FORM) return false;
     host.infoBox("Invalid widget", std::string("You cannot ") + verb + " a Form");
     return true;
 }
 
-void fillPasteBuffer() {
-    refreshSelectionList();
-    deleteList(design.pasteBuffer);
-    design.pasteBuffer = copyNode(design.selectionList, true);
+void fillPasteBuffer(bool cut) {
+    hooks.commitEditor();
+    PasteBuffer buffer;
+    buffer.parent = design.selection.front()->parent->id;
+    buffer.shift = cut ? 0 : 1;
+    WidgetNode* last = nullptr;
+    for (WidgetNode* one : design.selection) {
+        storeGeometryBelow(*one);
+        WidgetNode* copy = copyNode(one, false);
+        if (last)
+            last->next = copy;
+        else
+            buffer.chain.reset(copy);
+        last = copy;
+        buffer.beside.push_back(one->id);
+    }
+    design.pasteBuffer = std::move(buffer);
     hooks.commandStatus(CMD_PASTE, OSELECTABLE);
     markChanged();
 }
 
-// A toggle of the modern kinds looks like its neighbours in the new parent.
-bool followParent(WidgetNode& toggle, const WidgetNode& parent) {
-    if (toggle.type != TYPE_TOGGLE) return false;
-    if (toggle.subType == O3DRADIO && (parent.type == TYPE_PANEL || parent.type == TYPE_MAIN_PANEL))
-        toggle.subType = O3DCHECKBOX;
-    else if (toggle.subType == O3DCHECKBOX && parent.type == TYPE_RADIO_BOX)
-        toggle.subType = O3DRADIO;
-    else
-        return false;
-    return true;
+// How far a copy is shifted along one line: away from its original, or back when there is no room that way, so that it
+// never leaves its parent.
+int shiftWithin(int from, int extent, int room, int distance) {
+    const int ahead = std::min(distance, room - extent - from);
+    if (ahead > 0) return ahead;
+    return -std::min(distance, std::max(from, 0));
 }
 
-// A copy beside its original gets a name of its own; the words and counters are those of new widgets.
-void giveOwnName(WidgetNode& clone) {
-    const WidgetTypeRow* type = widgetType(clone.type);
-    const WidgetNode* form = formOf(&clone, project.forms);
-    if (!type || !form || type->counter == COUNTER_NONE || findName(project.forms, clone.name, false) == &clone) return;
-    std::string name;
-    do {
-        name = form->name + "_" + type->word + std::to_string(project.counters[type->counter]++);
-    } while (findName(project.forms, name, false));
-    renameNode(clone, name);
-}
-
-void shiftBesideOriginal(WidgetNode& clone) {
+// Copies beside their originals lie to the right of them and below, each one further than the one before.
+void shiftBesideOriginals(const Records& clones, const WidgetNode& parent, int cells) {
     const bool grid = project.gridMode == 1;
-    clone.xpos += grid ? 1 : project.gridPixelX;
-    clone.ypos -= grid ? 1 : project.gridPixelY;
+    const Box box = boxAround(clones);
+    const int right = shiftWithin(box.x, box.width, parent.width, cells * (grid ? 1 : project.gridPixelX));
+    const int down = shiftWithin(box.y, box.height, parent.height, cells * (grid ? 1 : project.gridPixelY));
+    for (WidgetNode* clone : clones) {
+        clone->xpos += clone->hpos == ORIGHT ? -right : right;
+        clone->ypos += clone->vpos == OBOTTOM ? -down : down;
+    }
+}
+
+// One widget alone can be where the program starts.
+void giveUpFocus(WidgetNode& clone) {
+    for (WidgetNode* node = &clone; node; node = walkBelow(node, &clone)) node->activeOnInit = 0;
+}
+
+// Links copies of what was copied to the children of `parent`.
+Records linkCopies(WidgetNode& parent) {
+    const bool active = findActiveOnInit(project.forms) != nullptr;
+    Records clones = chainOf(copyNode(design.pasteBuffer.chain.get(), true));
+    for (WidgetNode* clone : clones) clone->next = nullptr;
+    for (WidgetNode* clone : clones) {
+        followLook(*clone, parent);
+        if (active) giveUpFocus(*clone);
+        clone->parentHandle = parent.handle;
+        clone->selected = 0;
+        clone->onToolbar = parent.type == TYPE_TOOL_BAR ? 1 : 0;
+        linkChild(parent, clone);
+    }
+    if (design.pasteBuffer.parent == parent.id) {
+        if (design.pasteBuffer.shift > 0) shiftBesideOriginals(clones, parent, design.pasteBuffer.shift);
+        ++design.pasteBuffer.shift;
+    }
+    nameCopies(clones);
+    return clones;
+}
+
+Records insertClones(WidgetNode& parent) {
+    const Records clones = linkCopies(parent);
+    clearPlaceholder(parent);
+    for (WidgetNode* clone : clones) realiseWidget(*clone, parent.handle, false);
+    for (WidgetNode* clone : clones) {
+        buildHierarchyEntry(*clone);
+        buildHierarchy(clone->child);
+        redrawWidget(*clone, false);
+    }
+    return clones;
+}
+
+// What was copied, or was pasted last, is selected still.
+bool originalsSelected() {
+    return !design.selection.empty() &&
+           std::ranges::equal(design.selection, design.pasteBuffer.beside, {}, &WidgetNode::id);
+}
+
+// The record that takes what is pasted; null when nothing is selected. Copies of what is selected, where it can't take
+// them itself, go beside it.
+WidgetNode* pasteTarget() {
+    WidgetNode* current = project.currentWidget;
+    if (originalsSelected() && design.selection.front()->parent) {
+        const Records copies = chainOf(design.pasteBuffer.chain.get());
+        if (!current || refusalToHold(*containerFor(current), copies).text) return design.selection.front()->parent;
+    }
+    return current ? containerFor(current) : nullptr;
 }
 
 // ---- Deletion.
@@ -140,9 +193,7 @@ std::string deletionText(const WidgetNode& node) {
 
 void eraseCurrent() {
     hooks.commitEditor(); // a block on show would be lost with the widget
-    WidgetNode* next = removeWidget(project.currentWidget, true, false);
-    deleteList(design.selectionList); // a copy of what is gone
-    design.selectionList = nullptr;
+    WidgetNode* next = removeRecords({project.currentWidget});
     recountCounters();
     hooks.commandStatus(CMD_PASTE, OUNSELECTABLE);
     markChanged();
@@ -168,103 +219,61 @@ void confirmDelete() {
 
 } // namespace
 
-WidgetNode* removeWidget(WidgetNode* node, bool eraseLive, bool wholeList) {
-    if (!node) return nullptr;
-    WidgetNode* parent = parentOf(node, project.forms);
-    const int type = node->type;
+WidgetNode* removeRecords(const Records& records) {
+    if (records.empty()) return nullptr;
+    WidgetNode* parent = parentOf(records.front(), project.forms);
+    const int type = records.front()->type;
     WidgetNode* result = nullptr;
-    if (wholeList) {
-        for (const WidgetNode* copy = node; copy; copy = copy->next)
-            if (WidgetNode* real = findName(project.forms, copy->name, false)) result = removeOne(*real, eraseLive);
-    } else {
-        result = removeOne(*node, eraseLive);
-    }
+    for (WidgetNode* node : records) result = removeOne(*node);
     if (result && result->type == TYPE_MAIN_PANEL) result = formOf(result, project.forms);
     const bool bar = type == TYPE_TOOL_BAR || type == TYPE_PANE;
     if (bar && parent)
         rebuildWidget(*parent);
-    else if (isBarOrPane(parent))
+    else if (type != TYPE_FORM && isBarOrPane(parent))
         owDrawWidget(parent->handle);
     return result;
 }
 
-WidgetNode* insertClones(const WidgetNode* list) {
-    WidgetNode& parent = *project.currentWidget;
-    WidgetNode* first = copyNode(list, true);
-    bool restyled = false;
-    for (WidgetNode *clone = first, *next = nullptr; clone; clone = next) {
-        next = clone->next;
-        clone->next = nullptr;
-        if (clone->parentHandle == parent.handle) shiftBesideOriginal(*clone);
-        restyled |= followParent(*clone, parent);
-        clone->parentHandle = parent.handle;
-        clone->selected = 0;
-        clone->onToolbar = parent.type == TYPE_TOOL_BAR ? 1 : 0;
-        linkChild(parent, clone);
-    }
-    defaultName(first, NAME_PASTED);
-    for (WidgetNode* node = first; node; node = walkList(node, first)) giveOwnName(*node);
-    clearPlaceholder(parent);
-    realiseWidget(*first, parent.handle, true);
-    for (WidgetNode* clone = first; clone; clone = clone->next) {
-        buildHierarchyEntry(*clone);
-        buildHierarchy(clone->child);
-        redrawWidget(*clone, false);
-    }
-    if (restyled && !first->next) hooks.showProperties(first);
-    return first;
-}
-
 void copyCommand() {
     selectTool(TOOL_SELECTOR);
-    if (!refusesForm("Copy")) fillPasteBuffer();
+    if (!refusesForm("Copy")) fillPasteBuffer(false);
 }
 
 void cutCommand() {
     selectTool(TOOL_SELECTOR);
     if (refusesForm("Cut")) return;
-    hooks.commitEditor();
-    fillPasteBuffer();
-    WidgetNode* removed = design.selectionList;
-    if (removed->next) ungroupSelection(removed, nullptr);
-    design.selectionList = nullptr;
+    fillPasteBuffer(true);
+    ungroup();
     owAdoptChild(0, 0, 0);
-    WidgetNode* next = removeWidget(removed, true, true);
-    deleteList(removed);
+    const Records removed = std::exchange(design.selection, {});
+    WidgetNode* next = removeRecords(removed);
     design.skipCommit = 1;
     selectWidget(next ? next : project.forms);
     hooks.drawControlWindows();
 }
 
 void pasteCommand() {
-    if (!design.pasteBuffer) return;
-    if (!project.currentWidget) return host.infoBox("No widget selected", "You must select a widget");
+    if (!design.pasteBuffer.chain) return;
+    WidgetNode* target = pasteTarget();
+    if (!target) return host.infoBox("No widget selected", "You must select a widget");
     selectTool(TOOL_SELECTOR);
-    WidgetNode* chosen = project.currentWidget;
-    const bool allowed = checkPasteParent(design.pasteBuffer);
-    WidgetNode* target = project.currentWidget; // a form gives way to its main panel
-    project.currentWidget = chosen;
-    if (!allowed) return;
+    const Records copies = chainOf(design.pasteBuffer.chain.get());
+    if (!mayHold(*target, copies) || !settleInside(*target, copies)) return;
     hooks.commitEditor();
     owAdoptChild(0, 0, 0);
-    project.currentWidget = target;
-    WidgetNode* inserted = insertClones(design.pasteBuffer);
-    project.currentWidget = chosen;
-    WidgetNode* pasted = nullptr;
-    WidgetNode** end = &pasted;
-    for (WidgetNode* clone = inserted; clone; clone = clone->next) {
-        *end = copyNode(clone, false);
-        end = &(*end)->next;
-    }
-    groupSelection(target, pasted);
+    const Records inserted = insertClones(*target);
+    design.pasteBuffer.beside.clear();
+    for (const WidgetNode* one : inserted) design.pasteBuffer.beside.push_back(one->id);
+    groupSelection(inserted);
+    adoptSelection();
     markChanged();
 }
 
 void duplicateCommand() {
     selectTool(TOOL_SELECTOR);
     if (refusesForm("Copy")) return;
-    fillPasteBuffer();
-    WidgetNode* parent = parentOf(design.selectionList, project.forms);
+    fillPasteBuffer(false);
+    WidgetNode* parent = parentOf(design.selection.front(), project.forms);
     if (parent && parent->type == TYPE_MAIN_PANEL) parent = parent->parent;
     if (parent) selectWidget(parent);
     pasteCommand();

@@ -149,10 +149,7 @@ bool selectorEvent(WidgetNode* found) {
     found = standsFor(found);
     if (!found->selected) {
         restoreValue(*found);
-        if (!shiftAdds(*found)) {
-            design.selectionCount = 1;
-            selectWidget(found);
-        }
+        if (!shiftAdds(*found)) selectWidget(found);
     } else {
         adoptWidget(*found);
         takeValue(*found);
@@ -161,16 +158,10 @@ bool selectorEvent(WidgetNode* found) {
     return true;
 }
 
-void showUndoState(const WidgetNode* found) {
-    const bool own = found == design.undoWidget;
-    hooks.commandStatus(CMD_UNDO, own && design.undoAvailable ? OSELECTABLE : OUNSELECTABLE);
-    hooks.commandStatus(CMD_REDO, own && design.redoAvailable ? OSELECTABLE : OUNSELECTABLE);
-}
-
-// A press on a panel drops the selection list; what it leaves selected is the current widget again.
+// A press on a panel drops the selection; what it leaves selected is the current widget again.
 void restoreSelection() {
-    if (project.currentWidget && !design.selectionList && !design.rubberBandArmed)
-        design.selectionList = copyNode(project.currentWidget, false);
+    if (project.currentWidget && design.selection.empty() && !design.rubberBandArmed)
+        design.selection = {project.currentWidget};
 }
 
 } // namespace
@@ -195,7 +186,7 @@ void designEvent(int id) {
     showUndoState(findByCallback(id)); // a deletion may have taken the record
     if (!handled) formEvent(id);
     restoreSelection();
-    if (design.selectionList && design.selectionList->next) hooks.commandStatus(CMD_ALIGN, OSELECTABLE);
+    if (groupStands()) hooks.commandStatus(CMD_ALIGN, OSELECTABLE);
 }
 
 void newFormCommand() {

@@ -32,18 +32,14 @@ bool insideBand(const WidgetNode& child, const WidgetNode& panel) {
            edges.bottom <= design.bandEndY;
 }
 
-// Copies of the children of `panel` that lie inside the band, and their number.
-std::pair<WidgetNode*, int> selectInRectangle(const WidgetNode& panel) {
-    WidgetNode* first = nullptr;
-    WidgetNode** end = &first;
-    int count = 0;
-    for (const WidgetNode* child = panel.child; child; child = child->next) {
-        if (child->type == TYPE_TOOL_BAR || child->type == TYPE_PANE || !insideBand(*child, panel)) continue;
-        *end = copyNode(child, false);
-        end = &(*end)->next;
-        ++count;
+// The children of `panel` that lie inside the band.
+Records selectInRectangle(const WidgetNode& panel) {
+    Records caught;
+    for (WidgetNode* child = panel.child; child; child = child->next) {
+        const bool docked = child->type == TYPE_TOOL_BAR || child->type == TYPE_PANE;
+        if (!docked && insideBand(*child, panel)) caught.push_back(child);
     }
-    return {first, count};
+    return caught;
 }
 
 void selectForm(WidgetNode& panel) {
@@ -139,8 +135,7 @@ void windowEvent(WidgetNode& form, int status) {
 // A window that comes to the front keeps the widgets that are selected in it: the same click may begin a drag of one.
 bool holdsSelection(const WidgetNode& node) {
     if (node.selected || activeForm(project.forms) == &node) return true;
-    const WidgetNode* grouped = design.selectionList ? findHandle(design.selectionList->parentHandle) : nullptr;
-    return grouped && formOf(grouped, project.forms) == &node;
+    return !design.selection.empty() && formOf(design.selection.front(), project.forms) == &node;
 }
 
 bool holdsInput(const WidgetNode& form) {
@@ -167,15 +162,10 @@ Band endRubberBand(WidgetNode& panel, int x, int y) {
     ++design.bandEndY;
     if (design.bandStartX > design.bandEndX) std::swap(design.bandStartX, design.bandEndX);
     if (design.bandStartY > design.bandEndY) std::swap(design.bandStartY, design.bandEndY);
-    auto [list, count] = selectInRectangle(panel);
-    if (!list) {
-        showSelectionCount();
-        return Band::Empty;
-    }
-    design.selectionCount = count;
-    groupSelection(&panel, list);
+    const Records caught = selectInRectangle(panel);
+    groupSelection(caught);
     showSelectionCount();
-    return Band::Caught;
+    return caught.empty() ? Band::Empty : Band::Caught;
 }
 
 void formEvent(int id) {

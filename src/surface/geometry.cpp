@@ -28,6 +28,20 @@ Edges edgesOf(const WidgetNode& child, int parentWidth, int parentHeight) {
     return {across.from, down.from, across.to, down.to};
 }
 
+Box boxAround(const Records& members) {
+    constexpr int FAR = 9999;
+    const WidgetNode* parent = members.front()->parent;
+    Edges all = {FAR, FAR, -FAR, -FAR};
+    for (const WidgetNode* one : members) {
+        const Edges edges = edgesOf(*one, parent->width, parent->height);
+        all.left = std::min(all.left, edges.left);
+        all.top = std::min(all.top, edges.top);
+        all.right = std::max(all.right, edges.right);
+        all.bottom = std::max(all.bottom, edges.bottom);
+    }
+    return {all.left, all.top, all.right - all.left, all.bottom - all.top};
+}
+
 Box readPixels(int handle) {
     Box box = {};
     owEnqWidgetProp(handle, owXpos, &box.x, owYpos, &box.y, owWidth, &box.width, owHeight, &box.height, 0);

@@ -1,7 +1,7 @@
 // Where a child lies in its parent, and the way from pixels to the project's unit.
 #pragma once
 
-#include "project/records.h"
+#include "project/tree.h"
 
 struct Edges {
     int left, top, right, bottom;
@@ -10,6 +10,7 @@ struct Edges {
 // Of a child inside a parent of that size, all in the project's unit; top counts from the parent's top.
 Edges edgesOf(const WidgetNode& child, int parentWidth, int parentHeight);
 
+// In the project's unit where nothing else is said.
 struct Box {
     int x, y, width, height;
     bool operator==(const Box&) const = default;
@@ -18,6 +19,7 @@ struct Box {
 Box readPixels(int handle);                 // position and size of a live widget, in pixels
 Box inProjectUnit(const Box& pixels);       // integer division by the cell in a grid project
 void placeLive(int handle, const Box& box); // position and size in the project's unit
+Box boxAround(const Records& members);      // of one parent; left and top as edges, in the project's unit
 inline Box boxOf(const WidgetNode& n) { return {n.xpos, n.ypos, n.width, n.height}; }
 
 int singleLineHeight(); // of a text widget, in the project's unit

@@ -116,6 +116,13 @@ void removeHierarchyEntry(WidgetNode& node, bool withSiblings) {
     }
 }
 
+void rebuildHierarchyRows(WidgetNode& first) {
+    const int count = project.widgetCount; // the records stay
+    removeHierarchyEntry(first, true);
+    project.widgetCount = count;
+    buildHierarchy(&first);
+}
+
 void clearHierarchy() {
     if (treeBox == 0) return;
     owEraseWidget(treeBox);

@@ -9,7 +9,8 @@ void createHierarchy(int pane); // the tree view box, filling the pane of that h
 void buildHierarchyEntry(WidgetNode& node);
 void buildHierarchy(WidgetNode* list);
 void removeHierarchyEntry(WidgetNode& node, bool withSiblings);
-void clearHierarchy(); // erases the tree view box and makes it again, empty
+void rebuildHierarchyRows(WidgetNode& first); // of a record and what follows it, in their order
+void clearHierarchy();                        // erases the tree view box and makes it again, empty
 
 // Selects the form or widget of that name, as a click on its row does. From the tree a hidden form is shown again.
 void selectByName(const std::string& name, bool fromTree);

@@ -105,6 +105,15 @@ void realiseWidget(WidgetNode& node, int parent, bool withSiblings) {
 
 void rebuildWidget(WidgetNode& node) {
     if (design.defaultsMode) return;
+    const bool group = groupStands() && liesWithin(design.selection.front(), &node);
+    if (group) ungroup();
+    storeGeometryBelow(node);
+    replaceLive(node);
+    if (group) buildGroupPanel(false);
+}
+
+void replaceLive(WidgetNode& node) {
+    if (design.defaultsMode) return;
     eraseLive(node);
     const bool isForm = node.type == TYPE_FORM;
     realiseWidget(node, isForm ? 0 : node.parentHandle, false);
@@ -155,7 +164,7 @@ void realiseForms(WidgetNode* list) {
 void eraseForms(WidgetNode* list) {
     owAdoptChild(0, 0, 0);
     for (WidgetNode* form = list; form; form = form->next) eraseLive(*form);
-    design.placeholderChild = 0;
+    design.placeholders.clear();
     design.groupPanel = 0;
     clearHierarchy();
 }
@@ -167,9 +176,10 @@ void discardForms(WidgetNode* list) {
 }
 
 void clearPlaceholder(const WidgetNode& parent) {
-    if (!design.placeholderChild || !isBarOrPane(parent)) return;
-    owEraseWidget(design.placeholderChild);
-    design.placeholderChild = 0;
+    const auto blank = design.placeholders.find(parent.id);
+    if (blank == design.placeholders.end() || !isBarOrPane(parent)) return;
+    owEraseWidget(blank->second);
+    design.placeholders.erase(blank);
 }
 
 void fillListEntries(WidgetNode& node) {
@@ -217,6 +227,10 @@ void storeArrayGeometry(WidgetNode& node) {
         owEnqScrollBarPos(node.handle, &scrollBars.x, &scrollBars.y);
     }
     setGridMode(0);
+}
+
+void storeGeometryBelow(WidgetNode& node) {
+    for (WidgetNode* one = &node; one; one = walkBelow(one, &node)) storeArrayGeometry(*one);
 }
 
 void applyArrayGeometry(WidgetNode& node) {

@@ -10,8 +10,10 @@ void setGridMode(int mode);
 // what follows it (never for a form). A negative `parent` of a bar or pane is its window already.
 void realiseWidget(WidgetNode& node, int parent, bool withSiblings);
 
-// Erases a live widget and makes it anew from its record, with all below it.
+// Erases a live widget and makes it anew from its record, with all below it. What only the live widgets know, the sizes
+// of columns and rows, comes into the records first.
 void rebuildWidget(WidgetNode& node);
+void replaceLive(WidgetNode& node); // by the records as they are
 
 // Shows a live widget after a change. `front` brings a form to the front. Hidden forms stay hidden.
 void redrawWidget(WidgetNode& node, bool front);
@@ -35,6 +37,7 @@ void drawFrameCross(const WidgetNode& frame); // the cross that stands for the d
 // Column and row sizes of an array or table box: from the live widget to the record, and back.
 void storeArrayGeometry(WidgetNode& node);
 void applyArrayGeometry(WidgetNode& node);
+void storeGeometryBelow(WidgetNode& node); // the first for a record and all below it
 
 // Brings up the tab pages that hold `node` and gives it the focus. Nothing for null or while defaults are edited.
 void activateWidget(WidgetNode* node);

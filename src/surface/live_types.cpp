@@ -229,13 +229,13 @@ void finishTable(WidgetNode& n) {
 
 void finishToolBar(WidgetNode& n) {
     if (n.initialPosition == OFLOATING) owSetToolbarPos(n.handle, n.xpos, n.ypos, n.width, n.initialPosition);
-    if (!n.child) design.placeholderChild = owCreateToolBarButton(n.handle, OTEXTBUTTON, " ");
+    if (!n.child) design.placeholders[n.id] = owCreateToolBarButton(n.handle, OTEXTBUTTON, " ");
 }
 
 void finishPane(WidgetNode& n) {
     if (!n.child)
-        design.placeholderChild = owCreatePanel(n.handle, 0, 0, 0, 0, owBorderType, ONOBOUNDARY, owVpos, OMIDDLE,
-                                                owHpos, OCENTRE, owExpand, 1, 0);
+        design.placeholders[n.id] = owCreatePanel(n.handle, 0, 0, 0, 0, owBorderType, ONOBOUNDARY, owVpos, OMIDDLE,
+                                                  owHpos, OCENTRE, owExpand, 1, 0);
 }
 
 constexpr bool C = true, S = true, FONT = true, NO = false;

@@ -9,11 +9,14 @@
 #include "surface/commands.h"
 #include "surface/event.h"
 #include "surface/geometry.h"
+#include "surface/hierarchy.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/state.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -34,13 +37,6 @@ bool isRebuiltAfterResize(const WidgetNode& n, bool height) {
     return !onWindows() && (n.type == TYPE_TOGGLE || n.type == TYPE_VALUE_ENTRY || n.type == TYPE_VALUE_LABEL);
 }
 
-void keepStep(const Box& box) {
-    design.undoX = box.x;
-    design.undoY = box.y;
-    design.undoWidth = box.width;
-    design.undoHeight = box.height;
-}
-
 void followHeight(WidgetNode& node, int oldYpos) {
     if (hasFixedHeight(node)) {
         node.height = singleLineHeight();
@@ -49,50 +45,41 @@ void followHeight(WidgetNode& node, int oldYpos) {
     if (node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL) fitFieldWidth(node, true);
 }
 
-void readGroupGeometry() {
-    const Box pixels = readPixels(design.groupPanel);
-    const Box now = inProjectUnit(pixels);
-    const Box before = {design.groupLeft, design.groupTop, design.groupRight - design.groupLeft,
-                        design.groupBottom - design.groupTop};
-    if (now.width != before.width || now.height != before.height) {
-        placeLive(design.groupPanel, before); // a group keeps its size
-        owDrawWidget(design.groupPanel);
-        return;
+// A widget in the middle of its parent stays there, and one that grows with it keeps the size of its own: what a drag
+// did along that line means nothing.
+void keepToOrigin(const WidgetNode& node, Box& box) {
+    if (node.hpos == OCENTRE) {
+        box.x = node.xpos;
+        if (node.expand != 0) box.width = node.width;
     }
-    keepStep(before);
-    const int dx = now.x - before.x, dy = now.y - before.y;
-    for (WidgetNode* copy = design.selectionList; copy; copy = copy->next) {
-        copy->xpos += dx;
-        copy->ypos += dy;
-        if (WidgetNode* real = findName(project.forms, copy->name, false)) {
-            real->xpos += dx;
-            real->ypos += dy;
-        }
+    if (node.vpos == OMIDDLE) {
+        box.y = node.ypos;
+        if (node.expand != 0) box.height = node.height;
     }
 }
 
 void putBack(WidgetNode& widget) {
     const int parent = widget.type == TYPE_PANE ? -widget.parentHandle : widget.parentHandle;
+    storeGeometryBelow(widget);
     owEraseWidget(widget.handle);
     realiseWidget(widget, parent, false);
     redrawWidget(widget, false);
-    if (design.selectionList) design.selectionList->handle = widget.handle;
 }
 
-void refuseDrop(WidgetNode* single, bool known) {
+// The group's panel shows the members where they are.
+void putBackGroup() {
+    placeLive(design.groupPanel, design.groupBox);
+    owDrawWidget(design.groupPanel);
+}
+
+void refuseDrop(bool known) {
+    WidgetNode* single = project.currentWidget;
     if (single || !known)
         host.errorBox("Widget placement", "Widgets can only be placed on forms or other container widgets");
     if (single)
         putBack(*single);
     else
-        ungroupSelection(design.selectionList, nullptr);
-}
-
-// Whether `node` is `root` or lies below it: a widget can't be dropped into itself.
-bool liesWithin(const WidgetNode* node, const WidgetNode* root) {
-    for (; node; node = node->parent)
-        if (node == root) return true;
-    return false;
+        putBackGroup();
 }
 
 // Position along one axis in a new parent, for the corner that the drop left at `corner` from its left or top.
@@ -106,66 +93,113 @@ void placeInParent(const WidgetNode& target) {
     constexpr int CORNER_VALUES = 2;
     if (action.count < CORNER_VALUES) return;
     const Box corner = inProjectUnit({action.iargs[0], action.iargs[1], 0, 0});
-    WidgetNode& first = *design.selectionList;
-    if (!first.next) {
-        first.xpos = positionFrom(first.hpos, corner.x, first.width, target.width, first.xpos);
-        first.ypos = positionFrom(-first.vpos, corner.y, first.height, target.height, first.ypos);
+    if (groupStands()) {
+        for (WidgetNode* one : design.selection) {
+            one->xpos += corner.x - design.groupBox.x;
+            one->ypos += corner.y - design.groupBox.y;
+        }
         return;
     }
-    int left = first.xpos, top = first.ypos;
-    for (const WidgetNode* copy = &first; copy; copy = copy->next) {
-        left = std::min(left, copy->xpos);
-        top = std::min(top, copy->ypos);
-    }
-    for (WidgetNode* copy = &first; copy; copy = copy->next) {
-        copy->xpos += corner.x - left;
-        copy->ypos += corner.y - top;
-    }
+    WidgetNode& only = *design.selection.front();
+    only.xpos = positionFrom(only.hpos, corner.x, only.width, target.width, only.xpos);
+    only.ypos = positionFrom(-only.vpos, corner.y, only.height, target.height, only.ypos);
 }
 
-// True when the widgets have gone over to the widget of that handle.
-bool dropOn(int handle, WidgetNode* single) {
-    WidgetNode* target = findHandle(handle);
-    if (target && single && liesWithin(target, single)) target = nullptr;
-    if (!target) {
-        refuseDrop(single, false);
-        return false;
-    }
-    project.currentWidget = target;
-    const bool allowed = checkPasteParent(design.selectionList);
-    target = project.currentWidget; // a form gives way to its main panel
-    project.currentWidget = single;
-    if (!allowed) {
-        refuseDrop(single, true);
-        return false;
-    }
-    readGeometry(single);
-    if (!single) ungroupSelection(design.selectionList, nullptr);
+bool holdsAny(const WidgetNode& target, const Records& records) {
+    return std::ranges::any_of(records, [&](const WidgetNode* one) { return liesWithin(&target, one); });
+}
+
+Box boxOfSelection() { return groupStands() ? boxAround(design.selection) : boxOf(*design.selection.front()); }
+
+void openStep(DragStep step) {
+    design.undo = std::move(step);
+    design.undo.undoable = true;
+    hooks.commandStatus(CMD_UNDO, OSELECTABLE);
+    hooks.commandStatus(CMD_REDO, OUNSELECTABLE);
+}
+
+// True when the widgets have gone over to the record.
+bool dropOn(WidgetNode* target) {
+    if (target) target = containerFor(target);
+    if (!target || holdsAny(*target, design.selection)) return refuseDrop(false), false;
+    if (!mayHold(*target, design.selection)) return refuseDrop(true), false;
+    DragStep step = stepBack();
     placeInParent(*target);
-    moveSelectionTo(target, !single);
+    moveSelectionTo(*target, {});
+    openStep(std::move(step));
     return true;
+}
+
+bool moveInParent() {
+    DragStep step;
+    for (const WidgetNode* one : design.selection) step.records.push_back(one->id);
+    step.box = boxOfSelection();
+    if (!(groupStands() ? takeGroupGeometry() : takeGeometry(*design.selection.front()))) return false;
+    openStep(std::move(step));
+    return true;
+}
+
+// What a record takes from its new parent.
+void followParent(WidgetNode& node, const WidgetNode& parent) {
+    node.parentHandle = parent.handle;
+    node.onToolbar = parent.type == TYPE_TOOL_BAR ? 1 : 0;
+    followLook(node, parent);
+}
+
+// Moves a child behind one of its siblings; one that is gone since leaves it at the end.
+void putBehind(WidgetNode& parent, const ChildPlace& place) {
+    WidgetNode* child = findRecord(place.record);
+    WidgetNode* previous = findRecord(place.behind);
+    if (!child || child->parent != &parent || (place.behind && (!previous || previous->parent != &parent))) return;
+    unlinkNode(child);
+    linkChildAfter(parent, previous, child);
+}
+
+WidgetNode* firstOf(const Records& siblings) {
+    for (WidgetNode* child = siblings.front()->parent->child; child; child = child->next)
+        if (std::ranges::find(siblings, child) != siblings.end()) return child;
+    return nullptr;
 }
 
 } // namespace
 
-void moveSelectionTo(WidgetNode* target, bool group) {
+DragStep stepBack() {
+    const Records& selected = design.selection;
+    DragStep step;
+    for (const WidgetNode* one : selected) step.records.push_back(one->id);
+    const WidgetNode& parent = *selected.front()->parent;
+    step.parent = parent.id;
+    int behind = 0;
+    for (const WidgetNode* child = parent.child; child; behind = child->id, child = child->next)
+        if (std::ranges::find(selected, child) != selected.end()) step.places.push_back({child->id, behind});
+    step.box = boxOfSelection();
+    return step;
+}
+
+void moveSelectionTo(WidgetNode& target, const std::vector<ChildPlace>& places) {
     hooks.commitEditor();
-    deleteList(design.pasteBuffer);
-    design.pasteBuffer = copyNode(design.selectionList, true);
-    design.undoWidget = nullptr; // it comes back as another record; the step stays
-    removeWidget(design.selectionList, true, true);
-    project.currentWidget = target;
-    WidgetNode* inserted = insertClones(design.pasteBuffer);
-    deleteList(design.selectionList);
-    design.selectionList = copyNode(inserted, group);
-    deleteList(design.pasteBuffer);
-    design.pasteBuffer = nullptr;
+    ungroup();
+    const Records moved = design.selection;
+    for (WidgetNode* one : moved) {
+        removeHierarchyEntry(*one, false);
+        storeGeometryBelow(*one);
+        owEraseWidget(one->handle);
+        unlinkNode(one);
+    }
+    clearPlaceholder(target);
+    for (WidgetNode* one : moved) linkChild(target, one);
+    for (const ChildPlace& place : places) putBehind(target, place);
+    for (WidgetNode* one : moved) followParent(*one, target);
+    nameCopies(moved);
+    for (WidgetNode* one : moved) {
+        realiseWidget(*one, target.handle, false);
+        redrawWidget(*one, false);
+    }
+    if (WidgetNode* first = firstOf(moved)) rebuildHierarchyRows(*first);
+    design.pasteBuffer = {}; // a drag goes through it
     hooks.commandStatus(CMD_PASTE, OUNSELECTABLE);
-    project.currentWidget = group ? nullptr : inserted;
-    hooks.bindCode(inserted); // the record that the code editor was bound to may be gone
-    if (group) return;
-    hooks.showProperties(inserted);
-    design.undoWidget = inserted;
+    hooks.bindCode(moved.front());
+    if (project.currentWidget) hooks.showProperties(project.currentWidget);
 }
 
 void fitFieldWidth(WidgetNode& node, bool keepRich) {
@@ -176,58 +210,54 @@ void fitFieldWidth(WidgetNode& node, bool keepRich) {
     }
 }
 
-void readGeometry(WidgetNode* node) {
-    if (!node) return readGroupGeometry();
-    const Box before = boxOf(*node);
-    keepStep(before);
-    const Box now = inProjectUnit(readPixels(node->handle));
-    node->xpos = now.x;
-    node->ypos = now.y;
-    node->width = now.width;
-    node->height = node->type == TYPE_COMBO_BOX ? before.height : now.height;
-    const bool higher = node->height != before.height;
-    if (higher) followHeight(*node, before.y);
-    if ((higher || node->width != before.width) && isRebuiltAfterResize(*node, higher)) {
-        rebuildWidget(*node);
-        hooks.showProperties(node);
+bool takeGroupGeometry() {
+    const Box now = inProjectUnit(readPixels(design.groupPanel));
+    const Box before = design.groupBox;
+    if (now == before || now.width != before.width || now.height != before.height) {
+        putBackGroup(); // a group keeps its size
+        return false;
+    }
+    for (WidgetNode* one : design.selection) {
+        one->xpos += now.x - before.x;
+        one->ypos += now.y - before.y;
+    }
+    return true;
+}
+
+bool takeGeometry(WidgetNode& node) {
+    const Box before = boxOf(node);
+    const Box live = inProjectUnit(readPixels(node.handle));
+    Box now = live;
+    keepToOrigin(node, now);
+    node.xpos = now.x;
+    node.ypos = now.y;
+    node.width = now.width;
+    node.height = node.type == TYPE_COMBO_BOX ? before.height : now.height;
+    const bool higher = node.height != before.height;
+    if (higher) followHeight(node, before.y);
+    if ((higher || node.width != before.width) && isRebuiltAfterResize(node, higher)) {
+        rebuildWidget(node);
+        hooks.showProperties(&node);
+    } else if (now != live) {
+        putBack(node);
+        hooks.refreshProperties();
     } else {
         if (project.gridMode == 1) {
-            placeLive(node->handle, boxOf(*node)); // whole cells
-            owDrawWidget(node->handle);
+            placeLive(node.handle, boxOf(node)); // whole cells
+            owDrawWidget(node.handle);
         }
         hooks.refreshProperties();
     }
-    deleteList(design.selectionList);
-    design.selectionList = copyNode(node, false);
+    return boxOf(node) != before;
 }
 
 void movedCommand() {
-    if (!design.selectionList) return;
-    refreshSelectionList();
-    WidgetNode* single = project.currentWidget;
-    hooks.commandStatus(CMD_UNDO, OSELECTABLE);
-    hooks.commandStatus(CMD_REDO, OUNSELECTABLE);
-    design.undoAvailable = 1;
-    design.redoAvailable = 0;
-    design.undoWidget = single;
-    design.undoParent = 0;
+    if (design.selection.empty() || !design.selection.front()->parent) return;
+    hooks.commitEditor();
     owAdoptChild(0, 0, 0);
-    WidgetNode* parent = findHandle(design.selectionList->parentHandle);
-    if (action.status == design.selectionList->parentHandle) {
-        readGeometry(single);
-        if (!single && parent) {
-            buildGroupPanel(*parent, design.selectionList, true);
-            return markChanged();
-        }
-    } else {
-        design.undoParent = design.selectionList->parentHandle;
-        if (dropOn(action.status, single)) parent = findHandle(design.selectionList->parentHandle);
-    }
-    if (project.currentWidget) {
-        activateWidget(project.currentWidget);
-        adoptWidget(*project.currentWidget);
-    } else if (parent) {
-        buildGroupPanel(*parent, design.selectionList, false);
-    }
-    markChanged();
+    const bool stays = action.status == design.selection.front()->parent->handle;
+    const bool moved = stays ? moveInParent() : dropOn(findHandle(action.status));
+    if (project.currentWidget) activateWidget(project.currentWidget);
+    adoptSelection();
+    if (moved) markChanged();
 }

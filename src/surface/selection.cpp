@@ -38,23 +38,37 @@ void showCount(int count) {
 }
 
 // Only widgets that lie from the left and the top can be moved together.
-bool canBeGrouped(const WidgetNode* list) {
-    for (const WidgetNode* one = list; one; one = one->next)
-        if (one->hpos != OLEFT || one->vpos != OTOP) return false;
-    return true;
+bool canBeGrouped(const Records& members) {
+    return std::ranges::all_of(members, [](const WidgetNode* one) { return one->hpos == OLEFT && one->vpos == OTOP; });
 }
 
-void growGroupBox(const WidgetNode& parent, const WidgetNode* list) {
-    constexpr int FAR = 9999;
-    design.groupLeft = design.groupTop = FAR;
-    design.groupRight = design.groupBottom = -FAR;
-    for (const WidgetNode* one = list; one; one = one->next) {
-        const Edges edges = edgesOf(*one, parent.width, parent.height);
-        design.groupLeft = std::min(design.groupLeft, edges.left);
-        design.groupTop = std::min(design.groupTop, edges.top);
-        design.groupRight = std::max(design.groupRight, edges.right);
-        design.groupBottom = std::max(design.groupBottom, edges.bottom);
+// Takes all live handles off a record and what is below it.
+void forgetLive(WidgetNode& node) {
+    for (WidgetNode* one = &node; one; one = walkBelow(one, &node)) {
+        setHandle(*one, 0, one->parentHandle);
+        one->designCallbackId = one->designSelectId = 0;
     }
+}
+
+// Erases the live widgets of the group and shows copies of them on a panel of their own.
+void moveOntoPanel(const Records& members, int parentHandle) {
+    for (WidgetNode* one : members) {
+        storeGeometryBelow(*one);
+        owEraseWidget(one->handle);
+    }
+    const Box& box = design.groupBox;
+    setGridMode(project.gridMode);
+    design.groupPanel = owCreatePanel(parentHandle, box.x, box.y, box.width, box.height, owVpos, OTOP, owHpos, OLEFT,
+                                      owBorderType, ONOBOUNDARY, 0);
+    setGridMode(0);
+    for (WidgetNode* one : members) {
+        const OwnedList shown(copyNode(one, false));
+        shown->xpos -= box.x;
+        shown->ypos -= box.y;
+        realiseWidget(*shown, design.groupPanel, false);
+        forgetLive(*one);
+    }
+    owDrawWidget(design.groupPanel);
 }
 
 } // namespace
@@ -82,7 +96,7 @@ void selectWidget(WidgetNode* node) {
     clearSelected(project.forms);
     node->selected = 1;
     dropSelection(); // before the sheet is filled: a member of a group gets its own live widget back here
-    design.selectionList = copyNode(node, false);
+    design.selection = {node};
     hooks.showProperties(node);
     if (node->hierarchyItem) owTreeViewAction(node->hierarchyItem, OSELECTENTRY);
     hooks.bindCode(node);
@@ -99,117 +113,78 @@ void selectWidget(WidgetNode* node) {
 }
 
 bool shiftAdds(WidgetNode& found) {
-    const WidgetNode* first = design.selectionList;
-    if (!owEnqShiftKey() || !first || first->parentHandle == 0 || found.onToolbar) return false;
-    if (found.parentHandle != first->parentHandle) return true; // of another parent: nothing happens
-    WidgetNode* list = copyNode(first, true);
-    WidgetNode* last = list;
-    while (last->next) last = last->next;
-    last->next = copyNode(&found, false);
-    ++design.selectionCount;
-    groupSelection(found.parent, list);
+    if (!owEnqShiftKey() || design.selection.empty() || !design.selection.front()->parent || found.onToolbar)
+        return false;
+    if (found.parent != design.selection.front()->parent) return true; // of another parent: nothing happens
+    Records members = design.selection;
+    members.push_back(&found);
+    groupSelection(members);
     showSelectionCount();
     return true;
 }
 
 void dropSelection() {
-    if (!design.selectionList) return;
-    ungroupSelection(design.selectionList, nullptr);
-    deleteList(design.selectionList);
-    design.selectionList = nullptr;
+    ungroup();
+    design.selection.clear();
 }
 
-void groupSelection(WidgetNode* parent, WidgetNode* list) {
-    if (!list) return;
-    if (!list->next) {
-        WidgetNode* only = findName(project.forms, list->name, false);
-        deleteList(list);
+void groupSelection(const Records& members) {
+    if (members.empty()) return;
+    design.selectionCount = static_cast<int>(members.size());
+    if (members.size() == 1) {
         hooks.commandStatus(CMD_ALIGN, OUNSELECTABLE);
-        return selectWidget(only);
+        return selectWidget(members.front());
     }
-    if (!parent || !canBeGrouped(list)) {
-        host.infoBox("Grouping",
-                     "Only widgets with Left horizontal origin and Top vertical origin can be grouped together");
-        return deleteList(list);
-    }
+    if (!members.front()->parent || !canBeGrouped(members))
+        return host.infoBox("Grouping", "Only widgets with Left horizontal origin and Top vertical origin can be "
+                                        "grouped together");
     release();
     if (project.currentWidget) hooks.commitEditor();
-    if (design.selectionList) {
-        ungroupSelection(design.selectionList, list);
-        deleteList(design.selectionList);
-    }
-    design.selectionList = list;
+    ungroup();
+    design.selection = members;
     clearSelected(project.forms);
     project.currentWidget = nullptr;
     hooks.showProperties(nullptr);
-    activateWidget(parent);
-    buildGroupPanel(*parent, list, false);
+    activateWidget(members.front()->parent);
+    buildGroupPanel(false);
     hooks.commandStatus(CMD_ALIGN, OSELECTABLE);
+    showSelectionCount();
 }
 
-void buildGroupPanel(WidgetNode& parent, WidgetNode* list, bool keep) {
-    growGroupBox(parent, list);
-    if (!keep) {
-        for (const WidgetNode* one = list; one; one = one->next) owEraseWidget(one->handle);
-        design.groupParent = parent.handle;
-        setGridMode(project.gridMode);
-        design.groupPanel = owCreatePanel(parent.handle, design.groupLeft, design.groupTop,
-                                          design.groupRight - design.groupLeft, design.groupBottom - design.groupTop,
-                                          owVpos, OTOP, owHpos, OLEFT, owBorderType, ONOBOUNDARY, 0);
-        setGridMode(0);
-        WidgetNode* shown = copyNode(list, true);
-        for (WidgetNode* one = shown; one; one = one->next) {
-            one->xpos -= design.groupLeft;
-            one->ypos -= design.groupTop;
-        }
-        realiseWidget(*shown, design.groupPanel, true);
-        deleteList(shown);
-        owDrawWidget(design.groupPanel);
-    }
+void buildGroupPanel(bool keep) {
+    const WidgetNode& parent = *design.selection.front()->parent;
+    design.groupBox = boxAround(design.selection);
+    if (!keep) moveOntoPanel(design.selection, parent.handle);
     owSetActiveWidget(design.groupPanel);
     owAdoptChild(design.groupPanel, CMD_MOVED, CMD_DOUBLE_CLICK);
 }
 
-void ungroupSelection(WidgetNode* list, WidgetNode* second) {
-    if (!list || !list->next) return;
+void adoptSelection() {
+    if (groupStands())
+        buildGroupPanel(design.groupPanel != 0);
+    else if (project.currentWidget)
+        adoptWidget(*project.currentWidget);
+}
+
+void ungroup() {
+    if (!groupStands() || !design.groupPanel) return;
     release();
     owEraseWidget(design.groupPanel);
     design.groupPanel = 0;
-    for (WidgetNode* one = list; one; one = one->next) {
-        WidgetNode* real = findName(project.forms, one->name, false);
-        if (!real) continue;
-        realiseWidget(*real, design.groupParent, false);
-        one->handle = real->handle;
-        for (WidgetNode* other = second; other; other = other->next)
-            if (other->name == one->name) other->handle = real->handle;
-        redrawWidget(*real, false);
+    for (WidgetNode* one : design.selection) {
+        if (!one->parent) continue;
+        realiseWidget(*one, one->parent->handle, false);
+        redrawWidget(*one, false);
     }
-}
-
-void refreshSelectionList() {
-    hooks.commitEditor();
-    WidgetNode* fresh = nullptr;
-    WidgetNode** end = &fresh;
-    for (const WidgetNode* copy = design.selectionList; copy; copy = copy->next) {
-        const WidgetNode* real = findName(project.forms, copy->name, false);
-        if (!real) continue;
-        *end = copyNode(real, false);
-        end = &(*end)->next;
-    }
-    if (!fresh) return;
-    deleteList(design.selectionList);
-    design.selectionList = fresh;
 }
 
 void showSelectionCount() { showCount(design.selectionCount); }
 
 void forgetRecords() {
-    deleteList(design.selectionList); // the group's panel goes with its form
-    design.selectionList = nullptr;
+    design.selection.clear(); // the group's panel goes with its form
     eraseForms(project.forms);
     project.currentWidget = nullptr;
-    design.undoWidget = nullptr;
-    design.undoAvailable = design.redoAvailable = 0;
+    design.undo = {};
     design.valueWidget = 0;
     hooks.showProperties(nullptr);
     hooks.bindCode(nullptr);

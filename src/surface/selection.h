@@ -1,24 +1,40 @@
 // Selecting, placing, moving, resizing: from a mouse action on a form to the change of the project.
 #pragma once
 
-#include "project/records.h"
+#include "project/tree.h"
+
+#include <vector>
+
+struct ChildPlace;
+struct DragStep;
 
 void selectTool(int tool);
 void selectWidget(WidgetNode* node);
 void adoptWidget(const WidgetNode& node);
 
-// Makes `list` (owned copies) the selection, one live panel standing for all of them. Takes the list, whatever comes.
-void groupSelection(WidgetNode* parent, WidgetNode* list);
-void ungroupSelection(WidgetNode* list, WidgetNode* second);
-void buildGroupPanel(WidgetNode& parent, WidgetNode* list, bool keep);
+// Makes the records, all of one parent, the selection, with one live panel standing for all of them. A single one is
+// selected as usual; records that can't be moved together stay unselected, and the user is told.
+void groupSelection(const Records& members);
+void ungroup();                  // the members get live widgets in their parent again; they stay in the selection
+void buildGroupPanel(bool keep); // of the selection; with `keep` the panel that stands goes on
 // With Shift held, adds a widget beside the selected ones to the selection. True when Shift was meant for it.
 bool shiftAdds(WidgetNode& found);
-void dropSelection();        // ends a group, frees the selection list
-void refreshSelectionList(); // copies of the records as they are now, code on show included
-void showSelectionCount();   // in the status bar
-void forgetRecords(); // before the records of the project are freed: live forms down, no pointer to a record left
+void dropSelection();      // ends a group; nothing is in the selection then
+void adoptSelection();     // the drag handles again, after they were taken off for a while
+void showSelectionCount(); // in the status bar
+void forgetRecords();      // before the records of the project are freed: live forms down, no pointer to a record left
 
-void readGeometry(WidgetNode* node); // null for the group
+// Takes what a drag made of the live widget, or of the group's panel, into the records. False when nothing changed, or
+// what was asked for can't be: then the live widget is back at its place.
+bool takeGeometry(WidgetNode& node);
+bool takeGroupGeometry();
+
+// Hangs the selection on another parent, live, at those places among its children, or behind them for none.
+void moveSelectionTo(WidgetNode& target, const std::vector<ChildPlace>& places);
+DragStep stepBack(); // the step that leads the selection back to where it is now
+
+// Undo and Redo are live while the widget that an event is about is the one of the last drag.
+void showUndoState(const WidgetNode* found);
 
 // The pass over the forms that follows every event. `id` is the identifier of the event.
 void designEvent(int id);

@@ -2,9 +2,12 @@
 // events are read. One instance, `design`.
 #pragma once
 
-#include "project/records.h"
+#include "project/tree.h"
+#include "surface/geometry.h"
 
+#include <map>
 #include <string>
+#include <vector>
 
 enum Tool : int {
     TOOL_SELECTOR = 17000, // 17001 to 17027 place a widget
@@ -12,10 +15,34 @@ enum Tool : int {
     TOOL_TAB_BOX = 17019,
 };
 
+// Copies of what was copied or cut, and what paste has to know of the originals, which may be gone.
+struct PasteBuffer {
+    OwnedList chain;
+    int parent = 0;          // id of the record that held the originals
+    std::vector<int> beside; // ids of the originals and of what was pasted last: pasting with them selected goes beside
+    int shift = 0;           // cells that the next copy lies from the place of the original
+};
+
+// Where a record goes among the children of its parent; both by their ids, 0 for the head of them all.
+struct ChildPlace {
+    int record, behind;
+};
+
+// The last drag. The step holds the other end of it, and taking the step swaps the two, so that undo and redo are one
+// thing. Records go by their ids, for their live widgets may have been made anew since.
+struct DragStep {
+    bool undoable = false, redoable = false;
+    std::vector<int> records;
+    int parent = 0; // id of the parent to go to, 0 for the same one
+    std::vector<ChildPlace> places;
+    Box box = {}; // of the widget, or around the group
+};
+
 struct DesignState {
-    WidgetNode* selectionList = nullptr; // owned copies of the selected records; their handles lead to the real ones
-    int selectionCount = 1;
-    WidgetNode* pasteBuffer = nullptr; // owned copies
+    Records selection;      // the selected records, all of one parent; while there are several, a group stands
+    int selectionCount = 1; // as the status bar tells it
+    PasteBuffer pasteBuffer;
+    DragStep undo;
     int activeTool = TOOL_SELECTOR;
     int quitRequested = 0;   // 1 ends the action loop
     int formsShown = 1;      // 0 while all forms are hidden
@@ -29,28 +56,22 @@ struct DesignState {
     int skipPlacement = 0; // the next placement click is passed over once
     int skipCommit = 0;    // the next selectWidget leaves the code editor's text alone: its widget is gone
 
-    // Undo of the last drag; see undo.h.
-    int undoAvailable = 0;
-    int redoAvailable = 0;
-    WidgetNode* undoWidget = nullptr;                        // null for a group
-    int undoParent = 0;                                      // handle of the parent to go back to, 0 for the same one
-    int undoX = 0, undoY = 0, undoWidth = 0, undoHeight = 0; // in the project's unit
-
     // The rubber band: corners in pixels of the pressed panel, then in the project's unit.
     int rubberBandArmed = 0;
     int panelBandArmed = 0; // the press was on a panel, not on the main panel
     int bandStartX = 0, bandStartY = 0, bandEndX = 0, bandEndY = 0;
 
-    // The temporary panel of a group.
+    // The temporary panel of a group: it holds live copies, while the members themselves have no live widgets.
     int groupPanel = 0;
-    int groupParent = 0;                                              // handle of its live parent
-    int groupLeft = 0, groupRight = 0, groupTop = 0, groupBottom = 0; // in the project's unit
+    Box groupBox = {}; // around the members
 
-    int placeholderChild = 0; // blank child that keeps an empty tool bar or pane showing
-    int valueWidget = 0;      // handle of the value entry that the value callback reads
+    std::map<int, int> placeholders; // by record id of an empty tool bar or pane: the blank child that keeps it showing
+    int valueWidget = 0;             // handle of the value entry that the value callback reads
 };
 
 extern DesignState design;
+
+inline bool groupStands() { return design.selection.size() > 1; }
 
 // Every change of the project ends here: it has to be saved, and its source generated again.
 inline void markChanged() { project.projectModified = project.sourceStale = 1; }

@@ -1,8 +1,8 @@
-// One step back: the last drag. The stored geometry is the other end of the step, and taking the step swaps it with the
-// widget's own, so that undo and redo are one thing.
+// One step back: the last drag.
 #include "surface/clipboard.h"
 
 #include "menu-c.h"
+#include "project/placement.h"
 #include "project/tree.h"
 #include "surface/commands.h"
 #include "surface/geometry.h"
@@ -11,58 +11,84 @@
 #include "surface/selection.h"
 #include "surface/state.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
-Box storedBox() { return {design.undoX, design.undoY, design.undoWidth, design.undoHeight}; }
+// The step is about what is selected now.
+bool stepIsOfSelection() {
+    return !design.selection.empty() && std::ranges::equal(design.selection, design.undo.records, {}, &WidgetNode::id);
+}
 
-void stepInPlace(WidgetNode& widget) {
-    placeLive(widget.handle, storedBox());
-    readGeometry(&widget);
+bool stepInPlace() {
+    WidgetNode& widget = *design.selection.front();
+    const Box other = boxOf(widget);
+    placeLive(widget.handle, design.undo.box);
+    if (!takeGeometry(widget)) return false;
+    design.undo.box = other;
     redrawWidget(widget, false);
-    adoptWidget(widget);
+    return true;
 }
 
-void stepGroupInPlace() {
-    placeLive(design.groupPanel, storedBox());
-    readGeometry(nullptr);
+bool stepGroupInPlace() {
+    const Box other = design.groupBox;
+    placeLive(design.groupPanel, design.undo.box);
+    if (!takeGroupGeometry()) return false;
+    design.undo.box = other;
     owDrawWidget(design.groupPanel);
-    if (WidgetNode* parent = findHandle(design.selectionList->parentHandle))
-        buildGroupPanel(*parent, design.selectionList, true);
+    return true;
 }
 
-// Back to the parent that the widgets came from.
-void stepBetweenParents(WidgetNode* single) {
-    WidgetNode* target = findHandle(design.undoParent);
-    if (!target) return;
-    design.undoParent = design.selectionList->parentHandle;
-    placeLive(single ? single->handle : design.groupPanel, storedBox());
-    readGeometry(single);
-    if (!single) ungroupSelection(design.selectionList, nullptr);
-    moveSelectionTo(target, !single);
-    if (project.currentWidget)
-        adoptWidget(*project.currentWidget);
-    else
-        buildGroupPanel(*target, design.selectionList, false);
+void placeSelection(const Box& box) {
+    if (groupStands()) {
+        for (WidgetNode* one : design.selection) {
+            one->xpos += box.x - design.groupBox.x;
+            one->ypos += box.y - design.groupBox.y;
+        }
+        return;
+    }
+    WidgetNode& only = *design.selection.front();
+    only.xpos = box.x;
+    only.ypos = box.y;
+    only.width = box.width;
+    only.height = box.height;
 }
 
-void step(int& available, int& other, int command, int otherCommand) {
-    WidgetNode* single = project.currentWidget;
-    if (!available || single != design.undoWidget || !design.selectionList) return;
+// To the parent that the widgets came from, and to their places among its children.
+bool stepBetweenParents() {
+    WidgetNode* target = findRecord(design.undo.parent);
+    if (!target || !design.selection.front()->parent || refusalToHold(*target, design.selection).text) return false;
+    DragStep back = stepBack();
+    placeSelection(design.undo.box);
+    moveSelectionTo(*target, design.undo.places);
+    design.undo = std::move(back);
+    return true;
+}
+
+void step(bool undo) {
+    const bool available = undo ? design.undo.undoable : design.undo.redoable;
+    if (!available || !stepIsOfSelection()) return;
     owAdoptChild(0, 0, 0);
-    if (design.undoParent)
-        stepBetweenParents(single);
-    else if (single)
-        stepInPlace(*single);
-    else
-        stepGroupInPlace();
-    available = 0;
-    other = 1;
-    hooks.commandStatus(command, OUNSELECTABLE);
-    hooks.commandStatus(otherCommand, OSELECTABLE);
+    const bool group = groupStands();
+    const bool done = design.undo.parent ? stepBetweenParents() : group ? stepGroupInPlace() : stepInPlace();
+    adoptSelection();
+    if (!done) return;
+    design.undo.undoable = !undo;
+    design.undo.redoable = undo;
+    hooks.commandStatus(undo ? CMD_UNDO : CMD_REDO, OUNSELECTABLE);
+    hooks.commandStatus(undo ? CMD_REDO : CMD_UNDO, OSELECTABLE);
     markChanged();
 }
 
 } // namespace
 
-void undoCommand() { step(design.undoAvailable, design.redoAvailable, CMD_UNDO, CMD_REDO); }
-void redoCommand() { step(design.redoAvailable, design.undoAvailable, CMD_REDO, CMD_UNDO); }
+void showUndoState(const WidgetNode* found) {
+    const DragStep& last = design.undo;
+    const bool own = found && last.records == std::vector<int>{found->id};
+    hooks.commandStatus(CMD_UNDO, own && last.undoable ? OSELECTABLE : OUNSELECTABLE);
+    hooks.commandStatus(CMD_REDO, own && last.redoable ? OSELECTABLE : OUNSELECTABLE);
+}
+
+void undoCommand() { step(true); }
+void redoCommand() { step(false); }

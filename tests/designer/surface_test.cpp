@@ -86,11 +86,11 @@ TEST(Surface, FirstWidgetTakesTheBlankButtonOffAToolBar) {
     Desk desk;
     WidgetNode* bar = desk.place(PLACE_TOOL_BAR, desk.panel, 200, 200);
     ASSERT_TRUE(bar);
-    EXPECT_GT(design.placeholderChild, 0);
+    EXPECT_GT(design.placeholders[bar->id], 0);
     WidgetNode* button = desk.place(PLACE_BUTTON, bar, 60, 10);
     ASSERT_TRUE(button);
     EXPECT_EQ(button->onToolbar, 1);
-    EXPECT_EQ(design.placeholderChild, 0);
+    EXPECT_TRUE(design.placeholders.empty());
 }
 
 struct DragCase {
@@ -352,7 +352,7 @@ TEST(Surface, CopyAndPasteShiftBesideTheOriginal) {
     WidgetNode* copy = project.currentWidget;
     ASSERT_NE(copy, button);
     EXPECT_EQ(copy->xpos, 50 + project.gridPixelX);
-    EXPECT_EQ(copy->ypos, 100 - project.gridPixelY);
+    EXPECT_EQ(copy->ypos, 100 + project.gridPixelY);
     EXPECT_EQ(copy->slots[SLOT_SELECT], "y = 2");
     EXPECT_NE(copy->name, button->name);
 }
@@ -402,7 +402,7 @@ TEST(Surface, GridProjectCountsInCells) {
     desk.command(CMD_COPY);
     desk.command(CMD_DUPLICATE);
     EXPECT_EQ(project.currentWidget->xpos, 6);
-    EXPECT_EQ(project.currentWidget->ypos, 6);
+    EXPECT_EQ(project.currentWidget->ypos, 8);
     project.gridMode = 0;
     applyGrid();
 }

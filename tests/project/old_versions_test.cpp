@@ -275,7 +275,9 @@ TEST_P(OldVersion, FormsAreReadFromVersion30On) {
     fillProject();
     const std::string bytes = encodeForm(image, project.forms, 13, 13);
     writeBytes(folder.file("old.wdf"), bytes);
-    freshProject()->name = "Mine";
+    WidgetNode* mine = freshProject();
+    mine->name = "Mine";
+    mine->child->name = "Mine_MainPanel";
     project.projectLanguage = 77;
     project.snapGrid = 13;
     if (version < 30) {

@@ -152,7 +152,7 @@ TEST(Placement, TheFirstRadioButtonMakesARadioBox) {
     EXPECT_EQ(panel->name, "Form1_Radio1");
     EXPECT_EQ(panel->text, "Radio Box 1");
     EXPECT_EQ(panel->borderType, 3);
-    EXPECT_EQ(first.widget->subType, 7) << "it was a panel when the button was made";
+    EXPECT_EQ(first.widget->subType, 6);
     EXPECT_EQ(project.counters[COUNTER_PANEL], 1);
     EXPECT_EQ(project.widgetCount, count + 1);
     EXPECT_EQ(findName(project.forms, "Form1_Panel1", false), nullptr);
@@ -209,21 +209,12 @@ TEST(Names, ValidNames) {
         const char* name;
         bool valid;
     };
-    const Row rows[] = {{"", false},          {"a", true},
-                        {"Z9_x", true},       {"9a", false},
-                        {"_a", false},        {"a b", false},
-                        {"a-b", false},       {"form1", true},
-                        {"Form1", false},     {"bar", false},
-                        {"\xc3\xa4", false},  {"end", true},
-                        {"a\xc3\xa4", false}, {"Form1_MainPanel", false}};
-    WidgetNode* form = freshProject();
-    form->statusBar = std::make_unique<StatusBarRec>();
-    form->statusBar->name = "bar";
-    for (const Row& row : rows) EXPECT_EQ(validName(row.name, false), row.valid) << row.name;
-    WidgetNode* button = addRecord(form->child, TYPE_BUTTON, "mine");
-    project.currentWidget = button;
-    EXPECT_FALSE(validName("mine", false));
-    EXPECT_TRUE(validName("mine", true));
+    const Row rows[] = {{"", false},    {"a", true},    {"Z9_x", true},      {"9a", false}, {"_a", false},
+                        {"a b", false}, {"a-b", false}, {"\xc3\xa4", false}, {"end", true}, {"a\xc3\xa4", false}};
+    freshProject();
+    for (const Row& row : rows) EXPECT_EQ(nameFree(row.name), row.valid) << row.name;
+    EXPECT_TRUE(nameFree(std::string(NAME_LIMIT, 'a')));
+    EXPECT_FALSE(nameFree(std::string(NAME_LIMIT + 1, 'a')));
     EXPECT_EQ(identifierFrom("Save as (new)..."), "Save_as__new____");
     freshProject();
 }
@@ -254,11 +245,16 @@ TEST(Names, PastedRecordsTakeTheNameOfTheirNewForm) {
 TEST(Paste, WhatAParentTakes) {
     struct Row {
         int target;
-        std::vector<int> chain;
-        const char* refusal; // null: taken
+        std::vector<int> records;
+        const char* refusal;         // null: taken
+        const char* title = nullptr; // of the refusal on a Master MDI form
     };
     const Row rows[] = {
         {TYPE_MAIN_PANEL, {TYPE_BUTTON, TYPE_TOOL_BAR, TYPE_PANE}, nullptr},
+        {TYPE_MAIN_PANEL, {TYPE_TOOL_SEPARATOR}, "Toolbar Separators can only be placed on toolbars"},
+        {TYPE_PANEL, {TYPE_TOOL_SEPARATOR}, "Toolbar Separators can only be placed on toolbars"},
+        {TYPE_MAIN_PANEL, {TYPE_TOOL_BAR, TYPE_BUTTON}, "Cannot place widgets on Master MDI form", "Master MDI Form"},
+        {TYPE_PANEL, {TYPE_BUTTON}, "Cannot place widgets on Master MDI form", "Master MDI Form"},
         {TYPE_BUTTON, {TYPE_BUTTON}, "This widget cannot support child widgets."},
         {TYPE_PANEL, {TYPE_BUTTON, TYPE_TAB_BOX}, nullptr},
         {TYPE_PANEL, {TYPE_BUTTON, TYPE_PANE}, "Panels can not support Panes or Tool bars"},
@@ -282,23 +278,18 @@ TEST(Paste, WhatAParentTakes) {
     };
     for (const Row& row : rows) {
         WidgetNode* form = freshProject();
-        project.currentWidget = row.target == TYPE_MAIN_PANEL ? form : addRecord(form->child, row.target, "T");
-        WidgetNode* chain = nullptr;
-        for (auto type = row.chain.rbegin(); type != row.chain.rend(); ++type) {
-            WidgetNode* node = makeDefaultRecord(*type);
-            if (!node) node = new WidgetNode();
-            node->type = *type;
-            node->xpos = node->ypos = 0;
-            node->next = chain;
-            chain = node;
+        if (row.title) form->formType = FORM_MASTER_MDI;
+        WidgetNode* target = row.target == TYPE_MAIN_PANEL ? form : addRecord(form->child, row.target, "T");
+        Records records;
+        for (const int type : row.records) {
+            WidgetNode* node = new WidgetNode();
+            node->type = type;
+            records.push_back(node);
         }
         BoxScript boxes;
-        if (row.refusal) boxes.expect({NO_PARENT, row.refusal});
-        project.currentWidget->width = 100;
-        project.currentWidget->height = 100;
-        EXPECT_EQ(checkPasteParent(chain), row.refusal == nullptr) << row.target;
-        EXPECT_NE(project.currentWidget, form) << "a form gives way to its main panel";
-        deleteList(chain);
+        if (row.refusal) boxes.expect({row.title ? row.title : NO_PARENT, row.refusal});
+        EXPECT_EQ(mayHold(*containerFor(target), records), row.refusal == nullptr) << row.target;
+        for (WidgetNode* node : records) deleteNode(node);
     }
     freshProject();
 }
@@ -316,14 +307,13 @@ TEST(Paste, APositionOutsideIsAskedAbout) {
         WidgetNode* form = freshProject();
         WidgetNode* panel = addRecord(form->child, TYPE_PANEL, "T");
         panel->width = panel->height = 120;
-        project.currentWidget = panel;
         WidgetNode* chain = makeDefaultRecord(TYPE_BUTTON);
         chain->next = makeDefaultRecord(TYPE_BUTTON);
         chain->xpos = 150, chain->ypos = 90;
         chain->next->xpos = 200, chain->next->ypos = 60;
         const BoxScript boxes({{"Paste widget position outside parent dimensions",
                                 "Do you want to reposition near origin?", row.answer}});
-        EXPECT_EQ(checkPasteParent(chain), row.result);
+        EXPECT_EQ(settleInside(*panel, chainOf(chain)), row.result);
         EXPECT_EQ(std::vector({chain->xpos, chain->ypos, chain->next->xpos, chain->next->ypos}), row.positions);
         deleteList(chain);
     }
@@ -387,6 +377,31 @@ TEST(FormTypes, ChoicesAskRefuseAndReachOtherForms) {
     const BoxScript boxes({{"Change to Master MDI", "Form cannot contain any children for it to be master MDI|Remove "
                                                     "child widgets before changing"}});
     EXPECT_FALSE(changeFormType(*form, FORM_MASTER_MDI));
+    freshProject();
+}
+
+TEST(FormTypes, ARefusedMasterLeavesTheOldOne) {
+    WidgetNode* form = freshProject();
+    WidgetNode* second = newForm();
+    addRecord(second->child, TYPE_BUTTON, "Form2_Button1");
+    const ExpectedBox taken = {"Master already set",
+                               "A form has already been set as the master.|If you set this form as the master, the "
+                               "current master will become a child SDI window form.|Do you wish to continue?",
+                               ANSWER_YES};
+    BoxScript boxes({taken,
+                     {"Change to Master MDI", "Form cannot contain any children for it to be master MDI|Remove child "
+                                              "widgets before changing"}});
+    EXPECT_FALSE(changeFormType(*second, FORM_MASTER_MDI));
+    EXPECT_EQ(form->formType, FORM_MASTER_SDI);
+    newForm()->formType = FORM_STATIC_MDI;
+    form->formType = FORM_MASTER_MDI;
+    form->parentName = "Menu";
+    boxes.expect(taken);
+    boxes.expect({"Master SDI Requested",
+                  "All child MDI forms will be reset to child SDI forms|Do you wish to continue?", ANSWER_NO});
+    EXPECT_FALSE(changeFormType(*second, FORM_MASTER_SDI));
+    EXPECT_EQ(form->formType, FORM_MASTER_MDI);
+    EXPECT_EQ(form->parentName, "Menu");
     freshProject();
 }
 
