@@ -1,9 +1,9 @@
 // Any bytes as the log of any compiler and as a source that was edited by hand: lines that can be shown, few enough for
 // the list, and a place for every message.
-#include "build/catalogue.h"
-#include "build/log.h"
-#include "build/markers_search.h"
-#include "build/navigation.h"
+#include "compile/catalogue.h"
+#include "compile/log.h"
+#include "compile/markers_search.h"
+#include "compile/navigation.h"
 #include "memory_file.h"
 
 #include <cstdlib>

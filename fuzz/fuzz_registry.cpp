@@ -1,6 +1,6 @@
 // Any bytes as the registry: keys and values within their limits, and a catalogue that comes to its end with each
 // library word.
-#include "build/catalogue.h"
+#include "compile/catalogue.h"
 #include "memory_file.h"
 #include "platform/environment.h"
 #include "platform/registry.h"

@@ -7,7 +7,7 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 object=$(mktemp) || exit 1
 trap 'rm -f "$object"' EXIT
 failed=0
-for file in "$root"/src/platform/*.cpp "$root"/src/build/*.cpp; do
+for file in "$root"/src/platform/*.cpp "$root"/src/compile/*.cpp; do
     case $file in *_posix.cpp) continue ;; esac
     "$compiler" -std=c++20 -Wall -Wextra -Werror -I"$root/src" -c "$file" -o "$object" || { echo "FAILED: $file"; failed=1; }
 done

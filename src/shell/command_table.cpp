@@ -1,4 +1,4 @@
-#include "build/execute.h"
+#include "compile/execute.h"
 #include "editing/code_editor.h"
 #include "editing/name_chooser.h"
 #include "editing/source_viewer.h"

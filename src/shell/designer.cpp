@@ -1,7 +1,7 @@
 #include "shell/designer.h"
 
-#include "build/catalogue.h"
-#include "build/execute.h"
+#include "compile/catalogue.h"
+#include "compile/execute.h"
 #include "codegen/generate.h"
 #include "editing/modes.h"
 #include "editing/syntax.h"

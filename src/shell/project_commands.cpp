@@ -1,8 +1,8 @@
 #include "shell/project_commands.h"
 
-#include "build/catalogue.h"
-#include "build/execute.h"
-#include "build/log.h"
+#include "compile/catalogue.h"
+#include "compile/execute.h"
+#include "compile/log.h"
 #include "codegen/generate.h"
 #include "editing/code_editor.h"
 #include "editing/modes.h"

@@ -1,7 +1,7 @@
 // From a build to the code editor: errors of a real compiler in blocks, slots and entries, in the whole designer.
-#include "build/driver.h"
-#include "build/log.h"
-#include "build/toolkit_places.h"
+#include "compile/driver.h"
+#include "compile/log.h"
+#include "compile/toolkit_places.h"
 #include "editing/code_editor.h"
 #include "editing/text_view.h"
 #include "platform/paths.h"
