@@ -204,7 +204,7 @@ int captureCompilerEnvironment() {
 
 void setUpCompiler() {
     readCompilerCatalogue();
-    if (compiler.profile == COMPILER_GNU) return; // found on the PATH that is in force
+    if (compilerOf(compiler.profile).ofThisSystem) return; // found on the PATH that is in force
     if (captureCompilerEnvironment()) return;
     host.errorBox("Set Environment ", "Can not find compiler in registry to set appropriate environment|"
                                       "Suggest restart ORBAWIDG Designer in compiler environment command window");
