@@ -1,6 +1,6 @@
 // Boxes that ask, the help window, and the clipboard.
+#include "toolkit/families/boxes.h"
 #include "toolkit/testing/robot.h"
-#include "toolkit/widgets/boxes.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,6 +1,6 @@
 #include "program_fixture.h"
 
-#include "toolkit/widgets/buttons.h"
+#include "toolkit/views/buttons.h"
 
 using namespace orba;
 

@@ -1,7 +1,7 @@
 // Handles, identifiers, the queue, keys and timers.
 #include "toolkit/testing/robot.h"
 
-#include "toolkit/widgets/core.h"
+#include "toolkit/frame/core.h"
 
 #include <QWidget>
 

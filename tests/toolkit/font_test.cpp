@@ -1,7 +1,7 @@
 #include "program_fixture.h"
 
-#include "toolkit/widgets/panel.h"
-#include "toolkit/widgets/text_family.h"
+#include "toolkit/families/text_family.h"
+#include "toolkit/views/panel.h"
 
 #include <QFontInfo>
 

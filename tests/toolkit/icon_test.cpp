@@ -1,7 +1,7 @@
 // Pictures by name: every stock name shows something, sharp at its size, and nothing is ever an empty square.
 #include "toolkit/testing/robot.h"
-#include "toolkit/widgets/icon_names.h"
-#include "toolkit/widgets/icons.h"
+#include "toolkit/views/icons/icon_names.h"
+#include "toolkit/views/icons/icons.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 // List boxes and combo boxes.
 #include "toolkit/testing/robot.h"
-#include "toolkit/widgets/list_contents.h"
+#include "toolkit/views/list_contents.h"
 
 #include <QComboBox>
 #include <QDir>

@@ -1,10 +1,10 @@
 // Sliders, gauges, progress bars, arrays, tables, TTY entries and graphics frames.
 #include "program_fixture.h"
 
-#include "toolkit/widgets/array_grid.h"
-#include "toolkit/widgets/drawing.h"
-#include "toolkit/widgets/sliders.h"
-#include "toolkit/widgets/text_family.h"
+#include "toolkit/families/text_family.h"
+#include "toolkit/views/array_grid.h"
+#include "toolkit/views/drawing.h"
+#include "toolkit/views/sliders.h"
 
 #include <QHeaderView>
 #include <QLineEdit>

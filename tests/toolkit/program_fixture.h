@@ -1,8 +1,8 @@
 // A program of the toolkit with a master window and a panel on it, for tests that work its widgets with real events.
 #pragma once
 
+#include "toolkit/frame/core.h"
 #include "toolkit/include/menu-c.h"
-#include "toolkit/widgets/core.h"
 
 #include <QApplication>
 #include <QTest>

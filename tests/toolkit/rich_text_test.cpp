@@ -1,7 +1,7 @@
 #include "program_fixture.h"
 
-#include "toolkit/widgets/program_text.h"
-#include "toolkit/widgets/rtf.h"
+#include "toolkit/views/text/program_text.h"
+#include "toolkit/views/text/rtf.h"
 
 #include <QTextBlock>
 #include <QTextList>

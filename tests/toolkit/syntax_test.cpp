@@ -1,7 +1,7 @@
 #include "program_fixture.h"
 
-#include "toolkit/widgets/syntax_highlighter.h"
-#include "toolkit/widgets/text_family.h"
+#include "toolkit/families/text_family.h"
+#include "toolkit/views/text/syntax_highlighter.h"
 
 #include <QTemporaryDir>
 #include <QTextBlock>

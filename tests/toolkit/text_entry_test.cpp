@@ -1,6 +1,6 @@
 #include "program_fixture.h"
 
-#include "toolkit/widgets/text_family.h"
+#include "toolkit/families/text_family.h"
 
 #include <QCheckBox>
 #include <QClipboard>

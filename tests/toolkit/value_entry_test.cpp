@@ -1,6 +1,6 @@
 #include "program_fixture.h"
 
-#include "toolkit/widgets/value_entry.h"
+#include "toolkit/views/text/value_entry.h"
 
 using namespace orba;
 

@@ -1,4 +1,4 @@
-#include "toolkit/widgets/value_format.h"
+#include "toolkit/views/text/value_format.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Windows, menus, layout, confinement of the input.
 #include "toolkit/testing/robot.h"
 
-#include "toolkit/widgets/core.h"
+#include "toolkit/frame/core.h"
 
 #include <QAction>
 #include <QScreen>

@@ -1,6 +1,6 @@
 // Operations by number: each stands for one routine.
 #include "toolkit/checked/entries.h"
-#include "toolkit/widgets/frame.h"
+#include "toolkit/frame/frame.h"
 
 namespace orba {
 namespace {

@@ -1,8 +1,8 @@
 #include "toolkit/checked/entries.h"
 
 #include "toolkit/checked/report.h"
-#include "toolkit/widgets/frame.h"
-#include "toolkit/widgets/session.h"
+#include "toolkit/frame/frame.h"
+#include "toolkit/frame/session.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // The checked entries: what is looked at before a routine reaches the widgets, and the numbered reports.
 #pragma once
 
-#include "toolkit/widgets/arguments.h"
+#include "toolkit/frame/arguments.h"
 
 namespace orba {
 

@@ -1,7 +1,7 @@
 #include "toolkit/checked/report.h"
 
-#include "toolkit/widgets/core.h"
-#include "toolkit/widgets/session.h"
+#include "toolkit/frame/core.h"
+#include "toolkit/frame/session.h"
 
 #include <cstdio>
 #include <cstdlib>

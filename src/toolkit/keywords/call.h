@@ -1,7 +1,7 @@
 // One call of a routine on its way from the C interface or a word list to the checked entries.
 #pragma once
 
-#include "toolkit/widgets/arguments.h"
+#include "toolkit/frame/arguments.h"
 
 #include <cstdarg>
 #include <initializer_list>

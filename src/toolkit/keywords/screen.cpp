@@ -1,4 +1,4 @@
-#include "toolkit/widgets/screen.h"
+#include "toolkit/frame/screen.h"
 
 #include "menu-c.h"
 

@@ -1,8 +1,8 @@
 #include "toolkit/testing/robot.h"
 
 #include "toolkit/checked/report.h"
-#include "toolkit/widgets/frame.h"
-#include "toolkit/widgets/windows.h"
+#include "toolkit/families/windows.h"
+#include "toolkit/frame/frame.h"
 
 #include <QAction>
 #include <QApplication>

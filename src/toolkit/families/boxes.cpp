@@ -1,0 +1,153 @@
+// Message boxes, the file browser, and the choice of colours and fonts.
+#include "toolkit/families/boxes.h"
+
+#include "toolkit/frame/core.h"
+#include "toolkit/views/icons/icons.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QTreeView>
+#include <array>
+
+namespace orba {
+namespace {
+
+struct ButtonSet {
+    int buttons; // number that programs pass
+    QMessageBox::StandardButtons shown;
+    QMessageBox::StandardButton preset, escape;
+};
+constexpr QMessageBox::StandardButton ok = QMessageBox::Ok, cancel = QMessageBox::Cancel, yes = QMessageBox::Yes,
+                                      no = QMessageBox::No;
+const ButtonSet buttonSets[] = {
+    {0, ok, ok, ok},
+    {1, ok | cancel, ok, cancel},
+    {3, yes | no, yes, no},
+    {4, yes | no | cancel, yes, cancel},
+};
+
+struct Answer {
+    QMessageBox::StandardButton button;
+    int number; // what programs read
+};
+constexpr Answer answers[] = {{ok, 4}, {cancel, 1}, {yes, 6}, {no, 3}};
+
+constexpr QMessageBox::Icon boxIcons[] = {QMessageBox::NoIcon, QMessageBox::Question, QMessageBox::Warning,
+                                          QMessageBox::Information, QMessageBox::Critical};
+
+// Gives the focus back to what had it before a box came up; a box closed under a window manager may lose it otherwise.
+class FocusKeeper {
+public:
+    FocusKeeper() : focus_(QApplication::focusWidget()) { icons::useTheme(); }
+    ~FocusKeeper() {
+        if (!focus_) return;
+        focus_->activateWindow();
+        focus_->setFocus();
+    }
+    FocusKeeper(const FocusKeeper&) = delete;
+    FocusKeeper& operator=(const FocusKeeper&) = delete;
+
+private:
+    QPointer<QWidget> focus_;
+};
+
+QString& lastDirectory() {
+    static QString directory;
+    return directory;
+}
+
+QString startDirectory(const QString& wanted) {
+    QString native = QDir::fromNativeSeparators(wanted);
+    if (!native.isEmpty() && QFileInfo(native).isDir()) return native;
+    if (!lastDirectory().isEmpty() && QFileInfo(lastDirectory()).isDir()) return lastDirectory();
+    return QDir::currentPath();
+}
+
+} // namespace
+
+int messageBox(const QString& title, const QString& text, int icon, int buttons) {
+    const ButtonSet* set = &buttonSets[0];
+    for (const ButtonSet& row : buttonSets)
+        if (row.buttons == buttons) set = &row;
+    const FocusKeeper keeper;
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString(text).replace(QLatin1Char('|'), QLatin1Char('\n')));
+    box.setIcon(icon >= 0 && icon < static_cast<int>(std::size(boxIcons)) ? boxIcons[icon] : QMessageBox::NoIcon);
+    box.setStandardButtons(set->shown);
+    box.setDefaultButton(set->preset);
+    box.setEscapeButton(set->escape);
+    const int pressed = runBox(box);
+    for (const Answer& answer : answers)
+        if (pressed == answer.button) return answer.number;
+    return 1;
+}
+
+QStringList dialogueFilters(const QString& filter) {
+    static const QRegularExpression ownPattern(QStringLiteral(R"(\s*\([^()]*\)\s*$)"));
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i < parts.size(); i += 2) {
+        QString patterns = parts[i].trimmed().replace(QLatin1Char(';'), QLatin1Char(' '));
+        if (patterns.isEmpty()) continue;
+        if (patterns == QLatin1String("*.*")) patterns = QStringLiteral("*"); // names without an ending are files too
+        const QString description = parts.value(i + 1).trimmed().remove(ownPattern);
+        filters << QStringLiteral("%1 (%2)").arg(description.isEmpty() ? patterns : description, patterns);
+    }
+    return filters;
+}
+
+bool fileBrowser(FileChoice& choice) {
+    const FocusKeeper keeper;
+    QFileDialog dialogue(QApplication::activeWindow(), choice.title, startDirectory(choice.directory));
+    dialogue.resize(760, 480);
+    if (auto* files = dialogue.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        constexpr int nameWidth = 290, dateWidth = 150;
+        files->header()->resizeSection(0, nameWidth);
+        files->header()->resizeSection(3, dateWidth);
+    }
+    const bool folder = choice.question == FileQuestion::directory;
+    dialogue.setAcceptMode(choice.question == FileQuestion::save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogue.setFileMode(folder                                  ? QFileDialog::Directory
+                         : choice.question == FileQuestion::save ? QFileDialog::AnyFile
+                                                                 : QFileDialog::ExistingFile);
+    dialogue.setOption(QFileDialog::ShowDirsOnly, folder);
+    dialogue.setOption(QFileDialog::DontConfirmOverwrite);
+    const QStringList filters = dialogueFilters(choice.filter);
+    if (!folder && !filters.isEmpty()) dialogue.setNameFilters(filters);
+    if (!folder && !choice.name.isEmpty()) dialogue.selectFile(choice.name);
+    if (runBox(dialogue) != QDialog::Accepted || dialogue.selectedFiles().isEmpty()) return false;
+    const QFileInfo chosen(dialogue.selectedFiles().constFirst());
+    choice.directory = folder ? chosen.absoluteFilePath() : chosen.absolutePath();
+    choice.name = folder ? QString() : chosen.fileName();
+    lastDirectory() = choice.directory;
+    choice.directory = QDir::toNativeSeparators(choice.directory);
+    return true;
+}
+
+bool colourBox(QColor& colour) {
+    const FocusKeeper keeper;
+    QColorDialog dialogue(colour, QApplication::activeWindow());
+    if (runBox(dialogue) != QDialog::Accepted) return false;
+    colour = dialogue.selectedColor();
+    return colour.isValid();
+}
+
+bool fontBox(QFont& font) {
+    const FocusKeeper keeper;
+    QFontDialog dialogue(font, QApplication::activeWindow());
+    if (runBox(dialogue) != QDialog::Accepted) return false;
+    font = dialogue.selectedFont();
+    return true;
+}
+
+} // namespace orba

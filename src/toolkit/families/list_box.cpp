@@ -1,0 +1,247 @@
+// List boxes.
+#include "toolkit/families/list_family.h"
+
+#include "toolkit/families/family_support.h"
+#include "toolkit/views/described_row.h"
+#include "toolkit/views/icons/icons.h"
+#include "toolkit/views/list_contents.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QScrollBar>
+
+namespace orba {
+namespace {
+
+enum Property : int {
+    offColour = 25,
+    onColour = 26,
+    textColour = 27,
+    sortProperty = 41,
+    typeProperty = 42,
+    styleProperty = 73,
+    iconProperty = 99,
+    descWidthProperty = 97
+};
+
+constexpr QAbstractItemView::SelectionMode selectionModes[] = {
+    QAbstractItemView::SingleSelection, QAbstractItemView::MultiSelection, QAbstractItemView::ExtendedSelection};
+
+// The list tells what its user does; the program's changes go unreported.
+class ListView : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+    int handle = 0;
+    bool wholeRows = false; // the height is cut to whole rows
+    DescribedRow* rows = nullptr;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QListWidget::focusInEvent(event);
+        if (byUser(*event)) post(handle, Slot::select, 1);
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        QListWidget::focusOutEvent(event);
+        if (byUser(*event)) post(handle, Slot::select, 0);
+    }
+
+    void mousePressEvent(QMouseEvent* event) override {
+        const int before = currentRow();
+        QListWidget::mousePressEvent(event);
+        if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint())) chosen(before, event->position());
+    }
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        QListWidget::mouseDoubleClickEvent(event);
+        if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()))
+            post(handle, Slot::doubleClick, currentRow() + 1, event->position());
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        const int before = currentRow();
+        const QList<QListWidgetItem*> selected = selectedItems();
+        QListWidget::keyPressEvent(event);
+        const bool confirmed = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (currentRow() != before || selectedItems() != selected || (confirmed && currentItem())) chosen(before, {});
+        if (confirmed) event->ignore(); // a default button may want it too
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        QListWidget::resizeEvent(event);
+        if (!wholeRows || count() == 0) return;
+        const int row = sizeHintForRow(0);
+        const int spare = row > 0 ? viewport()->height() % row : 0;
+        if (spare > 0 && viewport()->height() > row) resize(width(), height() - spare);
+    }
+
+private:
+    void chosen(int before, QPointF position) {
+        if (currentRow() != before) post(handle, Slot::change, currentRow() + 1, position);
+        post(handle, Slot::general, currentRow() + 1, position);
+    }
+};
+
+struct ListData : FamilyData {
+    bool sorted = false;
+    bool icons = true;
+    int capacity = 0; // most rows, 0 for any number
+};
+
+ListView& listOf(Widget& widget) { return *static_cast<ListView*>(widget.view.data()); }
+
+void setListType(Widget& widget, int type) {
+    widget.type = type;
+    const bool known = type >= 0 && type < static_cast<int>(std::size(selectionModes));
+    listOf(widget).setSelectionMode(selectionModes[known ? type : 0]);
+}
+
+bool setListProperty(Widget& widget, int property, const Value& value) {
+    ListView& list = listOf(widget);
+    switch (property) {
+    case offColour: setViewColour(&list, QPalette::Base, value.integer); return true;
+    case onColour: setViewColour(&list, QPalette::Highlight, value.integer); return true;
+    case textColour: setViewColour(&list, QPalette::Text, value.integer); return true;
+    case typeProperty: setListType(widget, value.integer); return true;
+    case sortProperty:
+        dataOf<ListData>(widget).sorted = value.integer == OSORTED;
+        if (value.integer == OSORTED) list.sortItems();
+        return true;
+    case styleProperty: list.wholeRows = value.integer == OAPPROX; return true;
+    case descWidthProperty:
+        list.rows->width = pixelsAcross(value.integer);
+        list.viewport()->update();
+        return true;
+    default: return false;
+    }
+}
+
+bool getListProperty(Widget& widget, int property, Value& value) {
+    const ListView& list = listOf(widget);
+    switch (property) {
+    case typeProperty: value.integer = widget.type; return true;
+    case sortProperty: value.integer = dataOf<ListData>(widget).sorted ? OSORTED : OUNSORTED; return true;
+    case styleProperty: value.integer = list.wholeRows ? OAPPROX : OEXACT; return true;
+    case descWidthProperty: value.integer = unitsAcross(list.rows->width); return true;
+    default: return false;
+    }
+}
+
+// The text of the current row.
+QString listText(Widget& widget) {
+    const QListWidgetItem* item = listOf(widget).currentItem();
+    return item ? item->text() : QString();
+}
+
+QSize listSize(Widget& widget) {
+    const ListView& list = listOf(widget);
+    return {list.sizeHintForColumn(0) + 40, list.fontMetrics().height() * 6};
+}
+
+const Family listBoxes{
+    .name = "list box", .get = getListProperty, .set = setListProperty, .text = listText, .naturalSize = listSize};
+
+Word createListBox(const Arguments& call) {
+    Widget* parent = widgetOf(call.integer(0));
+    auto* view = new ListView(clientOf(parent));
+    auto* rows = new DescribedRow(view);
+    view->rows = rows;
+    view->setItemDelegate(rows);
+    view->setUniformItemSizes(true);
+    view->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    Widget& list = addWidget(Kind::listBox, listBoxes, parent, view);
+    view->handle = list.handle;
+    auto data = std::make_unique<ListData>();
+    data->sorted = call.keyword(owSort) == OSORTED;
+    data->capacity = call.given(owCapacity) ? call.keyword(owCapacity) : 0;
+    data->icons = call.keyword(owUseIcons) != OOFF;
+    list.data = std::move(data);
+    const int contents = call.integer(5);
+    for (const ListRow& row : listContents(contents)) listEntry(list, {OADD, 0, row.text, row.icon});
+    const int type = call.given(owListType) ? call.keyword(owListType) : call.keyword(owType);
+    const int handle = finishCreation(list, call);
+    setListType(list, type);
+    view->wholeRows = (call.given(owListStyle) ? call.keyword(owListStyle) : call.keyword(owStyle)) == OAPPROX;
+    if (call.given(owDescWidth)) rows->width = pixelsAcross(call.keyword(owDescWidth));
+    constexpr std::pair<int, int> colours[] = {{owOffCol, offColour}, {owOnCol, onColour}, {owTextCol, textColour}};
+    for (const auto& [keyword, property] : colours)
+        if (call.given(keyword))
+            setListProperty(list, property, {.integer = call.keyword(keyword), .real = 0, .text = {}});
+    return handle;
+}
+
+void addRow(Widget& widget, int at, const ListEntry& entry) {
+    ListView& list = listOf(widget);
+    const ListData& data = dataOf<ListData>(widget);
+    auto* item = new QListWidgetItem(entry.text);
+    if (!entry.icon.isNull()) item->setIcon(entry.icon);
+    if (data.sorted) {
+        at = 0;
+        while (at < list.count() && list.item(at)->text().compare(entry.text, Qt::CaseInsensitive) <= 0) ++at;
+    }
+    const bool atEnd = list.verticalScrollBar()->value() == list.verticalScrollBar()->maximum();
+    list.insertItem(at, item);
+    if (data.capacity > 0 && list.count() > data.capacity) delete list.takeItem(0);
+    if (data.capacity > 0 && atEnd) list.scrollToBottom(); // a log follows its last line
+}
+
+std::vector<QString> rowsOf(const ListView& list) {
+    std::vector<QString> rows;
+    rows.reserve(static_cast<size_t>(list.count()));
+    for (int i = 0; i < list.count(); ++i) rows.push_back(list.item(i)->text());
+    return rows;
+}
+
+void selectRow(ListView& list, int row) {
+    if (row < 0 || row >= list.count()) return;
+    list.setCurrentRow(row, QItemSelectionModel::Select | (list.selectionMode() == QAbstractItemView::SingleSelection
+                                                               ? QItemSelectionModel::Clear
+                                                               : QItemSelectionModel::NoUpdate));
+    list.scrollToItem(list.item(row));
+}
+
+// The row that an action names: from 1, or the current one for -1.
+int namedRow(const ListView& list, int entry) { return entry == -1 ? list.currentRow() : entry - 1; }
+
+} // namespace
+
+void listBoxEntry(Widget& widget, const ListEntry& entry) {
+    ListView& list = listOf(widget);
+    const int row = namedRow(list, entry.entry);
+    switch (entry.action) {
+    case OADD: addRow(widget, list.count(), entry); break;
+    case OINSERT: addRow(widget, entry.entry < 1 ? list.count() : qMin(entry.entry - 1, list.count()), entry); break;
+    case OSELECT:
+        if (entry.entry > 0)
+            selectRow(list, entry.entry - 1);
+        else
+            selectRow(list, findListText(rowsOf(list), entry.text, entry.entry == -2));
+        break;
+    case ODESELECT:
+        if (entry.entry > 0 && list.item(row))
+            list.item(row)->setSelected(false);
+        else
+            list.clearSelection();
+        break;
+    case ODELETE: delete list.takeItem(row); break;
+    case OCLEAR: list.clear(); break;
+    default: break;
+    }
+}
+
+QString listBoxText(Widget& widget, int& entry) {
+    const ListView& list = listOf(widget);
+    const int row = entry < 1 ? list.currentRow() : entry - 1;
+    const QListWidgetItem* item = list.item(row);
+    entry = item ? row + 1 : 0;
+    return item ? item->text() : QString();
+}
+
+ListStatus listBoxStatus(Widget& widget) {
+    const ListView& list = listOf(widget);
+    return {list.count(), static_cast<int>(list.selectedItems().size()), list.currentRow() + 1};
+}
+
+namespace {
+const Registration registration({{Fn::owCreateListBox, createListBox}});
+}
+
+} // namespace orba

@@ -1,0 +1,47 @@
+// The windows of a program: master window, dialogue boxes of their own, dialogue boxes inside an MDI master.
+#pragma once
+
+#include "toolkit/frame/core.h"
+
+#include <QElapsedTimer>
+#include <QMainWindow>
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace orba {
+
+struct WindowData : FamilyData {
+    QSize client;             // size that the program asked for the area of the children
+    bool wholeWindow = false; // the size counts the bars as well (an MDI master)
+    int initState = ONORMAL;
+    bool shown = false;             // was on the screen before
+    QElapsedTimer settling;         // runs after a change by the program, while the window manager follows
+    QRect known;                    // last geometry that Qt told of
+    QMdiSubWindow* frame = nullptr; // of a dialogue box inside an MDI master
+};
+
+// The Qt window of every window of a program. Its central widget is the client area; bars and panes dock around it.
+class FormWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    FormWindow(QWidget* parent, Qt::WindowFlags flags) : QMainWindow(parent, flags) {}
+    int handle = 0;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* target, QEvent* event) override; // its frame inside an MDI master
+    QMenu* createPopupMenu() override { return nullptr; }
+};
+
+// The Qt window that a tool bar, pane or bar of a window docks to.
+FormWindow* formWindowOf(Widget* widget);
+
+// The frame of a window on the screen: the window itself, or its frame inside an MDI master.
+QWidget* outerOf(const Widget& window);
+
+} // namespace orba

@@ -1,0 +1,192 @@
+// The colour table, fonts by the names that programs use, and small drawing helpers.
+#include "toolkit/frame/frame.h"
+#include "toolkit/views/fonts.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPalette>
+
+#include <array>
+
+namespace orba {
+namespace {
+
+constexpr int TABLE_SIZE = 256;
+constexpr int FIXED_COLOURS = 20;
+constexpr int TRUE_COLOUR = 0x1000000;
+
+// The first twenty entries. Those with a palette role follow the desktop's theme.
+struct FixedColour {
+    const char* rgb; // null: the palette role
+    QPalette::ColorRole role;
+};
+constexpr FixedColour fixedColours[FIXED_COLOURS] = {
+    {nullptr, QPalette::Base},            // 0 background
+    {nullptr, QPalette::WindowText},      // 1 foreground
+    {"#e01b24", QPalette::NoRole},        // 2 red
+    {"#2e9d3f", QPalette::NoRole},        // 3 green
+    {"#1c5fd6", QPalette::NoRole},        // 4 blue
+    {"#f5c211", QPalette::NoRole},        // 5 yellow
+    {"#1aa6b7", QPalette::NoRole},        // 6 cyan
+    {"#b832a8", QPalette::NoRole},        // 7 magenta
+    {"#8a4b14", QPalette::NoRole},        // 8 brown
+    {"#f07f13", QPalette::NoRole},        // 9 orange
+    {"#7f7f7f", QPalette::NoRole},        // 10 grey
+    {"#404040", QPalette::NoRole},        // 11 dark grey
+    {nullptr, QPalette::Window},          // 12 window face
+    {nullptr, QPalette::Light},           // 13 lit edge
+    {nullptr, QPalette::Dark},            // 14 shaded edge
+    {nullptr, QPalette::Shadow},          // 15 deep shade
+    {nullptr, QPalette::WindowText},      // 16 window text
+    {nullptr, QPalette::HighlightedText}, // 17 selected text
+    {nullptr, QPalette::Base},            // 18 background of entries
+    {nullptr, QPalette::Highlight},       // 19 selection
+};
+
+std::array<QColor, TABLE_SIZE> table;
+
+Word defineRgb(const Arguments& call) {
+    const int index = call.integer(0);
+    if (index < 0 || index >= TABLE_SIZE) return 0;
+    const auto part = [&call](int i) { return static_cast<float>(std::clamp(call.real(i), 0.0, 1.0)); };
+    defineColour(index, QColor::fromRgbF(part(1), part(2), part(3)));
+    return 0;
+}
+
+Word enquireRgb(const Arguments& call) {
+    auto* rgb = call.record<ORGBSTY>(1);
+    if (!rgb) return 0;
+    const QColor colour = colourOf(call.integer(0));
+    *rgb = {colour.redF(), colour.greenF(), colour.blueF()};
+    return 0;
+}
+
+Word trueColour(const Arguments& call) {
+    const auto part = [&call](int i) { return static_cast<int>(std::clamp(call.real(i), 0.0, 1.0) * 255 + 0.5); };
+    return TRUE_COLOUR + (part(0) << 16) + (part(1) << 8) + part(2);
+}
+
+const Registration registration({
+    {Fn::oDefineRGB, defineRgb},
+    {Fn::oEnqRGB, enquireRgb},
+    {Fn::oTrueCol, trueColour},
+});
+
+} // namespace
+
+void loadColours() {
+    const QPalette palette = QApplication::palette();
+    for (int i = 0; i < TABLE_SIZE; i++) {
+        QColor& entry = table[static_cast<std::size_t>(i)];
+        if (i >= FIXED_COLOURS) {
+            entry = Qt::black;
+        } else {
+            entry =
+                fixedColours[i].rgb ? QColor(QLatin1String(fixedColours[i].rgb)) : palette.color(fixedColours[i].role);
+        }
+    }
+}
+
+bool isTrueColour(int colour) { return colour >= TRUE_COLOUR; }
+
+QColor colourOf(int colour) {
+    if (isTrueColour(colour)) return QColor::fromRgb(static_cast<QRgb>(colour & 0xFFFFFF));
+    return table[static_cast<std::size_t>(std::clamp(colour, 0, TABLE_SIZE - 1))];
+}
+
+void defineColour(int index, const QColor& colour) {
+    if (index < 0 || index >= TABLE_SIZE || table[static_cast<std::size_t>(index)] == colour) return;
+    table[static_cast<std::size_t>(index)] = colour;
+    if (session.state < 2) return;
+    forEachWidget([](Widget& widget) {
+        if (widget.family->coloursChanged) widget.family->coloursChanged(widget);
+    });
+}
+
+void setViewColour(QWidget* view, QPalette::ColorRole role, int colour) {
+    QPalette palette = view->palette();
+    palette.setColor(role, colour == 0 ? QApplication::palette(view).color(role) : colourOf(colour));
+    view->setPalette(palette);
+}
+
+QFont fontFor(const QString& face, int pointSize) {
+    constexpr int DESKTOP_POINTS = 10; // what programs write for the desktop's own font at its own size
+    const QFont desktop = QApplication::font();
+    QFont font = namedFont(face, pointSize > 0 ? pointSize : desktop.pointSizeF());
+    if (pointSize == DESKTOP_POINTS &&
+        fontFamilies(face).last() == fontFamilies(QStringLiteral("MS Sans Serif")).last())
+        return desktop;
+    return font;
+}
+
+int lineHeight() { return QFontMetrics(QApplication::font()).height() + 8; }
+
+int boundaryWidth(int boundary) {
+    switch (boundary) {
+    case OSINGLE: return 1;
+    case ODOUBLE: return 3;
+    case OPRESSED:
+    case OPROJECTED:
+    case OCHISEL:
+    case OINVERSECHISEL: return 2;
+    default: return 0;
+    }
+}
+
+void drawBoundary(QPainter& painter, const QRect& rect, int boundary, const QColor& line, const QPalette& palette) {
+    const QColor light = palette.color(QPalette::Light);
+    const QColor dark = palette.color(QPalette::Dark);
+    const auto edges = [&painter](const QRect& r, const QColor& topLeft, const QColor& bottomRight) {
+        painter.setPen(topLeft);
+        painter.drawLine(r.bottomLeft(), r.topLeft());
+        painter.drawLine(r.topLeft(), r.topRight());
+        painter.setPen(bottomRight);
+        painter.drawLine(r.topRight(), r.bottomRight());
+        painter.drawLine(r.bottomRight(), r.bottomLeft());
+    };
+    const QRect outer = rect.adjusted(0, 0, -1, -1);
+    const QRect inner = outer.adjusted(1, 1, -1, -1);
+    switch (boundary) {
+    case OSINGLE: edges(outer, line, line); break;
+    case ODOUBLE:
+        edges(outer, line, line);
+        edges(outer.adjusted(2, 2, -2, -2), line, line);
+        break;
+    case OPRESSED:
+        edges(outer, dark, light);
+        edges(inner, dark, light);
+        break;
+    case OPROJECTED:
+        edges(outer, light, dark);
+        edges(inner, light, dark);
+        break;
+    case OCHISEL:
+        edges(outer, dark, light);
+        edges(inner, light, dark);
+        break;
+    case OINVERSECHISEL:
+        edges(outer, light, dark);
+        edges(inner, dark, light);
+        break;
+    default: break;
+    }
+}
+
+QString labelWithMnemonic(const QString& label, int accel) {
+    QString text = label;
+    qsizetype at = -1;
+    if (accel > 32) {
+        at = label.indexOf(QChar(accel));
+        if (at < 0) at = label.indexOf(QChar(accel), 0, Qt::CaseInsensitive);
+    }
+    for (qsizetype i = text.size(); i-- > 0;) {
+        if (text[i] == QLatin1Char('&')) text.insert(i, QLatin1Char('&'));
+        if (i == at) text.insert(i, QLatin1Char('&'));
+    }
+    return text;
+}
+
+QString barsToLines(QString text) { return text.replace(QLatin1Char('|'), QLatin1Char('\n')); }
+
+} // namespace orba
