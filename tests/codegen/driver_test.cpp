@@ -1,6 +1,7 @@
 // The generation around the text: choice of the file, what is written beside it, what it leaves in the project.
 
 #include "project_script.h"
+#include "support/scratch.h"
 
 #include "codegen/generate.h"
 #include "codegen/markers.h"
@@ -31,12 +32,11 @@ int overwriteAnswer = ANSWER_YES;
 
 class Driver : public testing::Test {
 protected:
-    fs::path folder = fs::temp_directory_path() / ("codegen_driver_" + std::to_string(::getpid()));
+    ScratchFolder scratch{"codegen-driver"};
+    const fs::path& folder = scratch.path;
     Host before = host;
 
     void SetUp() override {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
         boxes.clear();
         host.errorBox = [](const std::string& title, const std::string& text) { boxes.push_back(title + ": " + text); };
         host.messageBox = [](const std::string& title, const std::string& text, int, int) {
@@ -52,10 +52,7 @@ protected:
         readProjectScript("2001 Form1\n  2002\n    2003 Form1_Button1\n    .text it's\n");
         project.projectTitle.clear();
     }
-    void TearDown() override {
-        host = before;
-        fs::remove_all(folder);
-    }
+    void TearDown() override { host = before; }
     std::string path(const std::string& name) const { return (folder / name).string(); }
     static std::string contents(const std::string& path) {
         std::string text;

@@ -3,6 +3,7 @@
 // instead of comparing them.
 
 #include "project_script.h"
+#include "support/scratch.h"
 
 #include "codegen/generate.h"
 #include "project/files.h"
@@ -92,12 +93,9 @@ TEST_P(Golden, IsGeneratedToTheLetter) {
 
 // The project as its file holds it.
 std::string storedProject() {
-    const fs::path folder = fs::temp_directory_path() / ("golden_" + std::to_string(::getpid()));
-    fs::create_directories(folder);
-    EXPECT_TRUE(saveProject(folder.string(), "stored.wdp", true));
-    const std::string bytes = fileText(folder / "stored.wdp");
-    fs::remove_all(folder);
-    return bytes;
+    const ScratchFolder folder("golden");
+    EXPECT_TRUE(saveProject(folder.path, "stored.wdp", true));
+    return fileText(folder.path / "stored.wdp");
 }
 
 // Putting the text together leaves no trace in the project, and the next source is the same.

@@ -1,6 +1,7 @@
 // wdgen as a makefile runs it.
 
 #include "project_script.h"
+#include "support/scratch.h"
 
 #include "codegen/generate.h"
 #include "platform/paths.h"
@@ -29,15 +30,10 @@ std::string contents(const std::string& path) {
 
 class Wdgen : public testing::Test {
 protected:
-    fs::path folder = fs::temp_directory_path() / ("wdgen_" + std::to_string(::getpid()));
+    ScratchFolder scratch{"wdgen"};
+    const fs::path& folder = scratch.path;
     std::string output; // of the last run
     std::string errors;
-
-    void SetUp() override {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-    }
-    void TearDown() override { fs::remove_all(folder); }
 
     std::string path(const std::string& name) const { return (folder / name).string(); }
 

@@ -12,9 +12,7 @@ static constexpr int END_OF_EVENTS = 19991; // posted behind the events that wai
 
 void DesignerTest::SetUp() {
     before = std::filesystem::current_path();
-    const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-    root = std::filesystem::temp_directory_path() / (std::string("orba-designer-") + info->name());
-    std::filesystem::remove_all(root);
+    root = scratch.path;
     data = root / "data";
     std::filesystem::create_directories(data);
     std::filesystem::current_path(root);
@@ -30,7 +28,6 @@ void DesignerTest::TearDown() {
     EXPECT_TRUE(orba::testing::reports().empty());
     orba::testing::watchProgram(false);
     std::filesystem::current_path(before);
-    std::filesystem::remove_all(root);
 }
 
 void DesignerTest::start(const std::string& commandLine) {

@@ -6,6 +6,7 @@
 #include "shell/command_states.h"
 #include "shell/commands.h"
 #include "shell/designer.h"
+#include "support/scratch.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -13,6 +14,7 @@
 
 class DesignerTest : public testing::Test {
 protected:
+    ScratchFolder scratch{"orba-designer"};
     std::filesystem::path before, root, data;
 
     void SetUp() override;

@@ -7,6 +7,7 @@
 #include "settings/preferences_file.h"
 #include "settings/recent_projects.h"
 #include "settings/window_states.h"
+#include "support/scratch.h"
 #include "surface/window_states.h"
 
 #include <filesystem>
@@ -18,14 +19,13 @@ static std::string boxShown;
 // A data folder and a current directory of its own for every test, and the last box.
 class SettingsFiles : public testing::Test {
 protected:
+    ScratchFolder scratch{"orba-settings"};
     std::filesystem::path before, root, data, current;
     Host oldHost;
 
     void SetUp() override {
         before = std::filesystem::current_path();
-        const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-        root = std::filesystem::temp_directory_path() / (std::string("orba-settings-") + info->name());
-        std::filesystem::remove_all(root);
+        root = scratch.path;
         data = root / "data";
         current = root / "here";
         std::filesystem::create_directories(data);
@@ -42,7 +42,6 @@ protected:
         host = oldHost;
         settingsPlaces.dataDir.clear();
         std::filesystem::current_path(before);
-        std::filesystem::remove_all(root);
     }
     static std::string contents(const std::filesystem::path& file) {
         std::string text;

@@ -4,8 +4,8 @@
 #include "examples/examples.h"
 #include "project/files.h"
 #include "project/tree.h"
-#include "support/files.h"
 #include "support/records_equal.h"
+#include "support/scratch.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -74,7 +74,7 @@ TEST(Examples, AreWhatTheirProgramWrites) {
         WidgetNode* stored = copyNode(project.forms, true);
         const auto blocks = project.codeBlocks;
         row.make();
-        const TempFolder folder;
+        const ScratchFolder folder;
         ASSERT_TRUE(saveProject(folder.path, name, true));
         ASSERT_TRUE(loadProject(folder.path, name));
         EXPECT_EQ(differences(stored, project.forms), "") << row.name;

@@ -6,6 +6,7 @@
 #include "support/file_writer.h"
 #include "support/files.h"
 #include "support/sample_project.h"
+#include "support/scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -34,9 +35,9 @@ int countRecords() {
 class DamagedFile : public testing::Test {
 protected:
     void load(const std::string& bytes, bool complete = false) {
-        writeBytes(folder.file("bad.wdp"), bytes);
+        writeBytes(folder / "bad.wdp", bytes);
         BoxScript boxes;
-        if (!complete) boxes.expect(incompleteBox(folder.file("bad.wdp")));
+        if (!complete) boxes.expect(incompleteBox(folder / "bad.wdp"));
         EXPECT_TRUE(loadProject(folder.path, "bad.wdp"));
     }
     std::string projectBytes() {
@@ -45,7 +46,7 @@ protected:
         return encodeProject(FileImage(), project);
     }
 
-    TempFolder folder;
+    ScratchFolder folder;
 };
 
 TEST_F(DamagedFile, ACutFileLoadsAsFarAsItGoes) {
@@ -93,7 +94,7 @@ TEST_F(DamagedFile, EveryCutIsSurvivedAndCanBeSavedAndMended) {
     BoxScript boxes;
     boxes.allowAll();
     for (std::size_t length = 0; length < whole.size(); length += 997) {
-        writeBytes(folder.file("cut.wdp"), whole.substr(0, length));
+        writeBytes(folder / "cut.wdp", whole.substr(0, length));
         const bool loaded = loadProject(folder.path, "cut.wdp");
         ASSERT_EQ(loaded, length >= 100) << length;
         if (!loaded) continue;
@@ -143,7 +144,7 @@ TEST_F(DamagedFile, SizesThatTheFileDoesNotHoldTakeNoMemory) {
             SCOPED_TRACE(std::to_string(at) + " " + size);
             std::string bytes = whole;
             bytes.replace(at, std::strlen(size) + 1, size, std::strlen(size) + 1);
-            writeBytes(folder.file("size.wdp"), bytes);
+            writeBytes(folder / "size.wdp", bytes);
             BoxScript boxes;
             boxes.allowAll();
             const struct mallinfo2 before = mallinfo2();
@@ -151,7 +152,7 @@ TEST_F(DamagedFile, SizesThatTheFileDoesNotHoldTakeNoMemory) {
             const struct mallinfo2 after = mallinfo2();
             EXPECT_LT(after.uordblks + after.hblkhd, before.uordblks + before.hblkhd + 20 * whole.size());
             ASSERT_TRUE(saveProject(folder.path, "size2.wdp", true));
-            EXPECT_LT(readBytes(folder.file("size2.wdp")).size(), 20 * whole.size());
+            EXPECT_LT(readBytes(folder / "size2.wdp").size(), 20 * whole.size());
         }
 }
 
@@ -190,10 +191,10 @@ TEST_F(DamagedFile, RandomBytesAreSurvived) {
         std::string bytes = *bases[round % 3];
         for (int i = 0; i < 40; ++i) bytes[20 + byte(bytes.size() - 20)] = static_cast<char>(byte(256));
         if (round % 5 == 0) bytes.erase(100 + byte(1000), byte(50));
-        writeBytes(folder.file("random.bin"), bytes);
+        writeBytes(folder / "random.bin", bytes);
         if (round % 3 == 0) (void)loadProject(folder.path, "random.bin");
         if (round % 3 == 1) (void)insertForm(folder.path, "random.bin");
-        if (round % 3 == 2) (void)loadDefaults(folder.file("random.bin"));
+        if (round % 3 == 2) (void)loadDefaults(folder / "random.bin");
         ASSERT_TRUE(saveProject(folder.path, "out.wdp", true));
     }
     makeDefaults();
@@ -205,13 +206,13 @@ TEST_F(DamagedFile, TheFirstSaveOverItKeepsItBeside) {
     const std::string cut = projectBytes().substr(0, 9000);
     load(cut);
     ASSERT_TRUE(saveProject(folder.path, "elsewhere.wdp", true));
-    ASSERT_TRUE(saveProject(folder.path + "/.", "bad.wdp", false)) << "the same file under another name";
-    EXPECT_EQ(byteDifference(readBytes(folder.file("bad.wdp.bak")), cut), "");
-    const std::string first = readBytes(folder.file("bad.wdp"));
+    ASSERT_TRUE(saveProject(folder / ".", "bad.wdp", false)) << "the same file under another name";
+    EXPECT_EQ(byteDifference(readBytes(folder / "bad.wdp.bak"), cut), "");
+    const std::string first = readBytes(folder / "bad.wdp");
     project.forms->text = "changed";
     ASSERT_TRUE(saveProject(folder.path, "bad.wdp", false));
-    EXPECT_EQ(byteDifference(readBytes(folder.file("bad.wdp.bak")), cut), "") << "the second save keeps nothing";
-    EXPECT_NE(readBytes(folder.file("bad.wdp")), first);
+    EXPECT_EQ(byteDifference(readBytes(folder / "bad.wdp.bak"), cut), "") << "the second save keeps nothing";
+    EXPECT_NE(readBytes(folder / "bad.wdp"), first);
 }
 
 TEST_F(DamagedFile, MendingTakesAwayWhatCannotBeShown) {
@@ -230,11 +231,11 @@ TEST_F(DamagedFile, MendingTakesAwayWhatCannotBeShown) {
     array->columnWidths.clear();
     array->rowHeights.clear();
     addRecord(nullptr, TYPE_FORM, "Form2");
-    writeBytes(folder.file("bad.wdp"), projectBytes());
+    writeBytes(folder / "bad.wdp", projectBytes());
     BoxScript boxes;
     ASSERT_TRUE(loadProject(folder.path, "bad.wdp")) << "read as it stands";
     EXPECT_EQ(countRecords(), 11);
-    boxes.expect(incompleteBox(folder.file("bad.wdp")));
+    boxes.expect(incompleteBox(folder / "bad.wdp"));
     mendLoadedProject();
     std::string names;
     for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms)) names += n->name + " ";

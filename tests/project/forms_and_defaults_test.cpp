@@ -7,6 +7,7 @@
 #include "support/file_writer.h"
 #include "support/files.h"
 #include "support/sample_project.h"
+#include "support/scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -18,12 +19,12 @@ void namedForms(int count) {
 }
 
 TEST(FormFile, HoldsTheActiveFormAndAllBehindIt) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     namedForms(4);
     findName(project.forms, "Form3_MainPanel", false)->selected = 1;
     project.snapGrid = 17;
-    ASSERT_TRUE(saveForm(folder.file("third.wdf")));
-    EXPECT_EQ(byteDifference(readBytes(folder.file("third.wdf")),
+    ASSERT_TRUE(saveForm(folder / "third.wdf"));
+    EXPECT_EQ(byteDifference(readBytes(folder / "third.wdf"),
                              encodeForm(FileImage(), findForm(project.forms, "Form3"), 17, 17)),
               "");
     clearSelected(project.forms);
@@ -41,7 +42,7 @@ TEST(FormFile, HoldsTheActiveFormAndAllBehindIt) {
 }
 
 TEST(FormFile, RandomFormsComeBackEqual) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     const BoxScript boxes;
     std::mt19937 random(5);
     for (int round = 0; round < 5; ++round) {
@@ -51,7 +52,7 @@ TEST(FormFile, RandomFormsComeBackEqual) {
         clearSelected(project.forms);
         project.forms->next->selected = 1;
         const std::string wanted = encodeChain(FileImage(), project.forms->next);
-        ASSERT_TRUE(saveForm(folder.file("some.wdf")));
+        ASSERT_TRUE(saveForm(folder / "some.wdf"));
         freshProject()->name = "Other";
         project.snapGrid = 11;
         WidgetNode* first = nullptr;
@@ -80,13 +81,13 @@ TEST(FormFile, MismatchesAreAskedAboutAndRefusalsLeaveTheProject) {
         {"F90-s", 'w', 10, 9, {{"Mismatch form type", snap, ANSWER_CANCEL}}, false},
         {"F77-s", 'w', 9, 10, {{"Mismatch form type", language}, {"Mismatch form type", snap, ANSWER_OK}}, true},
     };
-    const TempFolder folder;
+    const ScratchFolder folder;
     for (const Row& row : rows) {
         namedForms(2);
         FileImage image;
         image.marks = row.marks;
         const std::string bytes = encodeForm(image, project.forms->next, row.snapX, row.snapY);
-        writeBytes(folder.file("form.wdf"), bytes);
+        writeBytes(folder / "form.wdf", bytes);
         freshProject();
         project.projectPlatform = row.platform;
         BoxScript boxes;
@@ -98,9 +99,9 @@ TEST(FormFile, MismatchesAreAskedAboutAndRefusalsLeaveTheProject) {
 }
 
 TEST(FormFile, AFormOfANameThatIsThereIsTakenBack) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     namedForms(2);
-    ASSERT_TRUE(saveForm(folder.file("both.wdf")));
+    ASSERT_TRUE(saveForm(folder / "both.wdf"));
     const int count = project.widgetCount;
     BoxScript boxes({{"Invalid Form Name", "Form of same name alredy exists in this project"}});
     EXPECT_EQ(insertForm(folder.path, "both.wdf"), 0);
@@ -109,7 +110,7 @@ TEST(FormFile, AFormOfANameThatIsThereIsTakenBack) {
     boxes.expect({"Error opening file", "Cannot open Form file :none.wdf"});
     EXPECT_EQ(insertForm(folder.path, "none"), 0);
     boxes.expect({"Error saving file", "File to save to could not be opened or created"});
-    EXPECT_FALSE(saveForm(folder.file("no folder/x.wdf")));
+    EXPECT_FALSE(saveForm(folder / "no folder/x.wdf"));
 }
 
 TEST(Defaults, BuiltInRecordsOfEveryType) {
@@ -148,23 +149,23 @@ TEST(Defaults, BuiltInRecordsOfEveryType) {
 }
 
 TEST(Defaults, AFileComesBackAndMovesItsColoursIntoTheProject) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     for (int i = FIXED_COLOURS; i < COLOURS; ++i) host.defineColour(i, 0, 0, 0);
     colourMarks = ColourMarks();
     defaultRecord(TYPE_PANEL)->colour3 = defaultsColourIndex(0.25F, 0, 0);
     defaultRecord(TYPE_PANEL)->slots[SLOT_GENERAL] = "call ~x";
-    ASSERT_TRUE(saveDefaults(folder.file("mine.wdd")));
+    ASSERT_TRUE(saveDefaults(folder / "mine.wdd"));
     FileImage image;
     image.colours[705] = 0.25F;
     std::vector<const WidgetNode*> records(defaultRecords.begin(), defaultRecords.end());
-    EXPECT_EQ(byteDifference(readBytes(folder.file("mine.wdd")), encodeDefaults(image, records)), "");
+    EXPECT_EQ(byteDifference(readBytes(folder / "mine.wdd"), encodeDefaults(image, records)), "");
 
     makeDefaults();
     for (int i = FIXED_COLOURS; i < COLOURS; ++i) host.defineColour(i, 0, 0, 0);
     colourMarks = ColourMarks();
     const BoxScript boxes;
-    ASSERT_TRUE(loadDefaults(folder.file("mine.wdd")));
+    ASSERT_TRUE(loadDefaults(folder / "mine.wdd"));
     EXPECT_EQ(defaultRecord(TYPE_PANEL)->colour3, 20);
     EXPECT_EQ(defaultRecord(TYPE_PANEL)->slots[SLOT_GENERAL], "call ~x");
     EXPECT_EQ(colourMarks.colourTop, 20);
@@ -175,19 +176,19 @@ TEST(Defaults, AFileComesBackAndMovesItsColoursIntoTheProject) {
 }
 
 TEST(Defaults, WhatCannotBeLoadedOrSavedIsToldAndStartUpGoesOn) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     WidgetNode* button = defaultRecord(TYPE_BUTTON);
     BoxScript boxes({{"Error loading widget defaults file", "File to load to could not be opened"}});
-    EXPECT_FALSE(loadDefaults(folder.file("none.wdd")));
+    EXPECT_FALSE(loadDefaults(folder / "none.wdd"));
     EXPECT_EQ(defaultRecord(TYPE_BUTTON), button) << "the old set stays";
     boxes.expect({"Error saving file", "File to save to could not be opened or created"});
-    EXPECT_FALSE(saveDefaults(folder.file("none/x.wdd")));
+    EXPECT_FALSE(saveDefaults(folder / "none/x.wdd"));
     button->width = 999;
     loadStartupDefaults(folder.path);
     EXPECT_EQ(defaultRecord(TYPE_BUTTON)->width, 75);
     defaultRecord(TYPE_BUTTON)->width = 998;
-    ASSERT_TRUE(saveDefaults(folder.file("wdesign.wdd")));
+    ASSERT_TRUE(saveDefaults(folder / "wdesign.wdd"));
     makeDefaults();
     loadStartupDefaults(folder.path);
     EXPECT_EQ(defaultRecord(TYPE_BUTTON)->width, 998);

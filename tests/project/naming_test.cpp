@@ -4,8 +4,8 @@
 #include "project/files.h"
 #include "project/placement.h"
 #include "support/box_script.h"
-#include "support/files.h"
 #include "support/sample_project.h"
+#include "support/scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -172,7 +172,7 @@ TEST(FormNames, AFormWhoseFamilyWouldMeetANameKeepsIts) {
 TEST(InsertedNames, WhatIsTakenGetsANumberInTheFormsCodeToo) {
     for (const int language : LANGUAGES) {
         SCOPED_TRACE(language);
-        const TempFolder folder;
+        const ScratchFolder folder;
         WidgetNode* form = freshProject();
         project.projectLanguage = language;
         form->name = "Other";
@@ -180,7 +180,7 @@ TEST(InsertedNames, WhatIsTakenGetsANumberInTheFormsCodeToo) {
         addRecord(form->child, TYPE_BUTTON, "GREET")->slots[SLOT_GENERAL] = "call show(Greeting, GREET, Fruit)";
         WidgetNode* tree = addRecord(form->child, TYPE_TREE_VIEW, "Other_Tree");
         addEntry(*tree, MENU_ENTRY, 0, "f", "Fruit");
-        ASSERT_TRUE(saveForm(folder.file("other.wdf")));
+        ASSERT_TRUE(saveForm(folder / "other.wdf"));
         namedProject(language);
         std::string told = "Names of the form that this project has already were changed:";
         if (language != 99) told += "|GREET is now GREET1";
@@ -195,9 +195,9 @@ TEST(InsertedNames, WhatIsTakenGetsANumberInTheFormsCodeToo) {
 }
 
 TEST(InsertedNames, AFormCannotTakeTheNameOfAWidget) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject()->name = "Greet";
-    ASSERT_TRUE(saveForm(folder.file("greet.wdf")));
+    ASSERT_TRUE(saveForm(folder / "greet.wdf"));
     namedProject(90);
     const int count = project.widgetCount;
     const BoxScript boxes({{"Invalid Form Name", "Greet is a name of something else in this project already"}});

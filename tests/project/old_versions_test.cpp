@@ -6,6 +6,7 @@
 #include "support/file_writer.h"
 #include "support/files.h"
 #include "support/sample_project.h"
+#include "support/scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -110,7 +111,7 @@ protected:
         image.padding = '\xa5';
         image.strayGridMode = 1;
         image.colours[3] = 1; // red of index 21
-        writeBytes(folder.file("old.wdp"), encodeProject(image, project));
+        writeBytes(folder / "old.wdp", encodeProject(image, project));
         freshProject();
     }
     void load() {
@@ -124,7 +125,7 @@ protected:
 
     int version = 0;
     FileImage image;
-    TempFolder folder;
+    ScratchFolder folder;
 };
 
 TEST_P(OldVersion, EveryFieldIsReadOrTakesItsValue) {
@@ -274,7 +275,7 @@ TEST_P(OldVersion, PlatformAndLanguageComeFromTheHeader) {
 TEST_P(OldVersion, FormsAreReadFromVersion30On) {
     fillProject();
     const std::string bytes = encodeForm(image, project.forms, 13, 13);
-    writeBytes(folder.file("old.wdf"), bytes);
+    writeBytes(folder / "old.wdf", bytes);
     WidgetNode* mine = freshProject();
     mine->name = "Mine";
     mine->child->name = "Mine_MainPanel";
@@ -308,10 +309,10 @@ TEST_P(OldVersion, DefaultsAreReadFromVersion30On) {
         n->slots[SLOT_GENERAL] = "a~b";
         records.push_back(n);
     }
-    writeBytes(folder.file("old.wdd"), encodeDefaults(image, records));
+    writeBytes(folder / "old.wdd", encodeDefaults(image, records));
     freshProject();
     const BoxScript boxes;
-    ASSERT_TRUE(loadDefaults(folder.file("old.wdd")));
+    ASSERT_TRUE(loadDefaults(folder / "old.wdd"));
     EXPECT_EQ(defaultRecord(TYPE_FORM)->width, 321);
     EXPECT_EQ(defaultRecord(TYPE_FORM)->slots[SLOT_GENERAL], "a~b") << "code of defaults is left alone";
     EXPECT_EQ(defaultRecord(TYPE_GAUGE)->width, 321);
@@ -327,12 +328,12 @@ INSTANTIATE_TEST_SUITE_P(All, OldVersion, testing::ValuesIn(VERSIONS),
                          [](const auto& info) { return "V" + std::to_string(info.param); });
 
 TEST(OldVersions, TheFirstVersionAsksForItsPlatform) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     FileImage image;
     image.version = 10;
     image.marks = "F90-w";
-    writeBytes(folder.file("v1.wdp"), encodeProject(image, project));
+    writeBytes(folder / "v1.wdp", encodeProject(image, project));
     const BoxScript boxes({{"Menu Functionality", "Do you want to utilize new Windows functionality?", ANSWER_NO}});
     ASSERT_TRUE(loadProject(folder.path, "v1.wdp"));
     EXPECT_EQ(project.projectPlatform, 'x');
@@ -354,7 +355,7 @@ TEST(OldVersions, PixelProjectsOfWindowsGetTheirOwnSnap) {
                         {21, "F90-w", 1, 1, 25, 32},
                         {30, "F90-w", 0, 1, 10, 36},
                         {30, "F90-w", 1, 1, 10, 32}};
-    const TempFolder folder;
+    const ScratchFolder folder;
     for (const Row& row : rows) {
         const BoxScript boxes;
         freshProject();
@@ -362,7 +363,7 @@ TEST(OldVersions, PixelProjectsOfWindowsGetTheirOwnSnap) {
         image.version = row.version;
         image.marks = row.marks;
         image.strayGridMode = row.strayed;
-        writeBytes(folder.file("snap.wdp"), encodeProject(image, project));
+        writeBytes(folder / "snap.wdp", encodeProject(image, project));
         ASSERT_TRUE(loadProject(folder.path, "snap.wdp"));
         EXPECT_EQ(project.snapOn, row.snapOn) << row.version;
         EXPECT_EQ(project.snapGrid, row.snapGrid) << row.version;
@@ -372,7 +373,7 @@ TEST(OldVersions, PixelProjectsOfWindowsGetTheirOwnSnap) {
 }
 
 TEST(OldVersions, AFieldWidthOfZeroBecomesTheLengthOfTheText) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     const BoxScript boxes;
     WidgetNode* form = freshProject();
     WidgetNode* entry = addRecord(form->child, TYPE_TEXT_ENTRY, "Form1_Text1");
@@ -380,7 +381,7 @@ TEST(OldVersions, AFieldWidthOfZeroBecomesTheLengthOfTheText) {
     entry->fieldWidth = 0;
     FileImage image;
     image.version = 21;
-    writeBytes(folder.file("width.wdp"), encodeProject(image, project));
+    writeBytes(folder / "width.wdp", encodeProject(image, project));
     ASSERT_TRUE(loadProject(folder.path, "width.wdp"));
     EXPECT_EQ(project.forms->child->child->fieldWidth, 5);
     EXPECT_EQ(project.forms->child->child->text, "hello");

@@ -7,6 +7,7 @@
 #include "support/file_writer.h"
 #include "support/files.h"
 #include "support/sample_project.h"
+#include "support/scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -18,14 +19,14 @@ std::string expectedBytes() { return encodeProject(FileImage(), project); }
 
 TEST(ProjectFile, RandomProjectsOfEveryTypeAreWrittenFieldByFieldAndComeBackEqual) {
     const BoxScript boxes;
-    const TempFolder folder;
+    const ScratchFolder folder;
     std::mt19937 random(20260301);
     for (int round = 0; round < 25; ++round) {
         randomProject(random, 1 + round % 4, 60);
         const int count = project.widgetCount;
         const std::string wanted = expectedBytes();
         ASSERT_TRUE(saveProject(folder.path, "some.wdp", false));
-        const std::string saved = readBytes(folder.file("some.wdp"));
+        const std::string saved = readBytes(folder / "some.wdp");
         ASSERT_EQ(byteDifference(saved, wanted), "") << "round " << round;
 
         freshProject();
@@ -36,15 +37,15 @@ TEST(ProjectFile, RandomProjectsOfEveryTypeAreWrittenFieldByFieldAndComeBackEqua
         EXPECT_EQ(project.projectTitle, "some");
         ASSERT_EQ(byteDifference(expectedBytes(), wanted), "") << "round " << round;
         ASSERT_TRUE(saveProject(folder.path, "again.wdp", true));
-        ASSERT_EQ(byteDifference(readBytes(folder.file("again.wdp")), wanted), "") << "round " << round;
+        ASSERT_EQ(byteDifference(readBytes(folder / "again.wdp"), wanted), "") << "round " << round;
     }
 }
 
 TEST(ProjectFile, TheSmallestProjectHasTheKnownLayout) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     ASSERT_TRUE(saveProject(folder.path, "small.wdp", false));
-    const std::string bytes = readBytes(folder.file("small.wdp"));
+    const std::string bytes = readBytes(folder / "small.wdp");
     EXPECT_STREQ(bytes.c_str(), "ORBAWIDGDESIGNV8.0-F90-s");
     EXPECT_STREQ(bytes.c_str() + 100, "36");
     EXPECT_STREQ(bytes.c_str() + 100 + 6 * 25, "Form1");
@@ -73,7 +74,7 @@ TEST(ProjectFile, HeaderMarksFollowLanguagePlatformAndBuffering) {
         {99, 'w', 1, "C-w", 'w'},   {99, 'g', 1, "C-g", 'g'},   {99, 'x', 1, "C-x", 'x'},   {99, 'g', 0, "C-g", 'g'},
     };
     const BoxScript boxes;
-    const TempFolder folder;
+    const ScratchFolder folder;
     for (const Row& row : rows) {
         freshProject();
         project.projectLanguage = row.language;
@@ -107,7 +108,7 @@ TEST(ProjectFile, TextTakesAsManyBytesAsTheFieldWidthAsksFor) {
         {TYPE_TEXT_LABEL, -2147483647 - 1, 2, -2147483647 - 1, 32769},
     };
     const BoxScript boxes;
-    const TempFolder folder;
+    const ScratchFolder folder;
     std::size_t empty = 0;
     for (const Row& row : rows) {
         WidgetNode* form = freshProject();
@@ -115,9 +116,9 @@ TEST(ProjectFile, TextTakesAsManyBytesAsTheFieldWidthAsksFor) {
         node->text.assign(row.length, 'x');
         node->fieldWidth = row.fieldWidth;
         ASSERT_TRUE(saveProject(folder.path, "text.wdp", false));
-        if (empty == 0) empty = readBytes(folder.file("text.wdp")).size() - row.bytes;
+        if (empty == 0) empty = readBytes(folder / "text.wdp").size() - row.bytes;
         if (row.type != TYPE_FORM) {
-            EXPECT_EQ(readBytes(folder.file("text.wdp")).size(), empty + row.bytes);
+            EXPECT_EQ(readBytes(folder / "text.wdp").size(), empty + row.bytes);
         }
         EXPECT_EQ(node->fieldWidth, row.widthSaved);
         ASSERT_TRUE(loadProject(folder.path, "text.wdp"));
@@ -129,7 +130,7 @@ TEST(ProjectFile, TextTakesAsManyBytesAsTheFieldWidthAsksFor) {
 
 TEST(ProjectFile, NumbersAreReadAsTheirSlotsStart) {
     // Padding and text behind a number, blanks ahead of it, exponents, numbers that fit nowhere.
-    const TempFolder folder;
+    const ScratchFolder folder;
     const BoxScript boxes;
     freshProject();
     FileImage image;
@@ -145,7 +146,7 @@ TEST(ProjectFile, NumbersAreReadAsTheirSlotsStart) {
     put(xpos + 50, "99999999999999999999999");
     put(xpos + 75, "none");
     put(xpos + 18 * 25, "-1.5e+3x");
-    writeBytes(folder.file("odd.wdp"), bytes);
+    writeBytes(folder / "odd.wdp", bytes);
     ASSERT_TRUE(loadProject(folder.path, "odd.wdp"));
     EXPECT_EQ(project.forms->xpos, 42);
     EXPECT_EQ(project.forms->ypos, 7);
@@ -167,13 +168,13 @@ TEST(ProjectFile, RealsAreWrittenAsTheirFormatsSay) {
                         {0.1F, "0.1", "0.100000"},
                         {-2e-7F, "-2e-07", "-0.000000"},
                         {3e30F, "3e+30", "2.99999989e+30"}}; // the last is too long for its slot in full
-    const TempFolder folder;
+    const ScratchFolder folder;
     for (const Row& row : rows) {
         WidgetNode* form = freshProject();
         form->text.clear();
         form->value = form->xMin = row.value;
         ASSERT_TRUE(saveProject(folder.path, "real.wdp", false));
-        const std::string bytes = readBytes(folder.file("real.wdp"));
+        const std::string bytes = readBytes(folder / "real.wdp");
         const std::size_t value = 100 + 6 * 25 + 5 * 256 + 23 * 25;
         EXPECT_STREQ(bytes.c_str() + value, row.g);
         EXPECT_STREQ(bytes.c_str() + value + 9 * 25, row.f);
@@ -182,7 +183,7 @@ TEST(ProjectFile, RealsAreWrittenAsTheirFormatsSay) {
 
 TEST(ProjectFile, ColoursOfTheProjectComeBackAndLeaveThoseOfTheDefaultsAlone) {
     const BoxScript boxes;
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     for (int i = FIXED_COLOURS; i < COLOURS; ++i) host.defineColour(i, 0, 0, 0);
     colourMarks = ColourMarks();
@@ -230,11 +231,11 @@ TEST(ProjectFile, FilesThatCannotBeReadLeaveTheOpenProjectAlone) {
          "ORBAWIDGDESIGNV9.0-F90-s" + std::string(5000, '\0'),
          {"Error opening file", "ORBAWIDG Designer file is post version  v8.5"}},
     };
-    const TempFolder folder;
+    const ScratchFolder folder;
     WidgetNode* form = freshProject();
     for (const Row& row : rows) {
         const BoxScript boxes({row.box});
-        writeBytes(folder.file(row.name), row.bytes);
+        writeBytes(folder / row.name, row.bytes);
         EXPECT_FALSE(loadProject(folder.path, row.name)) << row.name;
         EXPECT_EQ(project.forms, form);
         EXPECT_FALSE(boxes.busy);
@@ -248,20 +249,20 @@ TEST(ProjectFile, FilesThatCannotBeReadLeaveTheOpenProjectAlone) {
 
 TEST(ProjectFile, ExecutableIsCurrentOnlyWithItsSourceAndItsTime) {
     const BoxScript boxes;
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     project.sourceDir = folder.path;
     project.sourceName = "prog.f90";
     project.sourceStale = 0;
     project.exeTime = 12345;
-    writeBytes(folder.file("prog.f90"), "end\n");
-    writeBytes(folder.file("prog"), "program");
+    writeBytes(folder / "prog.f90", "end\n");
+    writeBytes(folder / "prog", "program");
     ASSERT_TRUE(saveProject(folder.path, "exe.wdp", false));
     ASSERT_TRUE(loadProject(folder.path, "exe.wdp"));
     EXPECT_FALSE(executableCurrent()) << "another time";
     EXPECT_EQ(project.sourceName, "prog.f90");
     EXPECT_EQ(project.sourceStale, 0);
-    std::remove(folder.file("prog.f90").c_str());
+    std::remove((folder / "prog.f90").c_str());
     ASSERT_TRUE(loadProject(folder.path, "exe.wdp"));
     EXPECT_EQ(project.sourceName, "prog.f90") << "loading alone forgets nothing";
     EXPECT_FALSE(executableCurrent());
@@ -273,22 +274,22 @@ TEST(ProjectFile, ExecutableIsCurrentOnlyWithItsSourceAndItsTime) {
 TEST(ProjectFile, BackupsTakeTheirNameFromTheProjectAndChangeNoName) {
     EXPECT_EQ(backupName("bridge.wdp"), "bridge_Backup.wdp");
     EXPECT_EQ(backupName("a.b.wdp"), "a_Backup.b.wdp");
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     project.projectModified = 1;
     project.projectName = "bridge.wdp";
     project.projectDir = folder.path;
     project.projectTitle = "bridge";
     ASSERT_TRUE(autoBackup());
-    EXPECT_FALSE(readBytes(folder.file("bridge_Backup.wdp")).empty());
+    EXPECT_FALSE(readBytes(folder / "bridge_Backup.wdp").empty());
     EXPECT_EQ(project.projectName, "bridge.wdp");
     EXPECT_EQ(project.projectTitle, "bridge");
     EXPECT_EQ(project.projectModified, 1);
 }
 
 TEST(ProjectFile, ChoosingANameAddsTheExtensionAndAsksBeforeItOverwrites) {
-    const TempFolder folder;
-    writeBytes(folder.file("old.wdp"), "x");
+    const ScratchFolder folder;
+    writeBytes(folder / "old.wdp", "x");
     BoxScript boxes({{"Overwrite existing file?", "File already exists. Overwrite?", ANSWER_NO}});
     static int shown;
     static std::string dir;
@@ -315,7 +316,7 @@ TEST(ProjectFile, ChoosingANameAddsTheExtensionAndAsksBeforeItOverwrites) {
 
 TEST(ProjectFile, AStringTooLongForItsSlotLosesNoHalfCharacter) {
     const BoxScript boxes;
-    const TempFolder folder;
+    const ScratchFolder folder;
     WidgetNode* form = freshProject();
     form->bubbleHelp = std::string(254, 'x') + "\xc3\xa4" + "y";
     form->icon = std::string(300, 'z');

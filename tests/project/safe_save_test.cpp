@@ -4,6 +4,7 @@
 #include "support/box_script.h"
 #include "support/files.h"
 #include "support/sample_project.h"
+#include "support/scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -45,10 +46,10 @@ void rememberBoxes() {
 }
 
 TEST(SafeSave, AFullDiskLeavesTheOldFile) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     ASSERT_TRUE(saveProject(folder.path, "old.wdp", false));
-    const std::string old = readBytes(folder.file("old.wdp"));
+    const std::string old = readBytes(folder / "old.wdp");
     largeProject(2000);
     const int result = inChild([&] {
         const rlimit limit{3000000, 3000000};
@@ -60,7 +61,7 @@ TEST(SafeSave, AFullDiskLeavesTheOldFile) {
         return project.projectModified == 1 ? 0 : 3;
     });
     EXPECT_EQ(result, 0);
-    EXPECT_EQ(readBytes(folder.file("old.wdp")), old);
+    EXPECT_EQ(readBytes(folder / "old.wdp"), old);
     EXPECT_EQ(filesIn(folder.path), std::vector<std::string>{"old.wdp"}) << "nothing is left behind";
 }
 
@@ -76,10 +77,10 @@ int asNobody(const std::function<int()>& work) {
 }
 
 TEST(SafeSave, AReadOnlyFolderOrFileIsReportedAndLeft) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     ASSERT_TRUE(saveProject(folder.path, "old.wdp", false));
-    const std::string old = readBytes(folder.file("old.wdp"));
+    const std::string old = readBytes(folder / "old.wdp");
     const auto attempt = [&](const char* name) {
         return asNobody([&] {
             rememberBoxes();
@@ -88,24 +89,24 @@ TEST(SafeSave, AReadOnlyFolderOrFileIsReportedAndLeft) {
             return lastBox == "Error saving file: File to save to could not be opened or created" ? 0 : 2;
         });
     };
-    chmod(folder.file("old.wdp").c_str(), 0666);
+    chmod((folder / "old.wdp").c_str(), 0666);
     chmod(folder.path.c_str(), 0555);
     EXPECT_EQ(attempt("new.wdp"), 0);
     EXPECT_EQ(attempt("old.wdp"), 0);
     chmod(folder.path.c_str(), 0777);
-    chmod(folder.file("old.wdp").c_str(), 0444);
+    chmod((folder / "old.wdp").c_str(), 0444);
     EXPECT_EQ(attempt("old.wdp"), 0);
     EXPECT_EQ(attempt("."), 0) << "a folder";
-    EXPECT_EQ(readBytes(folder.file("old.wdp")), old);
+    EXPECT_EQ(readBytes(folder / "old.wdp"), old);
     EXPECT_EQ(filesIn(folder.path), std::vector<std::string>{"old.wdp"});
 }
 
 TEST(SafeSave, AKillInTheMiddleLeavesAWholeFile) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     largeProject(3000);
     project.forms->text = "first";
     ASSERT_TRUE(saveProject(folder.path, "big.wdp", false));
-    const std::string first = readBytes(folder.file("big.wdp"));
+    const std::string first = readBytes(folder / "big.wdp");
     project.forms->text = "other";
     std::string second = first;
     int killed = 0;
@@ -120,7 +121,7 @@ TEST(SafeSave, AKillInTheMiddleLeavesAWholeFile) {
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
         killed += filesIn(folder.path).size() > 1 ? 1 : 0;
-        const std::string now = readBytes(folder.file("big.wdp"));
+        const std::string now = readBytes(folder / "big.wdp");
         ASSERT_EQ(now.size(), first.size()) << round;
         if (now != first) {
             if (second == first) second = now;
@@ -136,18 +137,18 @@ TEST(SafeSave, AKillInTheMiddleLeavesAWholeFile) {
 }
 
 TEST(SafeSave, LinksAndRightsOfTheFileStay) {
-    const TempFolder folder;
+    const ScratchFolder folder;
     freshProject();
     ASSERT_TRUE(saveProject(folder.path, "real.wdp", false));
-    chmod(folder.file("real.wdp").c_str(), 0640);
-    std::filesystem::create_symlink("real.wdp", folder.file("link.wdp"));
+    chmod((folder / "real.wdp").c_str(), 0640);
+    std::filesystem::create_symlink("real.wdp", folder / "link.wdp");
     project.forms->text = "changed";
     ASSERT_TRUE(saveProject(folder.path, "link.wdp", false));
-    EXPECT_TRUE(std::filesystem::is_symlink(folder.file("link.wdp")));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.wdp"));
     struct stat status {};
-    stat(folder.file("real.wdp").c_str(), &status);
+    stat((folder / "real.wdp").c_str(), &status);
     EXPECT_EQ(status.st_mode & 0777U, 0640U);
-    EXPECT_NE(readBytes(folder.file("real.wdp")).find("changed"), std::string::npos);
+    EXPECT_NE(readBytes(folder / "real.wdp").find("changed"), std::string::npos);
 }
 
 } // namespace

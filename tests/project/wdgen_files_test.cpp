@@ -4,6 +4,7 @@
 #include "support/file_writer.h"
 #include "support/files.h"
 #include "support/sample_project.h"
+#include "support/scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -16,16 +17,16 @@ class WdgenFiles : public testing::Test {
 protected:
     // Runs wdgen and returns its exit status; what it prints comes into `out` and `errors`.
     int run(const std::string& words) {
-        const std::string line = std::string(ORBA_BINARY_DIR "/src/wdgen/wdgen ") + words + " >" + folder.file("out") +
-                                 " 2>" + folder.file("errors");
+        const std::string line = std::string(ORBA_BINARY_DIR "/src/wdgen/wdgen ") + words + " >" + folder / "out" +
+                                 " 2>" + folder / "errors";
         const int status = std::system(line.c_str());
-        out = readBytes(folder.file("out"));
-        errors = readBytes(folder.file("errors"));
+        out = readBytes(folder / "out");
+        errors = readBytes(folder / "errors");
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
     std::string out;
     std::string errors;
-    TempFolder folder;
+    ScratchFolder folder;
 };
 
 TEST_F(WdgenFiles, ListPrintsOneLineARecord) {
@@ -34,8 +35,8 @@ TEST_F(WdgenFiles, ListPrintsOneLineARecord) {
     addRecord(panel, TYPE_BUTTON, "Form1_Button1")->xpos = -7;
     addRecord(form->child, TYPE_SLIDER, "");
     newForm();
-    writeBytes(folder.file("a.wdp"), encodeProject(FileImage(), project));
-    ASSERT_EQ(run("--list " + folder.file("a.wdp")), 0);
+    writeBytes(folder / "a.wdp", encodeProject(FileImage(), project));
+    ASSERT_EQ(run("--list " + folder / "a.wdp"), 0);
     EXPECT_EQ(errors, "");
     EXPECT_EQ(out, "0 2001 Form1 200 130 400 550\n"
                    "1 2002 Form1_MainPanel 0 0 400 550\n"
@@ -53,28 +54,28 @@ TEST_F(WdgenFiles, UpgradeWritesTheCurrentVersionOfEveryKindOfFile) {
     FileImage image;
     image.version = 30;
     image.marks = "C-w";
-    writeBytes(folder.file("a.wdp"), encodeProject(image, project));
-    writeBytes(folder.file("a.wdf"), encodeForm(image, project.forms, 31, 31));
+    writeBytes(folder / "a.wdp", encodeProject(image, project));
+    writeBytes(folder / "a.wdf", encodeForm(image, project.forms, 31, 31));
     makeDefaults();
     const std::vector<const WidgetNode*> records(defaultRecords.begin(), defaultRecords.end());
-    writeBytes(folder.file("a.WDD"), encodeDefaults(image, records));
+    writeBytes(folder / "a.WDD", encodeDefaults(image, records));
     const FileImage now{.marks = "C-s"};
     for (const char* name : {"a.wdp", "a.wdf", "a.WDD"}) {
         SCOPED_TRACE(name);
-        ASSERT_EQ(run("--upgrade " + folder.file(name) + " -o " + folder.file("new.out")), 0) << errors;
-        const std::string bytes = readBytes(folder.file("new.out"));
+        ASSERT_EQ(run("--upgrade " + folder / name + " -o " + folder / "new.out"), 0) << errors;
+        const std::string bytes = readBytes(folder / "new.out");
         const bool defaults = std::string(name) == "a.WDD"; // has no header that could tell a language
         EXPECT_STREQ(bytes.c_str(), defaults ? "ORBAWIDGDESIGNV8.0-F90-s" : "ORBAWIDGDESIGNV8.0-C-s");
     }
-    ASSERT_EQ(run("--upgrade " + folder.file("a.wdf") + " -o " + folder.file("b.wdf")), 0);
+    ASSERT_EQ(run("--upgrade " + folder / "a.wdf" + " -o " + folder / "b.wdf"), 0);
     for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms)) { // what the version did not hold
         n->text = n->text.substr(0, 1);                                      // as wide as the fixture wrote it
         n->fieldWidth = static_cast<int>(n->text.size());
         n->oleInserts = 1;
         if (n->type != TYPE_FORM) n->initialState = 1;
     }
-    EXPECT_EQ(byteDifference(readBytes(folder.file("b.wdf")), encodeForm(now, project.forms, 31, 31)), "");
-    ASSERT_EQ(run("--list " + folder.file("b.wdf")), 0);
+    EXPECT_EQ(byteDifference(readBytes(folder / "b.wdf"), encodeForm(now, project.forms, 31, 31)), "");
+    ASSERT_EQ(run("--list " + folder / "b.wdf"), 0);
     EXPECT_NE(out.find("0 2001 Form2 "), std::string::npos);
 }
 
@@ -82,35 +83,35 @@ TEST_F(WdgenFiles, TheQuestionOfTheFirstVersionIsAnsweredByAnOption) {
     freshProject();
     FileImage image;
     image.version = 10;
-    writeBytes(folder.file("v1.wdp"), encodeProject(image, project));
-    ASSERT_EQ(run("--upgrade " + folder.file("v1.wdp") + " -o " + folder.file("w.wdp")), 0);
-    ASSERT_EQ(run("--upgrade " + folder.file("v1.wdp") + " -o " + folder.file("x.wdp") + " --x-windows"), 0);
+    writeBytes(folder / "v1.wdp", encodeProject(image, project));
+    ASSERT_EQ(run("--upgrade " + folder / "v1.wdp" + " -o " + folder / "w.wdp"), 0);
+    ASSERT_EQ(run("--upgrade " + folder / "v1.wdp" + " -o " + folder / "x.wdp" + " --x-windows"), 0);
     EXPECT_EQ(errors, "");
-    EXPECT_STREQ(readBytes(folder.file("w.wdp")).c_str(), "ORBAWIDGDESIGNV8.0-F90-s");
+    EXPECT_STREQ(readBytes(folder / "w.wdp").c_str(), "ORBAWIDGDESIGNV8.0-F90-s");
 }
 
 TEST_F(WdgenFiles, FailuresAreToldAndLeaveTheOutputAlone) {
-    writeBytes(folder.file("text.wdp"), std::string(200, 'x'));
-    writeBytes(folder.file("text.txt"), "x");
-    writeBytes(folder.file("kept.wdp"), "kept");
+    writeBytes(folder / "text.wdp", std::string(200, 'x'));
+    writeBytes(folder / "text.txt", "x");
+    writeBytes(folder / "kept.wdp", "kept");
     struct Row {
         std::string words;
         const char* told;
     };
     const Row rows[] = {
-        {"--list " + folder.file("text.wdp"), "File is not a ORBAWIDG Designer file"},
-        {"--list " + folder.file("text.txt"), "the extension tells"},
-        {"--list " + folder.file("none.wdf"), "Cannot open Form file :none.wdf"},
+        {"--list " + folder / "text.wdp", "File is not a ORBAWIDG Designer file"},
+        {"--list " + folder / "text.txt", "the extension tells"},
+        {"--list " + folder / "none.wdf", "Cannot open Form file :none.wdf"},
         {"--list", "usage"},
-        {"--upgrade " + folder.file("text.wdp"), "usage"},
-        {"--upgrade " + folder.file("text.wdp") + " -o " + folder.file("kept.wdp"), "not a ORBAWIDG"},
+        {"--upgrade " + folder / "text.wdp", "usage"},
+        {"--upgrade " + folder / "text.wdp" + " -o " + folder / "kept.wdp", "not a ORBAWIDG"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(run(row.words), 1) << row.words;
         EXPECT_NE(errors.find(row.told), std::string::npos) << errors;
         EXPECT_EQ(out, "");
     }
-    EXPECT_EQ(readBytes(folder.file("kept.wdp")), "kept");
+    EXPECT_EQ(readBytes(folder / "kept.wdp"), "kept");
 }
 
 } // namespace
