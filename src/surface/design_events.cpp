@@ -19,8 +19,8 @@
 
 namespace {
 
-constexpr std::array ANSWERS_TO_SELECT = {TYPE_TEXT_LABEL, TYPE_LIST_BOX,    TYPE_COMBO_BOX,
-                                          TYPE_TEXT_ARRAY, TYPE_VALUE_ARRAY, TYPE_TTY_ENTRY};
+constexpr std::array ANSWERS_TO_SELECT = {TYPE_TEXT_LABEL,  TYPE_LIST_BOX,  TYPE_COMBO_BOX, TYPE_TEXT_ARRAY,
+                                          TYPE_VALUE_ARRAY, TYPE_TTY_ENTRY, TYPE_TAB_BOX};
 
 // The record that an identifier stands for: its general event, or the select event where that is what it raises.
 WidgetNode* findByCallback(int id) {
@@ -132,8 +132,6 @@ void barEvent(WidgetNode& bar) {
 
 // A page of a tab box stands for its box.
 WidgetNode* standsFor(WidgetNode* found) {
-    if (found->type == TYPE_TAB_BOX)
-        if (WidgetNode* page = findHandle(action.status)) found = page;
     const bool page = found->type == TYPE_PANEL && found->parent && found->parent->type == TYPE_TAB_BOX;
     return page ? found->parent : found;
 }
@@ -142,7 +140,7 @@ WidgetNode* standsFor(WidgetNode* found) {
 bool selectorEvent(WidgetNode* found) {
     if (design.panelBandArmed) {
         design.panelBandArmed = 0;
-        if (found->type != TYPE_PANEL) return false;
+        if (found->type != TYPE_PANEL && found->type != TYPE_RADIO_BOX) return false;
         const Band band = endRubberBand(*found, static_cast<int>(action.xpos), static_cast<int>(action.ypos));
         if (band != Band::Still) return false;
     }

@@ -20,7 +20,7 @@ bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI 
 
 void press(const WidgetNode& panel) {
     design.rubberBandArmed = 1;
-    if (panel.type == TYPE_PANEL) design.panelBandArmed = 1;
+    if (panel.type != TYPE_MAIN_PANEL) design.panelBandArmed = 1;
     design.bandStartX = static_cast<int>(action.xpos);
     design.bandStartY = static_cast<int>(action.ypos);
     dropSelection();
@@ -145,7 +145,9 @@ bool holdsInput(const WidgetNode& form) {
     return holder && formOf(holder, project.forms) == &form;
 }
 
-bool takesPresses(const WidgetNode& node) { return node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL; }
+bool takesPresses(const WidgetNode& node) {
+    return node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL || node.type == TYPE_RADIO_BOX;
+}
 
 } // namespace
 
@@ -182,7 +184,7 @@ void formEvent(int id) {
         hooks.leaveTextMode();
     } else if (node->type == TYPE_FORM && node->formCallbackId == id) {
         windowEvent(*node, action.status);
-    } else if (node->designCallbackId == id && node->type != TYPE_PANEL) {
+    } else if (node->designCallbackId == id && node->type != TYPE_PANEL && node->type != TYPE_RADIO_BOX) {
         release(*node);
     }
 }

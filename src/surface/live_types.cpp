@@ -149,7 +149,7 @@ int createPane(const WidgetNode& n, int window) {
 }
 
 int createTabBox(const WidgetNode& n, int parent) {
-    return owCreateTabDialogueBox(parent, BOX(n), PLACED(n), owCallback, AUTOMATIC, 0);
+    return owCreateTabDialogueBox(parent, BOX(n), PLACED(n), owSelectCallback, AUTOMATIC, 0);
 }
 
 int createGauge(const WidgetNode& n, int parent) {
@@ -238,6 +238,14 @@ void finishPane(WidgetNode& n) {
                                                   owHpos, OCENTRE, owExpand, 1, 0);
 }
 
+// A type whose creation call takes no callback can be selected all the same.
+void tellOfClicks(WidgetNode& n) { owDefineCallback(n.handle, n.handle); }
+
+void finishTree(WidgetNode& n) {
+    tellOfClicks(n);
+    buildLiveTree(n);
+}
+
 constexpr bool C = true, S = true, FONT = true, NO = false;
 
 const LiveType TYPES[] = {
@@ -259,11 +267,11 @@ const LiveType TYPES[] = {
     {TYPE_TEXT_ARRAY, createTextArray, applyArrayGeometry, NO, S, FONT},
     {TYPE_VALUE_ARRAY, createValueArray, applyArrayGeometry, NO, S, FONT},
     {TYPE_TOOL_BAR, createToolBar, finishToolBar, C, NO, NO},
-    {TYPE_TAB_BOX, createTabBox, nullptr, C, NO, FONT},
+    {TYPE_TAB_BOX, createTabBox, nullptr, NO, S, FONT},
     {TYPE_GAUGE, createGauge, nullptr, C, NO, NO},
-    {TYPE_PROGRESS_BAR, createProgressBar, nullptr, NO, NO, NO},
+    {TYPE_PROGRESS_BAR, createProgressBar, tellOfClicks, C, NO, NO},
     {TYPE_TTY_ENTRY, createTtyEntry, nullptr, NO, S, FONT},
-    {TYPE_TREE_VIEW, createTreeView, buildLiveTree, C, NO, FONT},
+    {TYPE_TREE_VIEW, createTreeView, finishTree, C, NO, FONT},
     {TYPE_TABLE_BOX, createTableBox, finishTable, C, NO, FONT},
     {TYPE_TOOL_SEPARATOR, createSeparator, nullptr, NO, NO, NO},
     {TYPE_PANE, createPane, finishPane, C, NO, NO},

@@ -1,4 +1,5 @@
 #include "program_fixture.h"
+#include "toolkit/testing/robot.h"
 
 #include "toolkit/views/buttons.h"
 
@@ -173,6 +174,39 @@ TEST_F(Buttons, PanelsReportPressAndReleaseWithTheirPlaces) {
     EXPECT_EQ(seen[1].callback, one);
     EXPECT_EQ(seen[1].x, 50);
     EXPECT_EQ(seen[1].y, 60);
+}
+
+// Press and release of what lies inside are not told of what lies around it.
+TEST_F(Buttons, AClickInsideIsNotOneOnThePanelAround) {
+    const int outer =
+        owCreatePanel(panel, 0, 0, 300, 250, owVpos, OTOP, owCallback, OIDENT, owSelectCallback, OIDENT, 0);
+    const int inner =
+        owCreatePanel(outer, 10, 10, 100, 100, owVpos, OTOP, owCallback, OIDENT, owSelectCallback, OIDENT, 0);
+    const OLIMIT limits = {0, 1, 0, 1};
+    const int frame = owCreateGraphicsFrame(outer, 120, 10, 80, 80, &limits, owVpos, OTOP, owCallback, OIDENT, 0);
+    const int bar = owCreateProgressBar(outer, 10, 120, 100, 20, owVpos, OTOP, 0);
+    const int tabs = owCreateTabDialogueBox(outer, 120, 120, 150, 100, owVpos, OTOP, owSelectCallback, OIDENT, 0);
+    owCreatePanel(tabs, 0, 0, 100, 80, owTitle, "One", 0);
+    const int array = owCreateTextArray(outer, 210, 10, 80, 80, 2, 2, owVpos, OTOP, owXtext, "Digits", owYtext,
+                                        "Digits", owSelectCallback, OIDENT, 0);
+    struct Click {
+        int handle;
+        QPoint at;
+        std::vector<int> heard;
+    };
+    const Click clicks[] = {{inner, {50, 50}, {inner + OIDENT, inner}},
+                            {frame, {40, 40}, {frame}},
+                            {bar, {50, 10}, {}},
+                            {tabs, {20, 8}, {tabs + OIDENT}},
+                            {tabs, {145, 8}, {tabs + OIDENT}},
+                            {array, {3, 3}, {array + OIDENT}}};
+    for (const Click& one : clicks) {
+        events();
+        orba::testing::click(one.handle, one.at);
+        std::vector<int> heard;
+        for (const Seen& event : events()) heard.push_back(event.callback);
+        EXPECT_EQ(heard, one.heard) << one.handle << " at " << one.at.x();
+    }
 }
 
 TEST_F(Buttons, PanelsDrawSevenBoundariesAndScroll) {

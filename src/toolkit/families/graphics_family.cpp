@@ -49,7 +49,8 @@ public:
         if (drawing().frame != handle_) activateFrame(*widget);
         const QPointF at = Mapping({frame_->limits(), {0, 0, 1, 1}}, frame_->size()).toUnits(mouse->position());
         post(handle_, event->type() == QEvent::MouseButtonPress ? Slot::select : Slot::general, drawingUnits, at);
-        return false;
+        event->accept(); // what lies around the frame has not been clicked
+        return true;
     }
 
 private:

@@ -158,7 +158,8 @@ const Family radioBoxes{.name = "radio box",
                         .coloursChanged = showPanel,
                         .childAdded = radioChildAdded};
 
-// The press is the select event, the release the general one, so that a program can follow a band between them.
+// The press is the select event, the release the general one, so that a program can follow a band between them. Both
+// end here: a panel around this one has not been clicked.
 class PanelMouse : public QObject {
 public:
     PanelMouse(Panel* panel, int handle) : QObject(panel), panel_(panel), handle_(handle) {}
@@ -168,22 +169,22 @@ public:
             type != QEvent::MouseButtonDblClick)
             return false;
         auto* mouse = static_cast<QMouseEvent*>(event);
-        switch (type) {
-        case QEvent::MouseButtonPress:
-            if (mouse->button() == Qt::LeftButton) post(handle_, Slot::select, 1, place(watched, mouse));
-            break;
-        case QEvent::MouseButtonRelease:
-            if (mouse->button() == Qt::LeftButton) post(handle_, Slot::general, 0, place(watched, mouse));
-            break;
-        case QEvent::MouseButtonDblClick:
-            if (mouse->button() == Qt::LeftButton) post(handle_, Slot::select, 1, place(watched, mouse));
-            break;
-        default: break;
-        }
-        return false;
+        if (mouse->button() != Qt::LeftButton || onlyFills()) return false;
+        if (type == QEvent::MouseButtonRelease)
+            post(handle_, Slot::general, 0, place(watched, mouse));
+        else
+            post(handle_, Slot::select, 1, place(watched, mouse));
+        event->accept();
+        return true;
     }
 
 private:
+    // A panel that hears no clicks is the body of its docking pane: they are the pane's.
+    bool onlyFills() const {
+        const Widget* panel = widgetOf(handle_);
+        return panel && panel->parent && panel->parent->kind == Kind::dockingPane &&
+               !hasCallback(*panel, Slot::select) && !hasCallback(*panel, Slot::general);
+    }
     QPointF place(QObject* watched, const QMouseEvent* mouse) const {
         auto* from = static_cast<QWidget*>(watched);
         return from == panel_ ? mouse->position() : QPointF(from->mapTo(panel_, mouse->position().toPoint()));

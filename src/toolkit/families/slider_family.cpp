@@ -4,6 +4,7 @@
 #include "toolkit/views/sliders.h"
 #include "toolkit/views/text/value_entry.h"
 
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <cmath>
 
@@ -336,6 +337,23 @@ bool setProgressProperty(Widget& widget, int property, const Value& value) {
 
 QSize progressSize(Widget&) { return {160, 18}; }
 
+// A click on the bar is the bar's, not one on what lies around it.
+class ProgressPress : public QObject {
+public:
+    ProgressPress(QWidget* view, int handle) : QObject(view), handle_(handle) { view->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        const bool pressed = event->type() == QEvent::MouseButtonPress;
+        if (!pressed && event->type() != QEvent::MouseButtonRelease) return false;
+        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) return false;
+        if (!pressed) post(handle_, Slot::general);
+        event->accept();
+        return true;
+    }
+
+private:
+    int handle_;
+};
+
 const Family progressBars{
     .name = "progress bar", .get = getProgressProperty, .set = setProgressProperty, .naturalSize = progressSize};
 
@@ -350,7 +368,7 @@ Word createProgress(const Arguments& call) {
     data->value = call.keyword(owIntValue);
     widget.data = std::move(data);
     showProgress(widget);
-    new SliderPress(widget.view, widget.handle);
+    new ProgressPress(widget.view, widget.handle);
     return finishCreation(widget, call);
 }
 

@@ -1,6 +1,7 @@
 // Tabbed dialogue boxes. Their children are panels: each is a page, with the panel's title and icon on its tab.
 #include "toolkit/frame/core.h"
 
+#include <QMouseEvent>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -48,6 +49,30 @@ bool setPageStatus(Widget& box, Widget& page, int status) {
 
 void placePage(Widget&, Widget&) {} // the tab box itself gives its pages their size
 
+// A press beside the tabs is one on the box.
+class StripPress : public QObject {
+public:
+    StripPress(QTabWidget* view, int handle) : QObject(view), view_(view), handle_(handle) {
+        view->installEventFilter(this);
+        view->tabBar()->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool pressed = event->type() == QEvent::MouseButtonPress;
+        if (!pressed && event->type() != QEvent::MouseButtonRelease) return false;
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        const QTabBar* bar = view_->tabBar();
+        if (mouse->button() != Qt::LeftButton || (watched == bar && bar->tabAt(mouse->position().toPoint()) >= 0))
+            return false;
+        if (pressed) post(handle_, Slot::select, 1);
+        event->accept();
+        return true;
+    }
+
+private:
+    QTabWidget* view_;
+    int handle_;
+};
+
 // The title of the page in front.
 QString boxText(Widget& box) { return boxOf(box).tabText(boxOf(box).currentIndex()); }
 
@@ -66,9 +91,8 @@ Word createTabDialogueBox(const Arguments& call) {
     auto* view = new QTabWidget(clientOf(parent));
     view->setUsesScrollButtons(true);
     Widget& box = addWidget(Kind::tabBox, tabBoxes, parent, view);
-    QObject::connect(view, &QTabWidget::tabBarClicked, view, [handle = box.handle](int index) {
-        if (index >= 0) post(handle, Slot::select, 1);
-    });
+    QObject::connect(view, &QTabWidget::tabBarClicked, view, [handle = box.handle] { post(handle, Slot::select, 1); });
+    new StripPress(view, box.handle);
     QObject::connect(view, &QTabWidget::currentChanged, view, [handle = box.handle](int index) {
         Widget* self = widgetOf(handle);
         if (!self) return;

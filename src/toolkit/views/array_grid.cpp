@@ -2,6 +2,7 @@
 
 #include "toolkit/views/text/program_text.h"
 
+#include <QAbstractButton>
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QHash>
@@ -286,6 +287,7 @@ ArrayGrid::ArrayGrid(const ArrayOptions& options, const ArrayHooks& hooks, QWidg
         header->setSectionsClickable(true);
         header->viewport()->installEventFilter(this);
     }
+    if (auto* corner = findChild<QAbstractButton*>()) corner->installEventFilter(this);
     horizontalHeader()->setDefaultSectionSize(std::max(smallestCell, options.cellWidth));
     verticalHeader()->setDefaultSectionSize(std::max(smallestCell, options.cellHeight));
     connect(itemDelegate(), &QAbstractItemDelegate::commitData, this, [this] {
@@ -518,7 +520,13 @@ bool ArrayGrid::event(QEvent* event) {
 
 bool ArrayGrid::eventFilter(QObject* watched, QEvent* event) {
     const bool header = watched == horizontalHeader()->viewport() || watched == verticalHeader()->viewport();
-    if (header && event->type() == QEvent::MouseButtonPress && hooks_.pressedElsewhere) hooks_.pressedElsewhere();
+    const bool corner = qobject_cast<QAbstractButton*>(watched);
+    const bool press = event->type() == QEvent::MouseButtonPress;
+    if ((header || corner) && press && hooks_.pressedElsewhere) hooks_.pressedElsewhere();
+    if (corner && (press || event->type() == QEvent::MouseButtonRelease)) {
+        event->accept(); // it is disabled: the press would go on to what lies around the array
+        return true;
+    }
     return QTableView::eventFilter(watched, event);
 }
 
