@@ -2,6 +2,7 @@
 #include "toolkit/families/windows.h"
 #include "toolkit/frame/frame.h"
 #include "toolkit/views/icons/icons.h"
+#include "toolkit/views/text/tip_text.h"
 
 #include <QAction>
 #include <QMenu>
@@ -22,7 +23,7 @@ EntryData& entryData(Widget& entry) { return dataOf<EntryData>(entry); }
 QString shownLabel(const Widget& entry, const QString& label) {
     const qsizetype bar = label.indexOf(QLatin1Char('|'));
     QString text = labelWithMnemonic(bar < 0 ? label : label.left(bar), entry.accel);
-    if (bar >= 0) text += QLatin1Char('\t') + label.mid(bar + 1);
+    if (bar >= 0) text += QLatin1Char('\t') + labelWithMnemonic(label.mid(bar + 1), 0);
     return text;
 }
 
@@ -32,7 +33,7 @@ void showEntry(Widget& entry) {
     int icon = entry.status == OCHECKED && data.checkIcon ? data.checkIcon : data.uncheckIcon;
     if (entry.status == OUNSELECTABLE && data.greyIcon) icon = data.greyIcon;
     data.action->setIcon(icon ? icons::iconOfResource(icon) : QIcon());
-    data.action->setToolTip(barsToLines(entry.help));
+    data.action->setToolTip(tipText(barsToLines(entry.help)));
 }
 
 void setEntryStatus(Widget& entry, int status) {

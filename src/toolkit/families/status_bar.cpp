@@ -2,6 +2,7 @@
 #include "toolkit/families/main_window.h"
 #include "toolkit/frame/core.h"
 #include "toolkit/frame/frame.h"
+#include "toolkit/views/text/tip_text.h"
 
 #include <QHelpEvent>
 #include <QMainWindow>
@@ -77,7 +78,7 @@ protected:
             if (place.contains(help->pos()) && fontMetrics().horizontalAdvance(text(pane)) > place.width() - 12)
                 whole = text(pane);
         }
-        QToolTip::showText(help->globalPos(), whole.toHtmlEscaped(), this);
+        QToolTip::showText(help->globalPos(), tipText(whole), this);
         return true;
     }
 

@@ -1,5 +1,6 @@
 // Properties by number, status, help and information of every widget.
 #include "toolkit/frame/frame.h"
+#include "toolkit/views/text/tip_text.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -375,13 +376,22 @@ void setStatus(Widget& widget, int status) {
     if (wasHidden != (status == OHIDDEN) && widget.parent && widget.place.expand > 0) placeChildren(*widget.parent);
 }
 
+constexpr int HELP_PROPERTY = 55;
+
+// An entry of a menu has no view: its family shows the help.
 void showHelp(Widget& widget) {
-    if (!widget.view) return;
-    QString text = barsToLines(widget.help);
-    if (text.contains(QLatin1Char('\n')) && widget.helpJustify != OLEFT) {
+    if (!widget.view) {
+        Value help;
+        help.text = widget.help;
+        if (widget.family->set) widget.family->set(widget, HELP_PROPERTY, help);
+        return;
+    }
+    const QString lines = barsToLines(widget.help);
+    QString text = tipText(lines);
+    if (lines.contains(QLatin1Char('\n')) && widget.helpJustify != OLEFT) {
         const char* align = widget.helpJustify == ORIGHT ? "right" : "center";
         text = QStringLiteral("<div style=\"white-space:pre\" align=\"%1\">%2</div>")
-                   .arg(QLatin1String(align), text.toHtmlEscaped());
+                   .arg(QLatin1String(align), lines.toHtmlEscaped());
     }
     widget.view->setToolTip(text);
     widget.view->setToolTipDuration(widget.helpDelay > 0 ? widget.helpDelay : -1);

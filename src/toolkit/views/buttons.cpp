@@ -319,7 +319,7 @@ IconButton::IconButton(QWidget* parent) : QAbstractButton(parent) {
 
 void IconButton::setLook(const IconLook& look) {
     look_ = look;
-    setText(look.label);
+    setText(QString(look.label).replace(QLatin1Char('&'), QLatin1String("&&"))); // no "&" of it marks a mnemonic
     update();
 }
 

@@ -71,6 +71,7 @@ Panel::Panel(QWidget* parent) : QWidget(parent) {}
 
 void Panel::setLook(const PanelLook& look) {
     look_ = look;
+    setAccessibleName(look_.title); // a screen reader sees no painting
     if ((look_.scrollVertical || look_.scrollHorizontal) && !area_) makeScroller();
     if (area_) {
         area_->setVerticalScrollBarPolicy(look_.scrollVertical ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);

@@ -1,6 +1,8 @@
 // The property list's table: model, drawing of cells, editors and the keyboard.
 #include "toolkit/views/property_view.h"
 
+#include "toolkit/views/text/tip_text.h"
+
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QComboBox>
@@ -590,7 +592,7 @@ bool PropertyView::viewportEvent(QEvent* event) {
     if (text.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(help->globalPos(), text.toHtmlEscaped(), viewport());
+        QToolTip::showText(help->globalPos(), tipText(text), viewport());
     return true;
 }
 

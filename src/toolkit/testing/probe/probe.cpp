@@ -7,12 +7,17 @@
 //   kind  x  y  width  height  state  text  tooltip  window
 // x and y are screen pixels of the top left corner; state is a set of letters: e enabled, c checked, f focus, a active
 // window. Tabs, line ends and backslashes in texts are written \t, \n and \\.
+//
+// With $ORBA_PROBE_TEXTS the program instead writes every text that it holds, shown or not, into that file once its
+// windows stand, and ends. One line a text: what it is (text, title, tip, pane, entry, cell, head, tab), a tab, the
+// text. Marks of mnemonics are left out.
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -26,7 +31,12 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QTabBar>
+#include <QTextDocument>
 #include <QTextEdit>
+#include <QTimer>
+
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -160,6 +170,85 @@ QByteArray screen() {
     return out + '\n';
 }
 
+// --- every text
+
+void writeText(QByteArray& out, const char* what, const QString& text) {
+    if (!text.isEmpty()) out += what + ('\t' + escaped(text)) + '\n';
+}
+
+// "&" marks the next letter, a pair of them is one.
+QString unmarked(const QString& text) {
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'&' && i + 1 < text.size()) ++i;
+        plain += text[i];
+    }
+    return plain;
+}
+
+// As the tooltip draws it: what looks like rich text is rich text.
+QString drawnTip(const QString& tip) {
+    if (!Qt::mightBeRichText(tip)) return tip;
+    QTextDocument document;
+    document.setHtml(tip);
+    return document.toPlainText();
+}
+
+void writeCells(QByteArray& out, const QAbstractItemModel& model, const QModelIndex& parent) {
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        for (int column = 0; column < model.columnCount(parent); ++column)
+            writeText(out, "cell", model.index(row, column, parent).data().toString());
+        writeCells(out, model, model.index(row, 0, parent));
+    }
+}
+
+void writeHeads(QByteArray& out, const QAbstractItemModel& model) {
+    for (int column = 0; column < model.columnCount(); ++column)
+        writeText(out, "head", model.headerData(column, Qt::Horizontal).toString());
+    for (int row = 0; row < model.rowCount(); ++row)
+        writeText(out, "head", model.headerData(row, Qt::Vertical).toString());
+}
+
+void writeWidgetTexts(QByteArray& out, QWidget* widget) {
+    const QString text = shownText(widget);
+    writeText(out, "text", qobject_cast<QAbstractButton*>(widget) ? unmarked(text) : text);
+    writeText(out, "title", widget->windowTitle());
+    writeText(out, "title", widget->accessibleName());
+    writeText(out, "pane", widget->accessibleDescription());
+    writeText(out, "tip", drawnTip(widget->toolTip()));
+    for (const QAction* action : widget->actions()) {
+        writeText(out, "entry", unmarked(action->text()));
+        writeText(out, "tip", drawnTip(action->toolTip()));
+    }
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) writeCells(out, *combo->model(), {});
+    if (auto* view = qobject_cast<QAbstractItemView*>(widget); view && view->model()) {
+        if (!qobject_cast<QHeaderView*>(widget)) writeCells(out, *view->model(), {});
+        if (!qobject_cast<QHeaderView*>(widget)) writeHeads(out, *view->model());
+    }
+    if (auto* tabs = qobject_cast<QTabBar*>(widget))
+        for (int tab = 0; tab < tabs->count(); ++tab) writeText(out, "tab", unmarked(tabs->tabText(tab)));
+}
+
+QByteArray everyText() {
+    QByteArray out;
+    for (QWidget* widget : QApplication::allWidgets()) writeWidgetTexts(out, widget);
+    return out;
+}
+
+// The program is ready when it has windows and nothing changes any more.
+void writeWhenReady(const QString& path) {
+    auto* timer = new QTimer(QCoreApplication::instance());
+    QObject::connect(timer, &QTimer::timeout, [path, last = QByteArray()]() mutable {
+        const QByteArray texts = everyText();
+        if (texts.isEmpty() || texts != std::exchange(last, texts)) return;
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly)) file.write(texts);
+        file.close();
+        std::_Exit(0);
+    });
+    timer->start(200);
+}
+
 void answer(QLocalSocket* socket) {
     while (socket->canReadLine()) {
         socket->readLine();
@@ -168,6 +257,8 @@ void answer(QLocalSocket* socket) {
 }
 
 void listen() {
+    const QString texts = qEnvironmentVariable("ORBA_PROBE_TEXTS");
+    if (!texts.isEmpty() && qobject_cast<QApplication*>(QCoreApplication::instance())) writeWhenReady(texts);
     const QString folder = qEnvironmentVariable("ORBA_PROBE_DIR");
     if (folder.isEmpty() || !qobject_cast<QApplication*>(QCoreApplication::instance())) return;
     auto* server = new QLocalServer(QCoreApplication::instance());
