@@ -17,6 +17,7 @@
 #include <vector>
 
 class QAction;
+class QDialog;
 class QWidget;
 
 namespace orba::testing {
@@ -92,5 +93,8 @@ void expectColourBox(const QColor& choice);
 // Any other box: accepted or rejected.
 void expectDialogue(const char* title, bool accept);
 bool scriptIsEmpty();
+
+// From now on boxes go to `answerer` instead of the script, and it has to end them; null: to the script again.
+void answerBoxes(void (*answerer)(QDialog& box));
 
 } // namespace orba::testing
