@@ -80,14 +80,23 @@ void answerBox(QDialog& box) {
     nextAnswer++ % 2 ? box.accept() : box.reject();
 }
 
-// Boxes that come up inside a box, or that the toolkit does not announce, and drags that wait for the screen's pointer.
-// What is met at two calls in a row is waiting.
+// Boxes that come up inside a box, or that the toolkit does not announce, menus with a loop of their own, and drags that
+// wait for the screen's pointer. What is met at several calls in a row, within one act, is waiting.
+bool acting = false;
+
 void helpOut() {
-    static QPointer<QDialog> last;
-    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (box && box == last && box->isVisible()) answerBox(*box);
-    last = box;
-    if (!box) QDrag::cancel();
+    constexpr int PATIENCE = 3;
+    static QPointer<QWidget> last;
+    static int met = 0;
+    QWidget* waiting = QApplication::activePopupWidget();
+    if (!waiting) waiting = QApplication::activeModalWidget();
+    met = waiting == last ? met + 1 : 0;
+    last = waiting;
+    if (met < PATIENCE || !acting) return;
+    met = 0;
+    if (!waiting) return QDrag::cancel();
+    if (auto* box = qobject_cast<QDialog*>(waiting); box && box->isVisible()) return answerBox(*box);
+    waiting->close();
 }
 
 // ---- The designer's loop, with the exit refused.
@@ -272,8 +281,10 @@ std::string perform(const Event& event) {
     const double start = secondsOfProcessor();
     QTimer helper;
     QObject::connect(&helper, &QTimer::timeout, helpOut);
-    helper.start(50);
+    helper.start(30);
+    acting = true;
     act(event);
+    acting = false;
     runLoop();
     if (event.verb == Verb::Check) {
         note(brokenInvariant());
