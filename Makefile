@@ -2,7 +2,7 @@
 BUILD := build/dev
 JOBS ?= $(shell nproc)
 
-.PHONY: run test build packages fuzz bench clean
+.PHONY: run test build packages sanitize monkey fuzz bench clean
 
 run: build
 	scripts/run-designer.sh $(BUILD)
@@ -20,6 +20,22 @@ build: packages
 packages:
 	@echo "== Checking packages"
 	scripts/install-packages.sh
+
+# The tests of the rooms again under the address and undefined-behaviour sanitizers. Programs that the designer generates
+# are no part of it: they would have to be linked with the sanitizers too.
+sanitize: packages
+	@echo "== Running the tests of the rooms with sanitizers"
+	cmake --preset asan
+	cmake --build build/asan -j $(JOBS)
+	QT_QPA_PLATFORM=offscreen ctest --test-dir build/asan --output-on-failure -j $(JOBS) $(CTEST_ARGS)
+
+# Random mouse and keys on the designer, with sanitizers: EVENTS acts from SEED on. What fails is left in
+# build/monkey-failures as the few acts that lead to it.
+monkey: packages
+	cmake --preset asan
+	cmake --build build/asan -j $(JOBS) --target monkey
+	build/asan/tests/monkey/monkey --events $(or $(EVENTS),20000) --seed $(or $(SEED),1) --jobs $(JOBS) \
+	  --keep build/monkey-failures
 
 # Each fuzz target runs SECONDS seconds (default 60).
 fuzz: packages

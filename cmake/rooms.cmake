@@ -43,7 +43,7 @@ function(add_room_tests name)
   if(NOT ROOM_TIMEOUT)
     set(ROOM_TIMEOUT 120)
   endif()
-  add_executable(${name}_tests ${sources} ${PROJECT_SOURCE_DIR}/tests/leaks.cpp)
+  add_executable(${name}_tests ${sources} ${PROJECT_SOURCE_DIR}/tests/sanitizers.cpp)
   target_link_libraries(${name}_tests PRIVATE ${ROOM_LINKS} test_support GTest::gtest GTest::gmock GTest::gtest_main)
   target_compile_definitions(${name}_tests PRIVATE ORBA_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
                                                    ORBA_BINARY_DIR="${PROJECT_BINARY_DIR}")

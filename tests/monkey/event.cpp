@@ -47,8 +47,7 @@ std::string lineOf(const Event& event) {
     std::ostringstream line;
     line << VERBS[static_cast<std::size_t>(event.verb)] << " " << asWord(event.target) << " at " << event.x << " "
          << event.y << " by " << event.dx << " " << event.dy << " button " << event.button << " " << event.count
-         << " code " << event.code << " " << event.modifiers << " answer " << event.answer << " "
-         << asWord(event.text);
+         << " code " << event.code << " " << event.modifiers << " answer " << event.answer << " " << asWord(event.text);
     return line.str();
 }
 

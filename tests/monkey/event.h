@@ -1,5 +1,5 @@
-// One act of the monkey, named so that it means the same when the acts ahead of it are left out: a target is the name of
-// a record, the identifier of a command, or the way to a part of the designer's own windows.
+// One act of the monkey, named so that it means the same when the acts ahead of it are left out: a target is the name
+// of a record, the identifier of a command, or the way to a part of the designer's own windows.
 #pragma once
 
 #include <string>
@@ -29,8 +29,8 @@ struct Event {
     int button = 1;                   // Qt::MouseButton
     int count = 1;
     int code = 0;
-    unsigned modifiers = 0;  // Qt::KeyboardModifiers
-    unsigned answer = 0;     // what chooses the answers of the boxes that the act brings up
+    unsigned modifiers = 0; // Qt::KeyboardModifiers
+    unsigned answer = 0;    // what chooses the answers of the boxes that the act brings up
     std::string text = {};
 };
 

@@ -80,22 +80,23 @@ void answerBox(QDialog& box) {
     nextAnswer++ % 2 ? box.accept() : box.reject();
 }
 
-// Boxes that come up inside a box, or that the toolkit does not announce, menus with a loop of their own, and drags that
-// wait for the screen's pointer. What is met at several calls in a row, within one act, is waiting.
+// Boxes that come up inside a box, or that the toolkit does not announce; and, within an act, menus with a loop of
+// their own and drags that wait for the screen's pointer. What is met at several calls in a row is waiting.
 bool acting = false;
 
 void helpOut() {
     constexpr int PATIENCE = 3;
     static QPointer<QWidget> last;
     static int met = 0;
-    QWidget* waiting = QApplication::activePopupWidget();
+    QWidget* waiting = acting ? QApplication::activePopupWidget() : nullptr;
     if (!waiting) waiting = QApplication::activeModalWidget();
     met = waiting == last ? met + 1 : 0;
     last = waiting;
-    if (met < PATIENCE || !acting) return;
+    if (met < PATIENCE) return;
     met = 0;
+    if (auto* box = qobject_cast<QDialog*>(waiting)) return answerBox(*box);
+    if (!acting) return;
     if (!waiting) return QDrag::cancel();
-    if (auto* box = qobject_cast<QDialog*>(waiting); box && box->isVisible()) return answerBox(*box);
     waiting->close();
 }
 

@@ -1,5 +1,5 @@
-// What must hold whenever the designer is idle, whatever was done to it. Saves the project to a file, opens it again and
-// generates on the way; a group is no selection any longer afterwards.
+// What must hold whenever the designer is idle, whatever was done to it. Saves the project to a file, opens it again
+// and generates on the way; a group is no selection any longer afterwards.
 #pragma once
 
 #include <string>

@@ -3,8 +3,8 @@
 #include "targets.h"
 
 #include "shell/commands.h"
+#include "toolkit/frame/core.h"
 #include "toolkit/testing/robot.h"
-#include "toolkit/widgets/core.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -46,18 +46,16 @@ constexpr int CTRL = static_cast<int>(Qt::ControlModifier), SHIFT = static_cast<
               ALT = static_cast<int>(Qt::AltModifier);
 
 constexpr Stroke STROKES[] = {
-    {Qt::Key_Delete, 0},      {Qt::Key_Delete, 0},     {Qt::Key_Return, 0},   {Qt::Key_Return, 0},
-    {Qt::Key_Escape, 0},      {Qt::Key_Escape, 0},     {Qt::Key_Tab, 0},      {Qt::Key_Backtab, SHIFT},
-    {Qt::Key_Up, 0},          {Qt::Key_Down, 0},       {Qt::Key_Left, 0},     {Qt::Key_Right, 0},
-    {Qt::Key_Up, SHIFT},      {Qt::Key_Down, CTRL},    {Qt::Key_Home, 0},     {Qt::Key_End, SHIFT},
-    {Qt::Key_PageDown, 0},    {Qt::Key_PageUp, 0},     {Qt::Key_Backspace, 0}, {Qt::Key_Space, 0},
-    {Qt::Key_C, CTRL},        {Qt::Key_V, CTRL},       {Qt::Key_X, CTRL},     {Qt::Key_D, CTRL},
-    {Qt::Key_Z, CTRL},        {Qt::Key_Y, CTRL},       {Qt::Key_A, CTRL},     {Qt::Key_F, CTRL},
-    {Qt::Key_S, CTRL},        {Qt::Key_W, CTRL},       {Qt::Key_U, CTRL},     {Qt::Key_N, CTRL},
-    {Qt::Key_F1, 0},          {Qt::Key_F2, 0},         {Qt::Key_F2, 0},       {Qt::Key_F3, 0},
-    {Qt::Key_F4, 0},          {Qt::Key_F4, SHIFT},     {Qt::Key_F5, 0},       {Qt::Key_F6, 0},
-    {Qt::Key_F10, 0},         {Qt::Key_F11, 0},        {Qt::Key_F12, 0},      {Qt::Key_F, ALT},
-    {Qt::Key_Menu, 0},        {Qt::Key_Insert, 0},     {Qt::Key_Down, ALT},   {Qt::Key_F4, 0},
+    {Qt::Key_Delete, 0},  {Qt::Key_Delete, 0},   {Qt::Key_Return, 0},      {Qt::Key_Return, 0},    {Qt::Key_Escape, 0},
+    {Qt::Key_Escape, 0},  {Qt::Key_Tab, 0},      {Qt::Key_Backtab, SHIFT}, {Qt::Key_Up, 0},        {Qt::Key_Down, 0},
+    {Qt::Key_Left, 0},    {Qt::Key_Right, 0},    {Qt::Key_Up, SHIFT},      {Qt::Key_Down, CTRL},   {Qt::Key_Home, 0},
+    {Qt::Key_End, SHIFT}, {Qt::Key_PageDown, 0}, {Qt::Key_PageUp, 0},      {Qt::Key_Backspace, 0}, {Qt::Key_Space, 0},
+    {Qt::Key_C, CTRL},    {Qt::Key_V, CTRL},     {Qt::Key_X, CTRL},        {Qt::Key_D, CTRL},      {Qt::Key_Z, CTRL},
+    {Qt::Key_Y, CTRL},    {Qt::Key_A, CTRL},     {Qt::Key_F, CTRL},        {Qt::Key_S, CTRL},      {Qt::Key_W, CTRL},
+    {Qt::Key_U, CTRL},    {Qt::Key_N, CTRL},     {Qt::Key_F1, 0},          {Qt::Key_F2, 0},        {Qt::Key_F2, 0},
+    {Qt::Key_F3, 0},      {Qt::Key_F4, 0},       {Qt::Key_F4, SHIFT},      {Qt::Key_F5, 0},        {Qt::Key_F6, 0},
+    {Qt::Key_F10, 0},     {Qt::Key_F11, 0},      {Qt::Key_F12, 0},         {Qt::Key_F, ALT},       {Qt::Key_Menu, 0},
+    {Qt::Key_Insert, 0},  {Qt::Key_Down, ALT},   {Qt::Key_F4, 0},
 };
 
 // What people do again and again.
@@ -65,10 +63,43 @@ constexpr Stroke EDITS[] = {{Qt::Key_C, CTRL}, {Qt::Key_V, CTRL}, {Qt::Key_V, CT
                             {Qt::Key_D, CTRL}, {Qt::Key_Z, CTRL}, {Qt::Key_Y, CTRL}, {Qt::Key_Delete, 0}};
 
 constexpr const char* TEXTS[] = {
-    "a",    "Name",   "x1",        "Form1_Button1", "form1_button1", "",     "0",    "1",       "7",
-    "12",   "-5",     "3.75",      "100",           "250",           "9999", "1e9",  "-2e-3",   "0.1234567",
-    "It's", "\"q\"",  "back\\n\\", "one|two",       "50 %d %s",      "&File", "@",   "end",     "Gr\xc3\xb6\xc3\x9f" "e",
-    "a b",  "integer", "real x",   "call sub(1, 'x')", "!note",      "/* c",  "\\",  "x\ty",    "\xe2\x82\xac",
+    "a",
+    "Name",
+    "x1",
+    "Form1_Button1",
+    "form1_button1",
+    "",
+    "0",
+    "1",
+    "7",
+    "12",
+    "-5",
+    "3.75",
+    "100",
+    "250",
+    "9999",
+    "1e9",
+    "-2e-3",
+    "0.1234567",
+    "It's",
+    "\"q\"",
+    "back\\n\\",
+    "one|two",
+    "50 %d %s",
+    "&File",
+    "@",
+    "end",
+    "Gr\xc3\xb6\xc3\x9f"
+    "e",
+    "a b",
+    "integer",
+    "real x",
+    "call sub(1, 'x')",
+    "!note",
+    "/* c",
+    "\\",
+    "x\ty",
+    "\xe2\x82\xac",
     "99999999999999999999",
 };
 

@@ -7,9 +7,9 @@
 #include <cctype>
 #include <chrono>
 #include <csignal>
-#include <cstring>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
 #include <fstream>
 #include <sys/wait.h>
@@ -81,9 +81,12 @@ std::vector<Event> without(const std::vector<Event>& events, std::size_t from, s
 
 int startRun(const Run& run) {
     const std::string seed = std::to_string(run.seed), count = std::to_string(run.events);
-    const std::array<const char*, 7> arguments = {"monkey",           run.replay ? "--replay" : "--play",
-                                                  run.project.c_str(), seed.c_str(),
-                                                  count.c_str(),       run.list.c_str(),
+    const std::array<const char*, 7> arguments = {"monkey",
+                                                  run.replay ? "--replay" : "--play",
+                                                  run.project.c_str(),
+                                                  seed.c_str(),
+                                                  count.c_str(),
+                                                  run.list.c_str(),
                                                   nullptr};
     const int child = fork();
     if (child != 0) return child;

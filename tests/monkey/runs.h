@@ -1,5 +1,5 @@
-// Runs of the monkey in processes of their own, so that a crash ends no more than a run, and the search for the few acts
-// that a failure needs.
+// Runs of the monkey in processes of their own, so that a crash ends no more than a run, and the search for the few
+// acts that a failure needs.
 #pragma once
 
 #include <string>

@@ -42,7 +42,7 @@ void writeCompilers() {
 } // namespace
 
 const std::vector<std::string>& stageNames() {
-    static const std::vector<std::string> names = {"heat",    "empty90", "beam",    "empty77",  "greeting",
+    static const std::vector<std::string> names = {"heat",    "empty90",   "beam",     "empty77", "greeting",
                                                    "empty99", "converter", "empty90x", "empty99x"};
     return names;
 }

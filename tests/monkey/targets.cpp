@@ -1,8 +1,8 @@
 #include "targets.h"
 
 #include "project/tree.h"
+#include "toolkit/frame/core.h"
 #include "toolkit/testing/robot.h"
-#include "toolkit/widgets/core.h"
 
 #include <QApplication>
 

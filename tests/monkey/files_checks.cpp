@@ -1,0 +1,71 @@
+#include "checks.h"
+
+#include "codegen/generate.h"
+#include "project/files.h"
+#include "shell/project_commands.h"
+#include "support/files.h"
+#include "support/records_equal.h"
+
+#include <filesystem>
+
+namespace {
+
+// ---- Files and sources.
+
+std::string sourceText() {
+    GeneratedText generated;
+    expect(generateText("monkey.source", generated), "generate: refused");
+    return generated.text;
+}
+
+std::string savedBytes(const std::string& name) {
+    expect(saveProject(std::filesystem::current_path().string(), name, true), "save: failed");
+    return readBytes(name);
+}
+
+std::string firstLine(const std::string& text) { return text.substr(0, text.find('\n')); }
+
+template <typename Part>
+void compare(const char* name, const ProjectState& left, const ProjectState& right, Part part) {
+    expect(left.*part == right.*part, std::string("load: the project's ") + name + " is another than in memory");
+}
+
+void compareStates(const ProjectState& left, const ProjectState& right) {
+    compare("language", left, right, &ProjectState::projectLanguage);
+    compare("platform", left, right, &ProjectState::projectPlatform);
+    compare("buffering", left, right, &ProjectState::doubleBuffering);
+    compare("grid", left, right, &ProjectState::gridHoriz);
+    compare("grid", left, right, &ProjectState::gridVert);
+    compare("grid mode", left, right, &ProjectState::gridMode);
+    compare("scaling", left, right, &ProjectState::scalable);
+    compare("snap", left, right, &ProjectState::snapOn);
+    compare("snap grid", left, right, &ProjectState::snapGrid);
+    compare("next form number", left, right, &ProjectState::nextFormNumber);
+    compare("counters", left, right, &ProjectState::counters);
+    compare("count of widgets", left, right, &ProjectState::widgetCount);
+    compare("switches", left, right, &ProjectState::compilerSwitches);
+    compare("switches", left, right, &ProjectState::linkerSwitches);
+    compare("file lists", left, right, &ProjectState::fileLists);
+    compare("code blocks", left, right, &ProjectState::codeBlocks);
+}
+
+} // namespace
+
+void checkFiles() {
+    const std::string text = sourceText();
+    const std::string bytes = savedBytes("monkey-a.wdp");
+    expect(sourceText() == text, "generate: the second text is another");
+    expect(byteDifference(savedBytes("monkey-b.wdp"), bytes).empty(), "generate: the project is changed by it");
+
+    ProjectState before = project;
+    before.forms = copyNode(project.forms, true);
+    expect(openProjectFile(std::filesystem::current_path().string(), "monkey-a.wdp"), "load: refused");
+    const std::string different = differences(before.forms, project.forms);
+    expect(different.empty(), "load: " + firstLine(different));
+    compareStates(before, project);
+    deleteList(before.forms);
+
+    const std::string again = byteDifference(savedBytes("monkey-b.wdp"), bytes);
+    expect(again.empty(), "save: other bytes after a load, " + firstLine(again));
+    expect(sourceText() == text, "generate: another text after a load");
+}
