@@ -1,5 +1,6 @@
 #include "codegen/quotes.h"
 
+#include "platform/letters.h"
 #include "project/tree.h"
 
 #include <algorithm>
@@ -9,14 +10,13 @@ namespace {
 
 constexpr std::size_t QUOTED_LIMIT = 32767; // bytes between the quotes
 
-bool continuesLetter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; } // of UTF-8
+bool isRichText(std::string_view text) { return text.starts_with("{\\rtf"); }
 
 // Cut to the limit, but never inside a letter, nor behind half of a pair: that would end the string, or take its end
-// away.
+// away. Rich text stays whole: without its end it is none.
 void cutDoubled(std::string& text, char first) {
-    if (text.size() <= QUOTED_LIMIT) return;
-    std::size_t length = QUOTED_LIMIT;
-    while (length > 0 && continuesLetter(text[length])) --length;
+    if (text.size() <= QUOTED_LIMIT || isRichText(text)) return;
+    const std::size_t length = cutBetweenLetters(text, QUOTED_LIMIT).size();
     std::size_t run = 0; // of `first` up to the cut
     while (run < length && text[length - 1 - run] == first) ++run;
     text.resize(length - run % 2);
@@ -96,7 +96,16 @@ std::string fortranText(std::string_view text) {
 
 std::string cText(std::string_view text) { return doubledLoneBackslashes(withBarsForC(escapedQuotes(text))); }
 
-std::string cFieldText(std::string_view text) { return doubledTextBackslashes(withBarsForC(escapedQuotes(text))); }
+// Rich text has its own pairs of backslashes, each a backslash that was typed: both halves count.
+std::string cFieldText(std::string_view text) {
+    if (!isRichText(text)) return doubledTextBackslashes(withBarsForC(escapedQuotes(text)));
+    std::string result;
+    for (const char c : text) {
+        if (c == '\\' || c == '"') result += '\\';
+        result += c;
+    }
+    return withBarsForC(result);
+}
 
 bool holdsEscape(std::string_view text) {
     bool found = false;

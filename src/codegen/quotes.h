@@ -6,15 +6,16 @@
 
 // A text between the quotes of Fortran: every apostrophe doubled, every line end a bar. A carriage return alone, which
 // is left where a field's width cut the text between the two halves of a line end, stays. At most 32767 bytes, cut
-// between letters.
+// between letters; rich text is never cut.
 std::string fortranText(std::string_view text);
 
 // A text between the quotes of C: a backslash ahead of every quote that has none, every line end a bar, a carriage
 // return too, since a line of C ends at it. A backslash that begins no escape of C, or ends the text, is doubled; the
-// others stay escapes. At most 32767 bytes, cut between letters.
+// others stay escapes. At most 32767 bytes, cut between letters; rich text is never cut.
 std::string cText(std::string_view text);
 
-// The same for the text of a C text widget, where every backslash means itself; see doubledTextBackslashes.
+// The same for the text of a C text widget, where every backslash means itself; see doubledTextBackslashes. Of rich text
+// each one is doubled.
 std::string cFieldText(std::string_view text);
 
 // Whether cText leaves a backslash of this text as the beginning of an escape, so that the program shows something

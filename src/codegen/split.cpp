@@ -3,7 +3,10 @@
 
 #include "codegen/split.h"
 
+#include "platform/letters.h"
+
 #include <algorithm>
+#include <cctype>
 
 const SplitRule SPLIT_FREE = {133, 126, 120, "     ", "     '", "'//", " &", '\'', false, false};
 const SplitRule SPLIT_FIXED = {74, 67, 61, "     +", "     +'", "'//", "", '\'', false, true};
@@ -15,6 +18,7 @@ namespace {
 struct LineState {
     bool inString = false;
     bool escaping = false;   // the last character is a backslash that takes the next one with it
+    std::size_t escape = 0;  // where the last escape of a string begins
     std::size_t breakAt = 0; // behind the last comma or bracket outside of strings; 0 for none
 };
 
@@ -27,6 +31,7 @@ LineState readLine(std::string_view taken, bool continuesString, const SplitRule
             state.escaping = false;
         } else if (state.inString && rule.backslashes && c == '\\') {
             state.escaping = true;
+            state.escape = i;
         } else if (c == rule.quote) {
             state.inString = !state.inString;
         } else if (!state.inString && (c == ',' || c == '(')) {
@@ -34,6 +39,31 @@ LineState readLine(std::string_view taken, bool continuesString, const SplitRule
         }
     }
     return state;
+}
+
+bool isOctal(char c) { return c >= '0' && c <= '7'; }
+bool isHex(char c) { return std::isxdigit(static_cast<unsigned char>(c)) != 0; }
+
+// Behind the escape of a string that begins at `at`.
+std::size_t endOfEscape(std::string_view text, std::size_t at) {
+    constexpr std::size_t OCTAL_DIGITS = 3;
+    const std::size_t first = at + 1;
+    std::size_t end = first;
+    if (end < text.size() && text[end] == 'x') {
+        for (++end; end < text.size() && isHex(text[end]);) ++end;
+    } else {
+        while (end < text.size() && end < first + OCTAL_DIGITS && isOctal(text[end])) ++end;
+    }
+    return std::max(end, first + 1);
+}
+
+// As many characters of a string as part neither a letter of several bytes nor the number of an escape; 0 when that
+// leaves none.
+std::size_t wholeLength(std::string_view rest, std::size_t length, const LineState& state, const SplitRule& rule) {
+    const bool numbered = rule.backslashes && state.escape != 0 && endOfEscape(rest, state.escape) > length;
+    // A backslash ahead of anything else takes it along, see below.
+    if (numbered && (isOctal(rest[state.escape + 1]) || rest[state.escape + 1] == 'x')) return state.escape;
+    return cutBetweenLetters(rest, length).size();
 }
 
 struct Break {
@@ -46,6 +76,8 @@ Break findBreak(std::string_view rest, std::size_t length, bool continuesString,
     const LineState state = readLine(rest.substr(0, length), continuesString, rule);
     const bool quoteNext = rest[length] == rule.quote;
     if (state.inString) {
+        const std::size_t whole = wholeLength(rest, length, state, rule);
+        if (whole != 0 && whole < length) return {whole, true};
         if (state.escaping) return {length + 1, true}; // a break never parts a backslash from what it takes
         const bool doubledNext = !rule.backslashes && rest[length + 1] == rule.quote;
         if (!quoteNext || doubledNext) return {length, true};

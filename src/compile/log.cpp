@@ -3,6 +3,7 @@
 #include "compile/catalogue.h"
 #include "compile/hooks.h"
 #include "compile/navigation.h"
+#include "platform/letters.h"
 
 #include <algorithm>
 #include <array>
@@ -126,11 +127,7 @@ std::string plainLogLine(const std::string& bytes) {
     return line;
 }
 
-std::string logEntry(const std::string& line) {
-    size_t length = std::min(line.size(), LOG_ENTRY_LIMIT);
-    while (length < line.size() && length > 0 && (static_cast<unsigned char>(line[length]) & 0xC0U) == 0x80U) length--;
-    return line.substr(0, length);
-}
+std::string logEntry(const std::string& line) { return std::string(cutBetweenLetters(line, LOG_ENTRY_LIMIT)); }
 
 bool readLog(const std::string& path, int compilerProfile, CompilerLog& log) {
     log = {};

@@ -5,6 +5,7 @@
 #include "compile/hooks.h"
 #include "compile/log.h"
 #include "compile/markers_search.h"
+#include "platform/letters.h"
 #include "platform/text_files.h"
 #include "project/code_stores.h"
 #include "project/host.h"
@@ -135,15 +136,13 @@ CodeLocation findByMap(int line, int column) {
     return location.widget ? location : endOfCodeAhead(line);
 }
 
-bool startsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }
-
 // gfortran counts bytes. g++ counts what a screen shows: tabs reach to the next eighth.
 int characterColumn(std::string_view line, int told, bool asShown) {
     constexpr int TAB = 8;
     int column = 0;
     int counted = 0;
     for (size_t at = 0; at < line.size() && counted < told; at++) {
-        bool starts = startsCharacter(line[at]);
+        bool starts = !continuesLetter(line[at]);
         if (starts) column++;
         if (asShown && line[at] == '\t') {
             counted = counted / TAB * TAB + TAB;

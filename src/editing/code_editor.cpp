@@ -186,6 +186,7 @@ void showBoundCode() {
 }
 
 void commitEditor() {
+    takeTypedText();
     if (!editor.text || !codeEditing.codeModified) return;
     const TextRange range = selectionOf(editor.text);
     commitCode(textOf(editor.text), range.start, range.end);

@@ -1,3 +1,4 @@
+#include "platform/letters.h"
 #include "project/code_stores.h"
 #include "project/host.h"
 #include "project/records_io.h"
@@ -47,7 +48,7 @@ void writeSlot(FileWriter& writer, const CallbackSlot& slot) {
 }
 
 void writeFields(FileWriter& writer, WidgetNode& node) {
-    if (node.text.size() > TEXT_LIMIT) node.text.resize(TEXT_LIMIT);
+    node.text.resize(cutBetweenLetters(node.text, TEXT_LIMIT).size());
     if (!widthIsUsers(node.type)) node.fieldWidth = static_cast<int>(node.text.size());
     for (const FieldRow& row : recordFields()) writeField(writer, node, row);
     for (const SlotPlace& place : slotFileOrder) writeSlot(writer, node.slots[place.slot]);

@@ -1,5 +1,7 @@
 #include "project/stream.h"
 
+#include "platform/letters.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -172,7 +174,7 @@ void readText(FileReader& reader, std::string& value, std::int64_t bytes, std::s
         text.append(part, length);
         open = length == count;
     }
-    if (text.size() > limit) text.resize(limit);
+    text.resize(cutBetweenLetters(text, limit).size());
     value = std::move(text);
 }
 
@@ -215,18 +217,14 @@ void writeReal(FileWriter& writer, float value, FieldKind kind) {
 }
 
 void writeString(FileWriter& writer, const std::string& value, std::size_t bytes) {
-    std::size_t length = strnlen(value.c_str(), std::min(bytes - 1, value.size()));
-    const auto insideCharacter = [&](std::size_t at) {
-        return (static_cast<unsigned char>(value[at]) & 0xC0U) == 0x80U;
-    };
-    if (length == bytes - 1)
-        while (length > 0 && insideCharacter(length)) --length; // no half of a character at the end
-    std::memcpy(room(writer, bytes), value.data(), length);
+    const std::string_view text = cutBetweenLetters(value.c_str(), bytes - 1); // up to a NUL
+    std::memcpy(room(writer, bytes), text.data(), text.size());
 }
 
-void writeText(FileWriter& writer, const std::string& value, std::size_t bytes) {
+void writeText(FileWriter& writer, std::string_view value, std::size_t bytes) {
+    value = cutBetweenLetters(value, bytes);
     if (bytes <= 4096) {
-        std::memcpy(room(writer, bytes), value.data(), std::min(bytes, value.size()));
+        std::memcpy(room(writer, bytes), value.data(), value.size());
         return;
     }
     constexpr std::size_t PART = 4096;

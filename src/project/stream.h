@@ -50,5 +50,5 @@ void writeNumber(FileWriter& writer, int value);
 void writeEntrySize(FileWriter& writer, int value); // with a line end behind the digits
 void writeReal(FileWriter& writer, float value, FieldKind kind);
 void writeString(FileWriter& writer, const std::string& value, std::size_t bytes = STR_BYTES);
-void writeText(FileWriter& writer, const std::string& value, std::size_t bytes); // padded, or cut
+void writeText(FileWriter& writer, std::string_view value, std::size_t bytes); // padded, or cut between letters
 void writeKeyword(FileWriter& writer, Keyword keyword);

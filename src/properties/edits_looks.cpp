@@ -2,6 +2,7 @@
 #include "properties/edits.h"
 
 #include "menu-c.h"
+#include "platform/letters.h"
 #include "project/host.h"
 #include "project/tree.h"
 #include "surface/live.h"
@@ -93,7 +94,7 @@ void editColour(WidgetNode& target, const PropertyRow& row, const CellInput& inp
 }
 
 void editFontFace(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
-    target.fontFace = input.text.substr(0, NAME_LIMIT);
+    target.fontFace = cutBetweenLetters(input.text, NAME_LIMIT);
     if (target.handle > 0) owSetFontAttribs(target.handle, owFontFace, target.fontFace.c_str(), 0);
     storeAndFollow(target, row, {.text = target.fontFace});
 }

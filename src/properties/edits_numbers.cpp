@@ -1,6 +1,7 @@
 #include "properties/edits.h"
 
 #include "menu-c.h"
+#include "surface/field_text.h"
 #include "surface/live.h"
 #include "surface/state.h"
 
@@ -11,21 +12,9 @@
 
 namespace {
 
-constexpr size_t RICH_RESERVE = 24;
 constexpr int DECIMAL_RESERVE = 2; // sign and point of a number beside its decimals
 
 bool showsWholeNumbers(const WidgetNode& n) { return n.type == TYPE_GAUGE || n.type == TYPE_PROGRESS_BAR; }
-
-// Takes the text from the live widget, cut to the length that the field has now.
-void readBackText(WidgetNode& node) {
-    std::string text(TEXT_LIMIT + 1, '\0');
-    const bool rich = node.subType == ORICHEDIT;
-    owEnqTextSetting(node.handle, text.data(), static_cast<int>(text.size()), owEntryType, rich ? 1 : 0, 0);
-    text.resize(text.find('\0'));
-    const size_t limit = std::abs(node.fieldWidth);
-    if (text.size() > limit) text.resize(rich ? std::max(limit, RICH_RESERVE) - RICH_RESERVE : limit);
-    node.text = text;
-}
 
 void setLiveValue(const WidgetNode& node, float value) {
     switch (node.type) {
@@ -79,7 +68,7 @@ void editTextFieldWidth(WidgetNode& target, const PropertyRow&, const CellInput&
     const int width = std::abs(static_cast<int>(input.number));
     const bool scrolls = target.type == TYPE_TEXT_ENTRY && target.fieldWidth < 0;
     target.fieldWidth = scrolls ? -width : width;
-    if (!design.defaultsMode) readBackText(target);
+    if (!design.defaultsMode) storeFieldText(target, liveText(target, target.subType == ORICHEDIT));
     rebuildLive(target);
     markEdited();
 }

@@ -1,9 +1,11 @@
 #include "properties/edits.h"
 
 #include "menu-c.h"
+#include "platform/letters.h"
 #include "project/host.h"
 #include "project/placement.h"
 #include "project/tree.h"
+#include "surface/field_text.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/selection.h"
@@ -14,8 +16,7 @@
 
 namespace {
 
-constexpr size_t RICH_RESERVE = 24; // characters that rich text needs beyond what shows
-constexpr size_t CELL_LIMIT = 256;  // a longer text can't be edited in a cell
+constexpr size_t CELL_LIMIT = 256; // a longer text can't be edited in a cell
 
 bool isText(const WidgetNode& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL; }
 
@@ -41,16 +42,9 @@ void setLiveLabel(const WidgetNode& node) {
     OWIDGET info = {};
     setGridMode(design.defaultsMode ? 0 : project.gridMode);
     owEnqWidgetInfo(node.handle, &info);
-    info.text[node.text.copy(info.text, sizeof info.text - 1)] = 0;
+    info.text[cutBetweenLetters(node.text, sizeof info.text - 1).copy(info.text, sizeof info.text)] = 0;
     owSetWidgetInfo(node.handle, &info);
     setGridMode(0);
-}
-
-std::string cutToField(const WidgetNode& node, std::string text) {
-    const size_t limit = std::abs(node.fieldWidth);
-    if (text.size() > limit)
-        text.resize(node.subType == ORICHEDIT ? std::max(limit, RICH_RESERVE) - RICH_RESERVE : limit);
-    return text;
 }
 
 bool acceleratorTaken(const WidgetNode& target, int key) {
@@ -88,7 +82,7 @@ void editText(WidgetNode& target, const PropertyRow&, const CellInput& input) {
             host.infoBox("Edit text property", "Use ... button to edit long strings");
             return;
         }
-        target.text = cutToField(target, input.text);
+        if (!storeFieldText(target, input.text)) return;
         owSetTextSetting(target.handle, target.text.c_str(), owEntryType, target.subType == ORICHEDIT ? 1 : 0, 0);
     } else {
         target.text = input.text;
@@ -118,7 +112,10 @@ void editBubbleHelp(WidgetNode& target, const PropertyRow&, const CellInput& inp
 }
 
 void editAccelerator(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
-    const int key = input.text.empty() ? 0 : static_cast<unsigned char>(input.text[0]);
+    constexpr char32_t KEYS = 0x10000; // letters beyond have no key
+    const char32_t letter = firstLetter(input.text);
+    if (letter >= KEYS) return;
+    const int key = static_cast<int>(letter);
     const bool shared = project.projectPlatform == 'w';
     if (!shared && key > ' ' && acceleratorTaken(target, key)) {
         host.infoBox("Duplicate Accelerator Key", "Accelerator key already in use by another widget");

@@ -1,8 +1,10 @@
 #include "properties/edits.h"
 
 #include "menu-c.h"
+#include "platform/letters.h"
 #include "project/host.h"
 #include "project/placement.h"
+#include "surface/field_text.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/state.h"
@@ -18,13 +20,6 @@ constexpr int LONGEST_STANDARD = 30000, LONGEST_RICH = 32767, LINE = 255; // fie
 // Money comes in negative forms of its own; every other number has just one.
 bool takesSign(const WidgetNode& n) { return n.subType >= OPOUND && n.subType <= OYEN; }
 bool keepsSign(const WidgetNode& n) { return n.subType >= OPOUND && n.subType <= OEURO; }
-
-std::string plainText(const WidgetNode& node) {
-    std::string text(TEXT_LIMIT + 1, '\0');
-    owEnqTextSetting(node.handle, text.data(), static_cast<int>(text.size()), owEntryType, 0, 0);
-    text.resize(std::min<size_t>(text.find('\0'), std::abs(node.fieldWidth)));
-    return text;
-}
 
 void dressRichText(const WidgetNode& n) {
     owSetTextSetting(n.handle, n.text.c_str(), owEntryType, 1, 0);
@@ -79,7 +74,7 @@ void editTextType(WidgetNode& target, const PropertyRow&, const CellInput& input
                                            BOX_WARNING, BOX_OK_CANCEL);
         if (answer != ANSWER_OK) return;
         if (!design.defaultsMode) {
-            target.text = plainText(target);
+            target.text = cutBetweenLetters(liveText(target, false), static_cast<size_t>(std::abs(target.fieldWidth)));
             owSetTextSetting(target.handle, target.text.c_str(), 0);
         }
     }

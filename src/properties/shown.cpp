@@ -1,4 +1,5 @@
 // What the cells of the property sheet show.
+#include "platform/letters.h"
 #include "properties/rows.h"
 #include "surface/live.h"
 #include "surface/state.h"
@@ -93,7 +94,7 @@ std::string shownText(const WidgetNode& widget, const PropertyRow& row) {
         if (project.projectPlatform != 'w' || widget.type == TYPE_LIST_BOX || widget.type == TYPE_SLIDER)
             return NOT_USED;
         break;
-    case ROW_ACCELERATOR: return widget.accel > 0 ? std::string(1, static_cast<char>(widget.accel)) : "";
+    case ROW_ACCELERATOR: return letterText(widget.accel > 0 ? static_cast<char32_t>(widget.accel) : 0);
     case ROW_SCROLLABLE: return widget.fieldWidth < 1 ? "On" : "Off";
     case ROW_FONT_FACE: return isTabPage(widget) ? widget.parent->fontFace : widget.fontFace;
     case ROW_POINT_SIZE: return std::to_string(isTabPage(widget) ? widget.parent->pointSize : widget.pointSize);

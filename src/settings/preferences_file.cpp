@@ -1,5 +1,6 @@
 #include "settings/preferences_file.h"
 
+#include "platform/letters.h"
 #include "platform/text_files.h"
 #include "project/host.h"
 #include "project/preferences.h"
@@ -61,16 +62,8 @@ static void takeField(Preferences& values, const PreferenceField& field, const s
     values.*field.number = field.kind == FIELD_NEGATED ? number == 0 : static_cast<int>(number);
 }
 
-// As many bytes as the slot has room for, without half of a character at their end.
-static std::size_t bytesOfCharacters(const std::string& text) {
-    std::size_t bytes = std::min(text.size(), SLOT_BYTES - 1);
-    const auto inside = [&](std::size_t at) { return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U; };
-    while (bytes > 0 && bytes < text.size() && inside(bytes)) bytes--;
-    return bytes;
-}
-
 static std::string fieldText(const Preferences& values, const PreferenceField& field) {
-    if (field.kind == FIELD_TEXT) return values.configDirExpr.substr(0, bytesOfCharacters(values.configDirExpr));
+    if (field.kind == FIELD_TEXT) return std::string(cutBetweenLetters(values.configDirExpr, SLOT_BYTES - 1));
     const int number = values.*field.number;
     return std::to_string(field.kind == FIELD_NEGATED ? static_cast<int>(number == 0) : number);
 }

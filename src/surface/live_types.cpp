@@ -1,6 +1,8 @@
 // The creation calls, one function and one row for each type.
 #include "surface/live_types.h"
 
+#include "codegen/quotes.h"
+
 #include "menu-c.h"
 #include "project/tree.h"
 #include "surface/commands.h"
@@ -47,19 +49,29 @@ int createToggle(const WidgetNode& n, int parent) {
                                 n.tabList, PLACED(n), HELPED(n), owCallback, CMD_TOGGLED, 0);
 }
 
+// As a program gets it: line ends as bars, which are lines again where there is room for them.
+std::string textOfCall(const WidgetNode& n) { return n.subType == ORICHEDIT ? n.text : withBars(n.text); }
+
+// What fills a pane has room for lines whatever height its record keeps.
+int heightOfText(const WidgetNode& n) {
+    const bool fillsPane = n.parent && n.parent->type == TYPE_PANE && n.expand != 0 && n.vpos == 0;
+    return fillsPane ? 0 : n.height;
+}
+
 int createTextEntry(const WidgetNode& n, int parent) {
-    return owCreateTextEntry(parent, BOX(n), n.text.c_str(), n.fieldWidth, n.editMode, owEntryType, n.subType,
-                             owTextMargin, n.sign, owSize, n.size, owBorderType, n.borderType, ENTRY_COLOURS(n),
-                             owScrollMode, n.scrollMode, owJustify, n.justify, owOLEInserts, n.oleInserts, owReadOnly,
-                             n.readOnly, owAutoURL, n.autoUrl, owTabList, n.tabList, PLACED(n), HELPED(n), owCallback,
-                             CMD_TEXT_EDITED, owSelectCallback, CMD_TEXT_SELECTED, 0);
+    return owCreateTextEntry(parent, n.xpos, n.ypos, n.width, heightOfText(n), textOfCall(n).c_str(), n.fieldWidth,
+                             n.editMode, owEntryType, n.subType, owTextMargin, n.sign, owSize, n.size, owBorderType,
+                             n.borderType, ENTRY_COLOURS(n), owScrollMode, n.scrollMode, owJustify, n.justify,
+                             owOLEInserts, n.oleInserts, owReadOnly, n.readOnly, owAutoURL, n.autoUrl, owTabList,
+                             n.tabList, PLACED(n), HELPED(n), owCallback, CMD_TEXT_EDITED, owSelectCallback,
+                             CMD_TEXT_SELECTED, 0);
 }
 
 int createTextLabel(const WidgetNode& n, int parent) {
-    return owCreateTextEntry(parent, BOX(n), n.text.c_str(), n.fieldWidth, n.editMode, owEntryType, n.subType,
-                             owTextMargin, n.sign, owSize, n.size, owBorderType, n.borderType, ENTRY_COLOURS(n),
-                             owScrollMode, n.scrollMode, owJustify, n.justify, owAutoURL, n.autoUrl, PLACED(n),
-                             HELPED(n), owSelectCallback, AUTOMATIC, 0);
+    return owCreateTextEntry(parent, n.xpos, n.ypos, n.width, heightOfText(n), textOfCall(n).c_str(), n.fieldWidth,
+                             n.editMode, owEntryType, n.subType, owTextMargin, n.sign, owSize, n.size, owBorderType,
+                             n.borderType, ENTRY_COLOURS(n), owScrollMode, n.scrollMode, owJustify, n.justify,
+                             owAutoURL, n.autoUrl, PLACED(n), HELPED(n), owSelectCallback, AUTOMATIC, 0);
 }
 
 int createValueEntry(const WidgetNode& n, int parent) {

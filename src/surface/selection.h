@@ -47,10 +47,12 @@ enum class Band { Still, Empty, Caught }; // the pointer didn't move; nothing la
 Band endRubberBand(WidgetNode& panel, int x, int y);
 
 // Handlers of the commands of the surface. Each runs once for its identifier, before designEvent.
-void newFormCommand();       // CMD_NEW_FORM
-void movedCommand();         // CMD_MOVED
-void doubleClickCommand();   // CMD_DOUBLE_CLICK
-void unadoptCommand();       // CMD_UNADOPT
+void newFormCommand();     // CMD_NEW_FORM
+void movedCommand();       // CMD_MOVED
+void doubleClickCommand(); // CMD_DOUBLE_CLICK
+void unadoptCommand();     // CMD_UNADOPT
+// What the user has typed into the selected text entry and not left yet goes into its record.
+void takeTypedText();
 void textEditedCommand();    // CMD_TEXT_EDITED
 void entrySelectedCommand(); // CMD_TEXT_SELECTED, CMD_VALUE_SELECTED
 void valueEditedCommand();   // CMD_VALUE_EDITED

@@ -6,6 +6,7 @@
 #include "project/tree.h"
 #include "surface/commands.h"
 #include "surface/event.h"
+#include "surface/field_text.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/state.h"
@@ -15,19 +16,6 @@
 #include <string>
 
 namespace {
-
-constexpr int RICH_RESERVE = 24; // characters that rich text needs beyond what shows
-
-// What a live text widget holds, cut to the length of its field.
-std::string readText(const WidgetNode& node) {
-    std::string text(TEXT_LIMIT + 1, '\0');
-    const bool rich = node.subType == ORICHEDIT;
-    owEnqTextSetting(node.handle, text.data(), static_cast<int>(text.size()), owEntryType, rich ? 1 : 0, 0);
-    text.resize(text.find('\0'));
-    const size_t limit = std::abs(node.fieldWidth);
-    if (text.size() > limit) text.resize(rich ? std::max<size_t>(limit, RICH_RESERVE) - RICH_RESERVE : limit);
-    return text;
-}
 
 bool showsItself(const WidgetNode& node) { return &node == project.currentWidget; }
 
@@ -58,19 +46,30 @@ void takeSwitch(WidgetNode& toggle) {
     markChanged();
 }
 
+// The text of the live widget goes into its record; true when that holds it now.
+bool takeText(WidgetNode& node) {
+    const std::string before = node.text;
+    if (!storeFieldText(node, liveText(node, node.subType == ORICHEDIT))) return false;
+    if (node.text == before) return true;
+    if (showsItself(node)) hooks.refreshProperties();
+    markChanged();
+    return true;
+}
+
 } // namespace
+
+void takeTypedText() {
+    WidgetNode* node = project.currentWidget;
+    if (node && node->type == TYPE_TEXT_ENTRY && node->handle > 0 && owTextUndoAction(node->handle, OCANUNDO))
+        takeText(*node);
+}
 
 void textEditedCommand() {
     WidgetNode* node = findHandle(action.widget);
-    if (!node || node->type != TYPE_TEXT_ENTRY || !showsItself(*node)) return;
-    const std::string text = readText(*node);
-    if (text == node->text) return;
-    node->text = text;
-    owSetTextSetting(node->handle, text.c_str(), owEntryType, node->subType == ORICHEDIT ? 1 : 0, 0);
+    if (!node || node->type != TYPE_TEXT_ENTRY || !takeText(*node)) return;
+    owSetTextSetting(node->handle, node->text.c_str(), owEntryType, node->subType == ORICHEDIT ? 1 : 0, 0);
     const bool lines = !isSingleLine(*node) && node->subType != ORICHEDIT;
     if (lines && node->justify != OLEFT) owSetParagraphProp(node->handle, owJustify, node->justify, 0);
-    hooks.refreshProperties();
-    markChanged();
 }
 
 void entrySelectedCommand() {

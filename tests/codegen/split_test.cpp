@@ -97,6 +97,23 @@ TEST(Split, NeverPartsABackslashFromWhatItTakes) {
               (Lines{filled("f(\"", 'x', 1015, "\\\\\""), "     , 0);" + std::string(20, 'y')}));
 }
 
+TEST(Split, NeverPartsALetterOrTheNumberOfAnEscape) {
+    const std::string accent = "\xc3\xa9";
+    const std::string ideogram = "\xe6\x97\xa5";
+    EXPECT_EQ(split(filled("f('", 'x', 125, accent + std::string(20, 'y') + "')"), SPLIT_FREE),
+              (Lines{filled("f('", 'x', 125, "'// &"), "     '" + accent + std::string(20, 'y') + "')"}));
+    EXPECT_EQ(split(filled("f('", 'x', 65, ideogram + std::string(20, 'y') + "')"), SPLIT_FIXED),
+              (Lines{filled("f('", 'x', 65, "'//"), "     +'" + ideogram + std::string(20, 'y') + "')"}));
+    for (const char* escape : {"\\101", "\\x41", "\\7", "\\x4A5"}) {
+        for (std::size_t taken = 1012; taken < 1018; ++taken) {
+            const std::string line = filled("f(\"", 'x', taken, escape + std::string(20, 'y') + "\")");
+            int whole = 0;
+            for (const std::string& part : split(line, SPLIT_C)) whole += part.find(escape) != std::string::npos;
+            EXPECT_EQ(whole, 1) << escape << " behind " << taken;
+        }
+    }
+}
+
 // Joined again by the rules of the language, every split statement is what it was, and no line is too long.
 TEST(Split, LosesNothing) {
     for (std::size_t length = 60; length < 420; ++length) {

@@ -127,6 +127,13 @@ TEST(Quotes, ATextIsCutBetweenLetters) {
     }
 }
 
+TEST(Quotes, RichTextStaysWhole) {
+    EXPECT_EQ(cFieldText(R"({\rtf1 a\\b "c"\par})"), R"({\\rtf1 a\\\\b \"c\"\\par})");
+    const std::string text = "{\\rtf1 " + std::string(TEXT_LIMIT - 10, '\'') + "}";
+    EXPECT_EQ(fortranText(text).size(), text.size() + TEXT_LIMIT - 10);
+    EXPECT_TRUE(cFieldText(text).ends_with("'}"));
+}
+
 TEST(Quotes, LoneLineFeedsOfRichTextMeanNothing) {
     struct Case {
         const char* stored;

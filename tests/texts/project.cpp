@@ -141,6 +141,13 @@ void addTexts(Maker& m, WidgetNode& form) {
         lines.text = m.type("Text of lines " + lines.name, "text", barsAsLines, LONGEST, true);
         line.text = m.type("Text of one line " + line.name, "text", asIs, LONGEST, true);
     }
+    WidgetNode& rich = m.add(form, TYPE_TEXT_ENTRY, 120, 60); // as the designer writes what is typed into it
+    rich.subType = 1;
+    rich.fieldWidth = LONGEST;
+    rich.text =
+        "{\\rtf1\\ansi\\uc1{\\fonttbl{\\f0\\fnil Sans;}}{\\colortbl ;}\n\\pard \\plain\\f0\\fs18 it's \"one\" | " +
+        form.name + "\\par\n\\pard \\plain\\f0\\fs18 \\{two\\} \\\\ three\n}";
+    m.note("Rich text", "text", "it's \"one\" | " + form.name + "\n{two} \\ three");
     WidgetNode& roll = m.add(form, TYPE_TTY_ENTRY, 120, 60);
     roll.text = m.typing(3000);
     roll.icon = m.typing(CAPTION);

@@ -75,6 +75,24 @@ TEST_F(RichText, WritesWhatItReads) {
     EXPECT_EQ(writeRtf(third), writeRtf(second));
 }
 
+// A line end of the source arrives as a bar; a bar of the text stays one.
+TEST_F(RichText, BarsOfItsSourceAreLineEnds) {
+    struct Case {
+        const char *source, *shown;
+    };
+    for (const Case& c :
+         {Case{R"({\rtf1\ansi{\fonttbl{\f0 Sans;}}|{\colortbl ;}|\viewkind4\uc1\pard\f0\fs20 one\par|two\par|})",
+               "one\ntwo"},
+          Case{R"({\rtf1\pard one\b|two})", "onetwo"}, Case{R"({\rtf1\pard\f0 a|b\par||c})", "a|b\nc"},
+          Case{R"({\rtf1\pard |a|\par| b})", "|a|\n b"}, Case{R"({\rtf1\pard a\\par|b})", "a\\par|b"},
+          Case{R"({\rtf1\pard {\b a}|b}|)", "a|b"}}) {
+        QTextDocument document;
+        QTextCursor cursor(&document);
+        insertRtf(cursor, QByteArray::fromStdString(withSourceLines(c.source)), {});
+        EXPECT_EQ(document.toPlainText().trimmed().toStdString(), QString(c.shown).trimmed().toStdString()) << c.source;
+    }
+}
+
 TEST_F(RichText, EndsInSomeTextWhateverTheBytes) {
     for (int length = 0; length < sample.size(); length += 3) {
         QTextDocument document;

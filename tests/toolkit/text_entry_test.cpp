@@ -70,6 +70,18 @@ TEST_F(TextEntries, BarsOfTheCreationCallAreLinesWhereThereIsRoom) {
     EXPECT_EQ(text(set), "a|b");
 }
 
+TEST_F(TextEntries, RichTextOfASourceShowsNoBarsForItsLineEnds) {
+    const int text = entry("{\\rtf1\\pard one | two\\par|three}", 80, ORICHEDIT);
+    EXPECT_EQ(field(text)->property("plainText").toString(), "one | two\nthree");
+}
+
+TEST_F(TextEntries, AFieldWidthPartsNoLetter) {
+    const int text = owCreateTextEntry(panel, 0, 0, 200, 22, "ab\xf0\x9f\x98\x80", 3, OEDIT, 0);
+    EXPECT_EQ(::Program::text(text), "ab");
+    owSetTextSetting(text, "\xf0\x9f\x98\x80\xf0\x9f\x98\x80", 0);
+    EXPECT_EQ(::Program::text(text), "\xf0\x9f\x98\x80");
+}
+
 TEST_F(TextEntries, AnswersForPositionsAndLines) {
     const int rich = entry("", 80, ORICHEDIT), plain = entry("", 80);
     for (int handle : {rich, plain}) owSetTextSetting(handle, "one\r\n\r\nthree\nend", 0);

@@ -3,6 +3,7 @@
 
 #include "toolkit/families/family_support.h"
 #include "toolkit/views/text/program_text.h"
+#include "toolkit/views/text/rtf.h"
 
 #include <QApplication>
 #include <cmath>
@@ -154,10 +155,12 @@ const Family textEntries{.name = "text entry",
                          .naturalSize = naturalSize,
                          .coloursChanged = coloursChanged};
 
-// Bars in the text of a creation call are line breaks, except in rich text, where they are text.
+// Bars in the text of a creation call are line breaks. In rich text they are text, but for those that can only have
+// been line ends of its source; see withSourceLines.
 std::string createdText(const Arguments& call, bool singleLine) {
     std::string text(trimmedBytes(call.bytes(5)));
-    if (!singleLine && !text.starts_with("{\\rtf")) std::replace(text.begin(), text.end(), '|', '\n');
+    if (isRtf(QByteArray::fromRawData(text.data(), qsizetype(text.size())))) return withSourceLines(text);
+    if (!singleLine) std::replace(text.begin(), text.end(), '|', '\n');
     return text;
 }
 

@@ -15,6 +15,14 @@
 namespace orba {
 namespace {
 
+// A length in characters can part a letter of two.
+void dropHalfLetter(QLineEdit& line) {
+    QString text = line.text();
+    if (text.isEmpty() || !text.back().isHighSurrogate()) return;
+    text.chop(1);
+    line.setText(text);
+}
+
 constexpr int plainMargin = 3; // pixels around the text of many lines
 
 // A text edit whose clipboard also speaks RTF.
@@ -157,6 +165,7 @@ void TextEntry::showOptions() {
         line_->setEchoMode(options_.kind == TextKind::Security ? QLineEdit::Password : QLineEdit::Normal);
         line_->setReadOnly(!editable);
         line_->setMaxLength(options_.limit > 0 && !options_.label ? options_.limit : std::numeric_limits<int>::max());
+        dropHalfLetter(*line_);
         line_->setTextMargins(options_.margin, 0, options_.margin, 0);
         if (options_.label) line_->setCursor(Qt::ArrowCursor);
         line_->setContextMenuPolicy(options_.label ? Qt::NoContextMenu : Qt::DefaultContextMenu);
@@ -394,6 +403,7 @@ void TextEntry::setText(std::string_view text, bool asRtf) {
         QString content = fromProgram(text);
         content.replace(QLatin1String("\r\n"), QLatin1String(" "));
         line_->setText(content);
+        dropHalfLetter(*line_);
         if (!line_->hasFocus()) line_->setCursorPosition(0);
         return;
     }
