@@ -15,20 +15,22 @@ function(add_room name)
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
-  room_includes(${name} ${name} ${CMAKE_CURRENT_SOURCE_DIR})
+  room_includes(${name} PUBLIC ${name} ${CMAKE_CURRENT_SOURCE_DIR})
   if(ROOM_LINKS)
     target_link_libraries(${name} PUBLIC ${ROOM_LINKS})
   endif()
 endfunction()
 
-# room_includes(TARGET NAME FOLDER) lets whoever links TARGET write #include "NAME/...", which resolves in FOLDER.
-function(room_includes target name folder)
+# room_includes(TARGET VISIBILITY NAME FOLDER) lets whoever links TARGET write #include "NAME/...", which resolves in
+# FOLDER. NAME may have several parts.
+function(room_includes target visibility name folder)
   set(root ${PROJECT_BINARY_DIR}/rooms/${name})
-  file(MAKE_DIRECTORY ${root})
+  get_filename_component(parent ${root}/${name} DIRECTORY)
+  file(MAKE_DIRECTORY ${parent})
   if(NOT EXISTS ${root}/${name})
     file(CREATE_LINK ${folder} ${root}/${name} SYMBOLIC COPY_ON_ERROR)
   endif()
-  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${root}>)
+  target_include_directories(${target} ${visibility} $<BUILD_INTERFACE:${root}>)
 endfunction()
 
 # add_room_tests(NAME LINKS targets...) makes the test program NAME_tests from every source of the current folder

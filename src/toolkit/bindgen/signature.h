@@ -1,7 +1,7 @@
 // The argument lists of the function table taken apart, for the generators of bindings. No Qt.
 #pragma once
 
-#include "toolkit/keywords/function_table.h"
+#include "toolkit/tables/function_table.h"
 
 #include <string>
 #include <vector>

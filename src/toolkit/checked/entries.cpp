@@ -1,7 +1,7 @@
 #include "toolkit/checked/entries.h"
 
-#include "toolkit/checked/report.h"
 #include "toolkit/frame/frame.h"
+#include "toolkit/frame/report.h"
 #include "toolkit/frame/session.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 // Menu bars, pull-down and pop-up menus, their entries and separators.
-#include "toolkit/families/windows.h"
-#include "toolkit/frame/frame.h"
+#include "toolkit/families/menus.h"
+
+#include "toolkit/frame/windows.h"
 #include "toolkit/views/icons/icons.h"
 #include "toolkit/views/text/tip_text.h"
 

@@ -2,6 +2,7 @@
 #include "toolkit/families/main_window.h"
 #include "toolkit/frame/core.h"
 #include "toolkit/frame/frame.h"
+#include "toolkit/frame/windows.h"
 #include "toolkit/views/text/tip_text.h"
 
 #include <QHelpEvent>

@@ -1,53 +1,23 @@
-#include "toolkit/families/windows.h"
+// Master windows and dialogue boxes: creation, properties, status, and the routines on windows.
+#include "toolkit/frame/windows.h"
 
 #include "toolkit/frame/frame.h"
 #include "toolkit/frame/session.h"
 #include "toolkit/views/icons/icons.h"
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QCursor>
-#include <QLayout>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
-#include <QMenuBar>
-#include <QScreen>
-#include <QStatusBar>
-#include <QTimer>
-#include <QWindow>
 
 #include <algorithm>
 
 namespace orba {
 namespace {
 
-// How long geometry changes after a change by the program count as the window manager's answer to it.
-constexpr int SETTLING_MILLISECONDS = 400;
-constexpr int ACTIVATION_RETRY = 120; // milliseconds
 constexpr int NATURAL_WIDTH = 320;
 constexpr int NATURAL_HEIGHT = 240;
-
-QSize screenSize() { return QGuiApplication::primaryScreen()->geometry().size(); }
-
-WindowData& dataOfWindow(const Widget& window) { return static_cast<WindowData&>(*window.data); }
-
-Widget* windowRecord(const FormWindow& window) {
-    Widget* record = widgetOf(window.handle);
-    return record && record->view == &window ? record : nullptr;
-}
-
-void startSettling(Widget& window) { dataOfWindow(window).settling.start(); }
-
-// On a platform without window manager every change is done at once, inside the program's call.
-bool isSettling(const Widget& window) {
-    if (session.programDepth > 0) return true;
-    static const bool managed = QGuiApplication::platformName() == QLatin1String("xcb");
-    const WindowData& data = dataOfWindow(window);
-    return managed && data.settling.isValid() && data.settling.elapsed() < SETTLING_MILLISECONDS;
-}
-
-QWidget* areaOf(const Widget& window) { return static_cast<QMainWindow*>(window.view.data())->centralWidget(); }
 
 // An owned window is a dialogue to the window manager, whatever is in its title bar: it stays above its owner.
 Qt::WindowFlags flagsOf(int titleFlag, bool owned) {
@@ -65,59 +35,18 @@ Qt::WindowFlags flagsOf(int titleFlag, bool owned) {
     return flags;
 }
 
-// The place that a window is measured in: the screen, or the client area of the MDI master.
-QSize roomOf(const Widget& window) {
-    const WindowData& data = dataOfWindow(window);
-    return data.frame && data.frame->parentWidget() ? data.frame->parentWidget()->size() : screenSize();
-}
-
-QSize sizeOf(const Widget& window) {
-    const WindowData& data = dataOfWindow(window);
-    if (!data.shown || window.view->isMinimized()) return data.client;
-    return data.wholeWindow ? window.view->size() : areaOf(window)->size();
-}
-
-QPoint topLeftOf(const Widget& window) {
-    const Placement& place = window.place;
-    const QSize room = roomOf(window);
-    const QSize size = dataOfWindow(window).client;
-    int x = place.hpos == OLEFT ? place.x : room.width() - place.x - size.width();
-    int y = place.vpos == OTOP ? place.y : room.height() - place.y - size.height();
-    const int state = dataOfWindow(window).initState;
-    if (place.hpos == OCENTRE || state == OCENTRED) x = (room.width() - size.width()) / 2;
-    if (place.vpos == OMIDDLE || state == OCENTRED) y = (room.height() - size.height()) / 2;
-    if (state == OTOP) y = 0;
-    return {x, y};
-}
-
-void moveWindow(Widget& window) {
-    startSettling(window);
-    outerOf(window)->move(topLeftOf(window));
-}
-
-// Where the window stands now, measured as the program measures it.
-void readPlace(Widget& window) {
-    if (!dataOfWindow(window).shown) return;
-    const QPoint corner = outerOf(window)->pos();
-    const QSize room = roomOf(window);
-    const QSize size = sizeOf(window);
-    Placement& place = window.place;
-    place.x = place.hpos == ORIGHT ? room.width() - corner.x() - size.width() : corner.x();
-    place.y = place.vpos == OBOTTOM ? room.height() - corner.y() - size.height() : corner.y();
-}
-
 bool getWindowProperty(Widget& window, int property, Value& value) {
     switch (property) {
     case 1:
-        readPlace(window);
+        readWindowPlace(window);
         value.integer = unitsAcross(window.place.x);
         return true;
     case 2:
-        readPlace(window);
+        readWindowPlace(window);
         value.integer = unitsDown(window.place.y);
         return true;
-    case 3: value.integer = unitsAcross(sizeOf(window).width()); return true;
-    case 4: value.integer = unitsDown(sizeOf(window).height()); return true;
+    case 3: value.integer = unitsAcross(windowSize(window).width()); return true;
+    case 4: value.integer = unitsDown(windowSize(window).height()); return true;
     case 29: value.integer = window.view->isVisible() ? OSELECTABLE : OHIDDEN; return true;
     default: return false;
     }
@@ -125,7 +54,7 @@ bool getWindowProperty(Widget& window, int property, Value& value) {
 
 void setWindowState(Widget& window, int state) {
     QWidget* outer = outerOf(window);
-    dataOfWindow(window).initState = state == OMAXIMIZE || state == OMINIMIZE ? state : ONORMAL;
+    windowData(window).initState = state == OMAXIMIZE || state == OMINIMIZE ? state : ONORMAL;
     if (!outer->isVisible()) return;
     startSettling(window);
     switch (state) {
@@ -140,9 +69,9 @@ bool setWindowProperty(Widget& window, int property, const Value& value) {
         setWindowState(window, value.integer);
         return true;
     }
-    WindowData& data = dataOfWindow(window);
-    readPlace(window);
-    data.client = sizeOf(window);
+    WindowData& data = windowData(window);
+    readWindowPlace(window);
+    data.client = windowSize(window);
     data.initState = ONORMAL;
     switch (property) {
     case 1: window.place.x = pixelsAcross(value.integer); break;
@@ -152,7 +81,8 @@ bool setWindowProperty(Widget& window, int property, const Value& value) {
     case 57: window.place.hpos = value.integer; break;
     case 58: window.place.vpos = value.integer; break;
     case 64:
-        if (auto* area = qobject_cast<QMdiArea*>(areaOf(window))) area->setBackground(icons::imageFromFile(value.text));
+        if (auto* area = qobject_cast<QMdiArea*>(windowArea(window)))
+            area->setBackground(icons::imageFromFile(value.text));
         return true;
     default: return false;
     }
@@ -170,18 +100,18 @@ void setWindowStatus(Widget& window, int status) {
         return;
     }
     window.view->setEnabled(status != OUNSELECTABLE);
-    if (dataOfWindow(window).shown) showWindow(window, false);
+    if (windowData(window).shown) showWindow(window, false);
 }
 
 QString titleOf(Widget& window) { return window.view->windowTitle(); }
 
 void setTitle(Widget& window, const QString& title) {
     window.view->setWindowTitle(title);
-    if (QMdiSubWindow* frame = dataOfWindow(window).frame) frame->setWindowTitle(title);
+    if (QMdiSubWindow* frame = windowData(window).frame) frame->setWindowTitle(title);
 }
 
 void windowErased(Widget& window) {
-    WindowData& data = dataOfWindow(window);
+    WindowData& data = windowData(window);
     if (!data.frame) {
         if (window.kind == Kind::master) setSessionState(1);
         return;
@@ -198,13 +128,6 @@ const Family windows{.name = "window",
                      .setStatus = setWindowStatus,
                      .text = titleOf,
                      .setText = setTitle,
-                     .naturalSize = nullptr,
-                     .fontChanged = nullptr,
-                     .coloursChanged = nullptr,
-                     .enquireInfo = nullptr,
-                     .takeInfo = nullptr,
-                     .childAdded = nullptr,
-                     .childLeaving = nullptr,
                      .erased = windowErased};
 const Family mdiClients{.name = "client area"};
 
@@ -212,7 +135,7 @@ void setIcon(Widget& window, const QString& file, int format) {
     if (format < 0 || file.isEmpty()) return;
     const QIcon icon = icons::iconByName(file);
     window.view->setWindowIcon(icon);
-    if (QMdiSubWindow* frame = dataOfWindow(window).frame) frame->setWindowIcon(icon);
+    if (QMdiSubWindow* frame = windowData(window).frame) frame->setWindowIcon(icon);
 }
 
 // The geometry arguments begin at `first`; title flag and title stand behind them.
@@ -247,7 +170,7 @@ Widget& makeMaster(const Arguments& call, bool mdi) {
     view->setCentralWidget(area);
     Widget& master = addWidget(Kind::master, windows, nullptr, view);
     finishWindow(master, call, 0);
-    dataOfWindow(master).wholeWindow = mdi;
+    windowData(master).wholeWindow = mdi;
     master.client = area;
     knowObject(master, area);
     watch(area);
@@ -280,7 +203,7 @@ Word createDialogue(const Arguments& call) {
     return finishCreation(window, call);
 }
 
-QMdiArea* mdiAreaOf(const Widget& master) { return qobject_cast<QMdiArea*>(areaOf(master)); }
+QMdiArea* mdiAreaOf(const Widget& master) { return qobject_cast<QMdiArea*>(windowArea(master)); }
 
 Word createMdiDialogue(const Arguments& call) {
     Widget* master = widgetOf(1);
@@ -291,7 +214,7 @@ Word createMdiDialogue(const Arguments& call) {
     Widget& window = addWidget(Kind::window, windows, widgetOf(call.integer(0)), view);
     if (window.handle == 0) return 0;
     finishWindow(window, call, 1);
-    WindowData& data = dataOfWindow(window);
+    WindowData& data = windowData(window);
     // Inside a client area positions count from the top unless an origin says otherwise.
     if (!call.given(owVpos)) window.place.vpos = OTOP;
     data.frame = new QMdiSubWindow(area);
@@ -397,219 +320,5 @@ const Registration registration({
     {Fn::owGetWidgetHandle, windowByTitle},
 });
 
-// What the close box does after the event.
-void obeyQuitMode(Widget& window) {
-    if (window.kind == Kind::master || window.quitMode == OLEAVE) return;
-    outerOf(window)->hide();
-    if (window.quitMode == OREMOVE) session.doomed.push_back(window.handle);
-}
-
-void closeRequested(Widget& window) {
-    if (window.kind == Kind::master) {
-        postIdentifier(-1, window.handle, 0, OCLOSED);
-        return;
-    }
-    post(window, Slot::general, OCLOSED);
-    obeyQuitMode(window);
-}
-
-// The program made a window active: what Qt tells of it for a while is no user's doing.
-QElapsedTimer sinceActivation;
-
-void expectActivation() { sinceActivation.start(); }
-
-bool activationIsExpected() { return sinceActivation.isValid() && sinceActivation.elapsed() < SETTLING_MILLISECONDS; }
-
-void activated(Widget& window) {
-    if (!activationIsExpected() && !isSettling(window)) post(window, Slot::select, 1);
-}
-
-void deactivated(Widget& window) {
-    if (!activationIsExpected() && !QApplication::activePopupWidget()) post(window, Slot::general, OLOSTFOCUS);
-}
-
 } // namespace
-
-QWidget* outerOf(const Widget& window) {
-    QMdiSubWindow* frame = dataOfWindow(window).frame;
-    return frame ? static_cast<QWidget*>(frame) : window.view.data();
-}
-
-FormWindow* formWindowOf(Widget* widget) {
-    Widget* window = windowOf(widget);
-    return window ? static_cast<FormWindow*>(window->view.data()) : nullptr;
-}
-
-// Gives everything in a window its place now. A window that is not on the screen yet does it only when it is shown.
-static void settleLayout(QWidget& window) {
-    window.layout()->activate();
-    if (!window.isVisible()) window.layout()->setGeometry(window.rect());
-}
-
-void fitWindow(Widget& window) {
-    const WindowData& data = dataOfWindow(window);
-    auto* view = static_cast<FormWindow*>(window.view.data());
-    if (view->isMaximized() || view->isFullScreen()) return;
-    QWidget* outer = outerOf(window);
-    if (data.wholeWindow) {
-        view->resize(data.client);
-        return;
-    }
-    // The bars around the client area take what their layout gives them; the second round finds it settled.
-    for (int round = 0; round < 2; round++) {
-        if (data.frame && data.frame->layout()) settleLayout(*data.frame);
-        settleLayout(*view);
-        const QSize missing = data.client - areaOf(window)->size();
-        if (missing.isNull()) return;
-        outer->resize(outer->size() + missing);
-    }
-    settleLayout(*view);
-}
-
-void windowBarsChanged(Widget& anyWidget) {
-    Widget* window = windowOf(&anyWidget);
-    if (!window || !window->data || !window->view || dataOfWindow(*window).wholeWindow) return;
-    startSettling(*window);
-    fitWindow(*window);
-}
-
-void showWindow(Widget& window, bool front) {
-    WindowData& data = dataOfWindow(window);
-    QWidget* outer = outerOf(window);
-    if (!outer->isVisible()) {
-        startSettling(window);
-        expectActivation();
-        if (!data.shown) {
-            fitWindow(window);
-            outer->move(topLeftOf(window));
-        }
-        const bool first = !data.shown;
-        data.shown = true;
-        if (first && data.initState == OMAXIMIZE) {
-            outer->showMaximized();
-        } else if (first && data.initState == OMINIMIZE) {
-            outer->showMinimized();
-        } else {
-            outer->show();
-        }
-        window.view->show();
-        // Only on the screen do the bars have their final height.
-        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        if (first) fitWindow(window);
-    }
-    window.view->update();
-    if (!front) return;
-    if (outer->isMinimized()) outer->showNormal();
-    outer->raise();
-    if (data.frame) data.frame->mdiArea()->setActiveSubWindow(data.frame);
-}
-
-void inputByUser() {
-    sinceActivation.invalidate();
-    session.expectedFocus = 0;
-}
-
-void activateView(QWidget* view) {
-    Widget* window = windowOf(widgetAt(view));
-    if (!window) return;
-    QWidget* outer = outerOf(*window);
-    if (!outer->isVisible()) return;
-    QWidget* top = view->window(); // a floating pane is a window of its own
-    if (QMdiSubWindow* frame = dataOfWindow(*window).frame) {
-        if (frame->mdiArea()->activeSubWindow() != frame) {
-            expectActivation();
-            frame->mdiArea()->setActiveSubWindow(frame);
-        }
-    }
-    if (top->isActiveWindow()) return;
-    expectActivation();
-    session.expectedFocus = widgetAt(view)->handle;
-    top->activateWindow();
-    // A window manager refuses a request that is older than the user's last input to another window, such as the
-    // release of the click that led to it. Once that has been read, the request is made again.
-    QTimer::singleShot(ACTIVATION_RETRY, view, [view, handle = session.expectedFocus] {
-        if (session.expectedFocus != handle || view->window()->isActiveWindow()) return;
-        expectActivation();
-        view->activateWindow();
-    });
-}
-
-void raiseWindow(Widget& window) {
-    QWidget* outer = outerOf(window);
-    if (!outer->isVisible()) return;
-    outer->raise();
-    activateView(window.view);
-}
-
-void FormWindow::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    Widget* window = windowRecord(*this);
-    if (!window || inputBlocked(this)) return;
-    closeRequested(*window);
-}
-
-void FormWindow::moveEvent(QMoveEvent* event) {
-    QMainWindow::moveEvent(event);
-    Widget* window = windowRecord(*this);
-    if (!window || !window->data || isMinimized() || !isVisible() || dataOfWindow(*window).frame) return;
-    QRect& known = dataOfWindow(*window).known;
-    if (known.topLeft() == pos()) return; // the same news again
-    known.moveTopLeft(pos());
-    if (!isSettling(*window)) post(*window, Slot::general, OMOVED);
-}
-
-void FormWindow::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    Widget* window = windowRecord(*this);
-    if (!window || !window->data || isMinimized() || !isVisible()) return;
-    WindowData& data = dataOfWindow(*window);
-    if (data.known.size() == size()) return;
-    data.known.setSize(size());
-    if (isSettling(*window)) return;
-    if (!data.frame) data.client = sizeOf(*window);
-    post(*window, Slot::general, ORESIZED);
-}
-
-void FormWindow::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::WindowStateChange) return;
-    const Widget* window = windowRecord(*this);
-    if (!window || session.programDepth > 0) return;
-    const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
-    if ((before & Qt::WindowMinimized) != (windowState() & Qt::WindowMinimized))
-        post(*window, Slot::general, OMINIMIZED);
-}
-
-bool FormWindow::eventFilter(QObject* target, QEvent* event) {
-    Widget* window = windowRecord(*this);
-    if (!window || !window->data || target != dataOfWindow(*window).frame)
-        return QMainWindow::eventFilter(target, event);
-    switch (event->type()) {
-    case QEvent::Close:
-        event->ignore();
-        if (!inputBlocked(this)) closeRequested(*window);
-        return true;
-    case QEvent::Move:
-        if (dataOfWindow(*window).frame->isVisible() && !isSettling(*window)) post(*window, Slot::general, OMOVED);
-        return false;
-    case QEvent::WindowActivate: activated(*window); return false;
-    case QEvent::WindowDeactivate: deactivated(*window); return false;
-    default: return false;
-    }
-}
-
-bool FormWindow::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
-        Widget* window = windowRecord(*this);
-        if (window && window->data && !dataOfWindow(*window).frame) {
-            if (event->type() == QEvent::WindowActivate) {
-                activated(*window);
-            } else {
-                deactivated(*window);
-            }
-        }
-    }
-    return QMainWindow::event(event);
-}
-
 } // namespace orba

@@ -3,6 +3,7 @@
 // While a widget is adopted its mouse belongs to the frame. A press is held back until it turns out to be a drag or a
 // click; a click is given to the widget afterwards, so that it can still be worked.
 #include "toolkit/frame/frame.h"
+#include "toolkit/frame/windows.h"
 
 #include <QApplication>
 #include <QKeyEvent>

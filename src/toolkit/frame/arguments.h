@@ -1,7 +1,7 @@
 // The arguments of one call of a routine, as the keyword layer hands them down.
 #pragma once
 
-#include "toolkit/keywords/function_table.h"
+#include "toolkit/tables/function_table.h"
 
 #include <QString>
 

@@ -1,10 +1,8 @@
 // The colour table, fonts by the names that programs use, and small drawing helpers.
 #include "toolkit/frame/frame.h"
-#include "toolkit/views/fonts.h"
 
 #include <QApplication>
 #include <QFontMetrics>
-#include <QPainter>
 #include <QPalette>
 
 #include <array>
@@ -110,68 +108,7 @@ void setViewColour(QWidget* view, QPalette::ColorRole role, int colour) {
     view->setPalette(palette);
 }
 
-QFont fontFor(const QString& face, int pointSize) {
-    constexpr int DESKTOP_POINTS = 10; // what programs write for the desktop's own font at its own size
-    const QFont desktop = QApplication::font();
-    QFont font = namedFont(face, pointSize > 0 ? pointSize : desktop.pointSizeF());
-    if (pointSize == DESKTOP_POINTS &&
-        fontFamilies(face).last() == fontFamilies(QStringLiteral("MS Sans Serif")).last())
-        return desktop;
-    return font;
-}
-
 int lineHeight() { return QFontMetrics(QApplication::font()).height() + 8; }
-
-int boundaryWidth(int boundary) {
-    switch (boundary) {
-    case OSINGLE: return 1;
-    case ODOUBLE: return 3;
-    case OPRESSED:
-    case OPROJECTED:
-    case OCHISEL:
-    case OINVERSECHISEL: return 2;
-    default: return 0;
-    }
-}
-
-void drawBoundary(QPainter& painter, const QRect& rect, int boundary, const QColor& line, const QPalette& palette) {
-    const QColor light = palette.color(QPalette::Light);
-    const QColor dark = palette.color(QPalette::Dark);
-    const auto edges = [&painter](const QRect& r, const QColor& topLeft, const QColor& bottomRight) {
-        painter.setPen(topLeft);
-        painter.drawLine(r.bottomLeft(), r.topLeft());
-        painter.drawLine(r.topLeft(), r.topRight());
-        painter.setPen(bottomRight);
-        painter.drawLine(r.topRight(), r.bottomRight());
-        painter.drawLine(r.bottomRight(), r.bottomLeft());
-    };
-    const QRect outer = rect.adjusted(0, 0, -1, -1);
-    const QRect inner = outer.adjusted(1, 1, -1, -1);
-    switch (boundary) {
-    case OSINGLE: edges(outer, line, line); break;
-    case ODOUBLE:
-        edges(outer, line, line);
-        edges(outer.adjusted(2, 2, -2, -2), line, line);
-        break;
-    case OPRESSED:
-        edges(outer, dark, light);
-        edges(inner, dark, light);
-        break;
-    case OPROJECTED:
-        edges(outer, light, dark);
-        edges(inner, light, dark);
-        break;
-    case OCHISEL:
-        edges(outer, dark, light);
-        edges(inner, light, dark);
-        break;
-    case OINVERSECHISEL:
-        edges(outer, light, dark);
-        edges(inner, dark, light);
-        break;
-    default: break;
-    }
-}
 
 QString labelWithMnemonic(const QString& label, int accel) {
     QString text = label;

@@ -24,6 +24,7 @@
 #pragma once
 
 #include "toolkit/frame/arguments.h"
+#include "toolkit/views/fonts.h"
 
 #include <QColor>
 #include <QPointF>
@@ -211,8 +212,6 @@ Widget* widgetAt(const QObject* object);
 Widget* windowOf(Widget* widget);
 // The Qt parent for a child's view.
 QWidget* clientOf(Widget* parent);
-// What a menu entry shows; null for other widgets.
-class QAction* entryAction(const Widget& entry);
 // All live widgets, in no order.
 void forEachWidget(void (*visit)(Widget& widget));
 int widgetCount();
@@ -277,24 +276,17 @@ bool isTrueColour(int colour);
 void defineColour(int index, const QColor& colour);
 // A change of these roles of a view's palette that stays until changed again; 0 means the desktop's own.
 void setViewColour(QWidget* view, QPalette::ColorRole role, int colour);
-// The font for a face and size as programs name them; the desktop's own for "MS Sans Serif" at 10 points.
-QFont fontFor(const QString& face, int pointSize);
 // Height in pixels that suits a line of the desktop's font in entries.
 int lineHeight();
 
 // ------------------------------------------------------------------------------------------------ drawing helpers
-
-// The frame of a boundary (ONOBOUNDARY to OINVERSECHISEL) inside `rect`; line colour for single and double ones.
-void drawBoundary(class QPainter& painter, const QRect& rect, int boundary, const QColor& line,
-                  const QPalette& palette);
-int boundaryWidth(int boundary); // pixels it takes at each side
 
 // "&" doubled, and the accelerator's character marked as mnemonic, for labels of buttons and menus.
 QString labelWithMnemonic(const QString& label, int accel);
 // A program's text with bars as line breaks.
 QString barsToLines(QString text);
 
-// Reports a numbered error of the routine being called (see checked/); for what only the family can see.
+// Reports a numbered error of the routine being called (see report.h); for what only the family can see.
 void reportFailure(int code, int argument);
 
 // Handlers of families that wish to know that the toolkit opens or closes (caches).

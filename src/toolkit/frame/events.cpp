@@ -1,6 +1,6 @@
 // The one queue of events, and the routines that read and feed it.
-#include "toolkit/checked/report.h"
 #include "toolkit/frame/frame.h"
+#include "toolkit/frame/report.h"
 #include "toolkit/frame/screen.h"
 #include "toolkit/frame/session.h"
 

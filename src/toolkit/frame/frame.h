@@ -84,14 +84,7 @@ bool dragEvent(QObject* target, QEvent* event);
 // What hangs on a widget that the user worked.
 void obeyLinks(const Widget& widget);
 
-// Windows.
-void raiseWindow(Widget& window);
-void showWindow(Widget& window, bool front);
-void inputByUser();               // a key or button: what happens now is the user's doing
-void activateView(QWidget* view); // its window takes the input; no event follows
-bool inputBlocked(const QObject* target);
-void fitWindow(Widget& window);            // gives the client area the size the program asked for
-void windowBarsChanged(Widget& anyWidget); // bars of a window came or went
+bool inputBlocked(const QObject* target); // confined to another window
 void closeTimers();
 void loadColours();
 void adoptedErased(int handle);

@@ -1,5 +1,6 @@
 // Keys, mouse buttons and timers of the whole program, and the input that is confined to one window.
 #include "toolkit/frame/frame.h"
+#include "toolkit/frame/windows.h"
 
 #include <QApplication>
 #include <QKeyEvent>

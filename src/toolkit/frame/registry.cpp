@@ -1,5 +1,6 @@
 // Handles, the records behind them, and which record a Qt widget belongs to.
 #include "toolkit/frame/frame.h"
+#include "toolkit/frame/windows.h"
 
 #include <algorithm>
 

@@ -1,8 +1,9 @@
 #include "toolkit/testing/robot.h"
 
-#include "toolkit/checked/report.h"
-#include "toolkit/families/windows.h"
+#include "toolkit/families/menus.h"
 #include "toolkit/frame/frame.h"
+#include "toolkit/frame/report.h"
+#include "toolkit/frame/windows.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "toolkit/views/drawing.h"
 
-#include "toolkit/frame/core.h"
+#include "toolkit/views/fonts.h"
 
 #include <QApplication>
 #include <algorithm>

@@ -91,6 +91,16 @@ QFont namedFont(const QString& face, double points) {
     return font;
 }
 
+QFont fontFor(const QString& face, int pointSize) {
+    constexpr int DESKTOP_POINTS = 10; // what programs write for the desktop's own font at its own size
+    const QFont desktop = QApplication::font();
+    QFont font = namedFont(face, pointSize > 0 ? pointSize : desktop.pointSizeF());
+    if (pointSize == DESKTOP_POINTS &&
+        fontFamilies(face).last() == fontFamilies(QStringLiteral("MS Sans Serif")).last())
+        return desktop;
+    return font;
+}
+
 QStringList availableFaces() {
     QStringList faces;
     for (const QString& family : QFontDatabase::families())

@@ -17,6 +17,9 @@ QString requestedFace(const QFont& font);
 
 QFont namedFont(const QString& face, double points);
 
+// The font for a face and size as programs name them; the desktop's own for "MS Sans Serif" at 10 points.
+QFont fontFor(const QString& face, int pointSize);
+
 // Faces that a font list offers, sorted.
 QStringList availableFaces();
 

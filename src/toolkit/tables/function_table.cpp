@@ -1,4 +1,4 @@
-#include "toolkit/keywords/function_table.h"
+#include "toolkit/tables/function_table.h"
 
 #include <array>
 #include <cstring>
@@ -13,7 +13,7 @@ constexpr Result HANDLE = Result::HANDLE;
 constexpr FunctionRow functions[] = {
 #define ROUTINE(name, result, arguments, ...) {#name, result, arguments, false, {__VA_ARGS__ __VA_OPT__(, ) 0}},
 #define BY_REFERENCE(name, result, arguments, ...) {#name, result, arguments, true, {__VA_ARGS__ __VA_OPT__(, ) 0}},
-#include "toolkit/keywords/functions.def"
+#include "toolkit/tables/functions.def"
 #undef ROUTINE
 #undef BY_REFERENCE
 };

@@ -38,6 +38,21 @@ protected:
     QMenu* createPopupMenu() override { return nullptr; }
 };
 
+WindowData& windowData(const Widget& window);
+QWidget* windowArea(const Widget& window); // its client area
+QSize windowSize(const Widget& window);    // as the program measures it
+void readWindowPlace(Widget& window);      // takes over where the window stands now
+void moveWindow(Widget& window);           // to where its place says
+void startSettling(Widget& window);        // what Qt tells of it for a while answers the program
+
+// Shows a window, in front of the others or where it was.
+void showWindow(Widget& window, bool front);
+void raiseWindow(Widget& window);
+void fitWindow(Widget& window);            // gives the client area the size the program asked for
+void windowBarsChanged(Widget& anyWidget); // bars of a window came or went
+void activateView(QWidget* view);          // its window takes the input; no event follows
+void inputByUser();                        // a key or button: what happens now is the user's doing
+
 // The Qt window that a tool bar, pane or bar of a window docks to.
 FormWindow* formWindowOf(Widget* widget);
 

@@ -1,4 +1,4 @@
-#include "toolkit/checked/report.h"
+#include "toolkit/frame/report.h"
 
 #include "toolkit/frame/core.h"
 #include "toolkit/frame/session.h"

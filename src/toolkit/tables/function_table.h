@@ -33,7 +33,7 @@ inline constexpr int ANY = -1;
 enum class Fn : int {
 #define ROUTINE(name, result, arguments, ...) name,
 #define BY_REFERENCE(name, result, arguments, ...) name,
-#include "toolkit/keywords/functions.def"
+#include "toolkit/tables/functions.def"
 #undef ROUTINE
 #undef BY_REFERENCE
     count

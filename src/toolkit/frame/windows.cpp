@@ -1,0 +1,296 @@
+#include "toolkit/frame/windows.h"
+
+#include "toolkit/frame/frame.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLayout>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QTimer>
+
+namespace orba {
+namespace {
+
+// How long geometry changes after a change by the program count as the window manager's answer to it.
+constexpr int SETTLING_MILLISECONDS = 400;
+constexpr int ACTIVATION_RETRY = 120; // milliseconds
+
+QSize screenSize() { return QGuiApplication::primaryScreen()->geometry().size(); }
+
+Widget* windowRecord(const FormWindow& window) {
+    Widget* record = widgetOf(window.handle);
+    return record && record->view == &window ? record : nullptr;
+}
+
+// On a platform without window manager every change is done at once, inside the program's call.
+bool isSettling(const Widget& window) {
+    if (session.programDepth > 0) return true;
+    static const bool managed = QGuiApplication::platformName() == QLatin1String("xcb");
+    const WindowData& data = windowData(window);
+    return managed && data.settling.isValid() && data.settling.elapsed() < SETTLING_MILLISECONDS;
+}
+
+// The place that a window is measured in: the screen, or the client area of the MDI master.
+QSize roomOf(const Widget& window) {
+    const WindowData& data = windowData(window);
+    return data.frame && data.frame->parentWidget() ? data.frame->parentWidget()->size() : screenSize();
+}
+
+QPoint topLeftOf(const Widget& window) {
+    const Placement& place = window.place;
+    const QSize room = roomOf(window);
+    const QSize size = windowData(window).client;
+    int x = place.hpos == OLEFT ? place.x : room.width() - place.x - size.width();
+    int y = place.vpos == OTOP ? place.y : room.height() - place.y - size.height();
+    const int state = windowData(window).initState;
+    if (place.hpos == OCENTRE || state == OCENTRED) x = (room.width() - size.width()) / 2;
+    if (place.vpos == OMIDDLE || state == OCENTRED) y = (room.height() - size.height()) / 2;
+    if (state == OTOP) y = 0;
+    return {x, y};
+}
+
+// Gives everything in a window its place now. A window that is not on the screen yet does it only when it is shown.
+void settleLayout(QWidget& window) {
+    window.layout()->activate();
+    if (!window.isVisible()) window.layout()->setGeometry(window.rect());
+}
+
+// What the close box does after the event.
+void obeyQuitMode(Widget& window) {
+    if (window.kind == Kind::master || window.quitMode == OLEAVE) return;
+    outerOf(window)->hide();
+    if (window.quitMode == OREMOVE) session.doomed.push_back(window.handle);
+}
+
+void closeRequested(Widget& window) {
+    if (window.kind == Kind::master) {
+        postIdentifier(-1, window.handle, 0, OCLOSED);
+        return;
+    }
+    post(window, Slot::general, OCLOSED);
+    obeyQuitMode(window);
+}
+
+// The program made a window active: what Qt tells of it for a while is no user's doing.
+QElapsedTimer sinceActivation;
+
+void expectActivation() { sinceActivation.start(); }
+
+bool activationIsExpected() { return sinceActivation.isValid() && sinceActivation.elapsed() < SETTLING_MILLISECONDS; }
+
+void activated(Widget& window) {
+    if (!activationIsExpected() && !isSettling(window)) post(window, Slot::select, 1);
+}
+
+void deactivated(Widget& window) {
+    if (!activationIsExpected() && !QApplication::activePopupWidget()) post(window, Slot::general, OLOSTFOCUS);
+}
+
+} // namespace
+
+WindowData& windowData(const Widget& window) { return static_cast<WindowData&>(*window.data); }
+
+void startSettling(Widget& window) { windowData(window).settling.start(); }
+
+QWidget* windowArea(const Widget& window) { return static_cast<QMainWindow*>(window.view.data())->centralWidget(); }
+
+QSize windowSize(const Widget& window) {
+    const WindowData& data = windowData(window);
+    if (!data.shown || window.view->isMinimized()) return data.client;
+    return data.wholeWindow ? window.view->size() : windowArea(window)->size();
+}
+
+void moveWindow(Widget& window) {
+    startSettling(window);
+    outerOf(window)->move(topLeftOf(window));
+}
+
+// Where the window stands now, measured as the program measures it.
+void readWindowPlace(Widget& window) {
+    if (!windowData(window).shown) return;
+    const QPoint corner = outerOf(window)->pos();
+    const QSize room = roomOf(window);
+    const QSize size = windowSize(window);
+    Placement& place = window.place;
+    place.x = place.hpos == ORIGHT ? room.width() - corner.x() - size.width() : corner.x();
+    place.y = place.vpos == OBOTTOM ? room.height() - corner.y() - size.height() : corner.y();
+}
+
+QWidget* outerOf(const Widget& window) {
+    QMdiSubWindow* frame = windowData(window).frame;
+    return frame ? static_cast<QWidget*>(frame) : window.view.data();
+}
+
+FormWindow* formWindowOf(Widget* widget) {
+    Widget* window = windowOf(widget);
+    return window ? static_cast<FormWindow*>(window->view.data()) : nullptr;
+}
+
+void fitWindow(Widget& window) {
+    const WindowData& data = windowData(window);
+    auto* view = static_cast<FormWindow*>(window.view.data());
+    if (view->isMaximized() || view->isFullScreen()) return;
+    QWidget* outer = outerOf(window);
+    if (data.wholeWindow) {
+        view->resize(data.client);
+        return;
+    }
+    // The bars around the client area take what their layout gives them; the second round finds it settled.
+    for (int round = 0; round < 2; round++) {
+        if (data.frame && data.frame->layout()) settleLayout(*data.frame);
+        settleLayout(*view);
+        const QSize missing = data.client - windowArea(window)->size();
+        if (missing.isNull()) return;
+        outer->resize(outer->size() + missing);
+    }
+    settleLayout(*view);
+}
+
+void windowBarsChanged(Widget& anyWidget) {
+    Widget* window = windowOf(&anyWidget);
+    if (!window || !window->data || !window->view || windowData(*window).wholeWindow) return;
+    startSettling(*window);
+    fitWindow(*window);
+}
+
+void showWindow(Widget& window, bool front) {
+    WindowData& data = windowData(window);
+    QWidget* outer = outerOf(window);
+    if (!outer->isVisible()) {
+        startSettling(window);
+        expectActivation();
+        if (!data.shown) {
+            fitWindow(window);
+            outer->move(topLeftOf(window));
+        }
+        const bool first = !data.shown;
+        data.shown = true;
+        if (first && data.initState == OMAXIMIZE) {
+            outer->showMaximized();
+        } else if (first && data.initState == OMINIMIZE) {
+            outer->showMinimized();
+        } else {
+            outer->show();
+        }
+        window.view->show();
+        // Only on the screen do the bars have their final height.
+        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        if (first) fitWindow(window);
+    }
+    window.view->update();
+    if (!front) return;
+    if (outer->isMinimized()) outer->showNormal();
+    outer->raise();
+    if (data.frame) data.frame->mdiArea()->setActiveSubWindow(data.frame);
+}
+
+void inputByUser() {
+    sinceActivation.invalidate();
+    session.expectedFocus = 0;
+}
+
+void activateView(QWidget* view) {
+    Widget* window = windowOf(widgetAt(view));
+    if (!window) return;
+    QWidget* outer = outerOf(*window);
+    if (!outer->isVisible()) return;
+    QWidget* top = view->window(); // a floating pane is a window of its own
+    if (QMdiSubWindow* frame = windowData(*window).frame) {
+        if (frame->mdiArea()->activeSubWindow() != frame) {
+            expectActivation();
+            frame->mdiArea()->setActiveSubWindow(frame);
+        }
+    }
+    if (top->isActiveWindow()) return;
+    expectActivation();
+    session.expectedFocus = widgetAt(view)->handle;
+    top->activateWindow();
+    // A window manager refuses a request that is older than the user's last input to another window, such as the
+    // release of the click that led to it. Once that has been read, the request is made again.
+    QTimer::singleShot(ACTIVATION_RETRY, view, [view, handle = session.expectedFocus] {
+        if (session.expectedFocus != handle || view->window()->isActiveWindow()) return;
+        expectActivation();
+        view->activateWindow();
+    });
+}
+
+void raiseWindow(Widget& window) {
+    QWidget* outer = outerOf(window);
+    if (!outer->isVisible()) return;
+    outer->raise();
+    activateView(window.view);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Widget* window = windowRecord(*this);
+    if (!window || inputBlocked(this)) return;
+    closeRequested(*window);
+}
+
+void FormWindow::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    Widget* window = windowRecord(*this);
+    if (!window || !window->data || isMinimized() || !isVisible() || windowData(*window).frame) return;
+    QRect& known = windowData(*window).known;
+    if (known.topLeft() == pos()) return; // the same news again
+    known.moveTopLeft(pos());
+    if (!isSettling(*window)) post(*window, Slot::general, OMOVED);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    Widget* window = windowRecord(*this);
+    if (!window || !window->data || isMinimized() || !isVisible()) return;
+    WindowData& data = windowData(*window);
+    if (data.known.size() == size()) return;
+    data.known.setSize(size());
+    if (isSettling(*window)) return;
+    if (!data.frame) data.client = windowSize(*window);
+    post(*window, Slot::general, ORESIZED);
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange) return;
+    const Widget* window = windowRecord(*this);
+    if (!window || session.programDepth > 0) return;
+    const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+    if ((before & Qt::WindowMinimized) != (windowState() & Qt::WindowMinimized))
+        post(*window, Slot::general, OMINIMIZED);
+}
+
+bool FormWindow::eventFilter(QObject* target, QEvent* event) {
+    Widget* window = windowRecord(*this);
+    if (!window || !window->data || target != windowData(*window).frame) return QMainWindow::eventFilter(target, event);
+    switch (event->type()) {
+    case QEvent::Close:
+        event->ignore();
+        if (!inputBlocked(this)) closeRequested(*window);
+        return true;
+    case QEvent::Move:
+        if (windowData(*window).frame->isVisible() && !isSettling(*window)) post(*window, Slot::general, OMOVED);
+        return false;
+    case QEvent::WindowActivate: activated(*window); return false;
+    case QEvent::WindowDeactivate: deactivated(*window); return false;
+    default: return false;
+    }
+}
+
+bool FormWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+        Widget* window = windowRecord(*this);
+        if (window && window->data && !windowData(*window).frame) {
+            if (event->type() == QEvent::WindowActivate) {
+                activated(*window);
+            } else {
+                deactivated(*window);
+            }
+        }
+    }
+    return QMainWindow::event(event);
+}
+
+} // namespace orba
