@@ -62,6 +62,13 @@ bool mendCells(WidgetNode& node) {
     return mendCount(node.rows, node.rowHeights) || columns;
 }
 
+// Whatever was told while a file was read: some of its records may be gone again.
+void countNamedRecords() {
+    project.widgetCount = 0;
+    for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
+        if (node->type != TYPE_MAIN_PANEL && !node->name.empty()) ++project.widgetCount;
+}
+
 } // namespace
 
 std::string resourceName(std::string_view path) {
@@ -157,6 +164,7 @@ bool mendForms(WidgetNode* behind) {
         linkChildAfter(*form, nullptr, mainPanelFor(*form));
         mended = true;
     }
+    countNamedRecords();
     return mended;
 }
 

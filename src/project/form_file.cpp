@@ -86,7 +86,6 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
     if (header.version < VERSION_71) convertOldCode(forms);
     WidgetNode* last = lastForm();
     if (!appendForms(forms)) return 0;
-    project.widgetCount += source.namedRecords;
     project.formFileName = name;
     project.formFileDir = givenFolder;
     damagedFormFile.clear();

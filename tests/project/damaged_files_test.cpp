@@ -32,6 +32,13 @@ int countRecords() {
     return count;
 }
 
+int countNamed() {
+    int count = 0;
+    for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms))
+        if (n->type != TYPE_MAIN_PANEL && !n->name.empty()) ++count;
+    return count;
+}
+
 class DamagedFile : public testing::Test {
 protected:
     void load(const std::string& bytes, bool complete = false) {
@@ -199,6 +206,16 @@ TEST_F(DamagedFile, RandomBytesAreSurvived) {
     }
     makeDefaults();
     freshProject();
+}
+
+TEST_F(DamagedFile, RecordsThatAnInsertedFormLosesAreNotCounted) {
+    freshProject();
+    ASSERT_TRUE(saveProject(folder.path, "project.wdp", true));
+    freshProject()->name = "Other";
+    BoxScript boxes;
+    boxes.allowAll();
+    (void)insertForm(folder.path, "project.wdp"); // another kind of file
+    EXPECT_EQ(project.widgetCount, countNamed());
 }
 
 TEST_F(DamagedFile, TheFirstSaveOverItKeepsItBeside) {
