@@ -115,6 +115,7 @@ void selectWidget(WidgetNode* node) {
 bool shiftAdds(WidgetNode& found) {
     if (!owEnqShiftKey() || design.selection.empty() || !design.selection.front()->parent || found.onToolbar)
         return false;
+    if (isBarOrPane(found) || isBarOrPane(*design.selection.front())) return false; // they dock, and join no group
     if (found.parent != design.selection.front()->parent) return true; // of another parent: nothing happens
     Records members = design.selection;
     members.push_back(&found);

@@ -52,4 +52,5 @@ enum PlacementTool : int {
     PLACE_PANEL = 17010,
     PLACE_TOOL_BAR = 17017,
     PLACE_TAB_BOX = 17019,
+    PLACE_PANE = 17027,
 };
