@@ -1,5 +1,6 @@
 #include "hand.h"
 
+#include "clock.h"
 #include "invariants.h"
 #include "targets.h"
 
@@ -39,6 +40,7 @@ constexpr int END_OF_QUEUE = 2'000'000'003;
 constexpr int MOST_CALLBACKS = 20000;    // that can follow from one act
 constexpr int MOST_ROUNDS = 50;          // until the loop is idle
 constexpr double LONGEST_SECONDS = 10.0; // of processor time for one act
+constexpr int UNTIL_NEXT_ACT = 400;      // milliseconds
 
 std::string trouble; // the first one since the last act
 
@@ -287,6 +289,8 @@ std::string perform(const Event& event) {
     act(event);
     acting = false;
     runLoop();
+    passTime(UNTIL_NEXT_ACT);
+    runLoop(); // what waited for the hand to rest
     if (event.verb == Verb::Check) {
         note(brokenInvariant());
         runLoop();

@@ -6,12 +6,14 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <unistd.h>
 
 namespace files = std::filesystem;
 
 namespace {
 
 constexpr char EMPTY[] = "empty";
+const std::string ZEROS = "0000000000";
 
 // Refuses with a message on the third line of whatever it is given.
 constexpr char COMPILER[] = "#!/bin/sh\n"
@@ -48,11 +50,14 @@ const std::vector<std::string>& stageNames() {
 }
 
 std::string setStage(const std::string& name) {
-    std::string pattern = (files::temp_directory_path() / "monkey-XXXXXX").string();
-    if (!mkdtemp(pattern.data())) return "";
-    files::current_path(pattern);
+    const std::string number = std::to_string(getpid()); // its digits are all of one width on the screen
+    const std::string folder =
+        (files::temp_directory_path() / ("monkey-" + ZEROS.substr(number.size()) + number)).string();
+    files::remove_all(folder);
+    files::create_directory(folder);
+    files::current_path(folder);
     files::create_directory("data");
-    setenv("ORBADATA", (files::path(pattern) / "data").c_str(), 1);
+    setenv("ORBADATA", (files::path(folder) / "data").c_str(), 1);
     setenv("ORBA_NO_SPLASH", "1", 1);
     writeCompilers();
     writeBytes("text.txt", "      x = 1\n! a comment\n  call sub('it''s')\n");
@@ -61,5 +66,5 @@ std::string setStage(const std::string& name) {
         writeEmptyProject(name.substr(sizeof EMPTY - 1), "one.wdp");
     else
         files::copy_file(files::path(ORBA_SOURCE_DIR) / "examples" / name / (name + ".wdp"), "one.wdp");
-    return pattern;
+    return folder;
 }
