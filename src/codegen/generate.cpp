@@ -4,6 +4,7 @@
 #include "codegen/generate.h"
 
 #include "codegen/generation.h"
+#include "codegen/output.h"
 #include "codegen/resources.h"
 
 #include "platform/paths.h"
@@ -17,6 +18,7 @@
 namespace {
 
 constexpr std::string_view DESIGNER_VERSION = " v8.5";
+constexpr std::string_view DATED = " Last created on ";
 
 // "Tue Nov 24 21:02:20 2026\n", whatever the locale.
 std::string localTime() {
@@ -33,9 +35,16 @@ std::string localTime() {
     return text;
 }
 
+// A folder's name may hold anything, but a comment ends with its line.
+std::string inComment(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return text;
+}
+
 void writeProgram(Generation& g) {
-    write(g, "%s Program %s\n", g.language.commentPrefix, g.base);
-    write(g, "%s Last created on %s", g.language.commentPrefix, localTime());
+    write(g, "%s Program %s\n", g.language.commentPrefix, inComment(g.base));
+    write(g, "%s%s%s", g.language.commentPrefix, DATED, localTime());
     write(g, "%s Using ORBAWIDG Designer Version %s\n\n", g.language.commentPrefix, DESIGNER_VERSION);
     g.language.programHead(g);
     g.language.actionLoop(g);
@@ -183,7 +192,7 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
         return false;
     }
     if (generated != nullptr) toFile(generated->text);
-    const bool written = commitSafeFile(file);
+    const bool written = commitWhatIsNew(file, DATED);
     if (written) {
         markGenerated(fileName);
         const std::string base = basePath(path);

@@ -61,7 +61,8 @@ bool generateText(const std::string& path, GeneratedText& generated, const TextS
 bool chooseSourceFile();
 
 // Writes the source to `path`, the manifest and the resource script, puts the master form first in the chain and clears
-// sourceStale and exeTime. `fileName` gives the project its title when it has none. An existing source is replaced only
-// once the new text is complete. On failure an error box has told the user, sourceStale keeps its value and the result
-// is false. The caller sets the title of its window. With `generated` it hands back the text with its map.
+// sourceStale and exeTime. A file that would differ by its date alone stays as it is, its time too. `fileName` gives
+// the project its title when it has none. An existing source is replaced only once the new text is complete. On failure
+// an error box has told the user, sourceStale keeps its value and the result is false. The caller sets the title of its
+// window. With `generated` it hands back the text with its map.
 bool generateSource(const std::string& path, const std::string& fileName, GeneratedText* generated = nullptr);

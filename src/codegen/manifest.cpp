@@ -1,5 +1,6 @@
 // The application manifest, which selects the common controls of version 6 for the built program.
 
+#include "codegen/output.h"
 #include "codegen/resources.h"
 #include "codegen/text.h"
 
@@ -43,5 +44,5 @@ bool writeManifest(const std::string& base, std::string_view title) {
     SafeFile file;
     if (!openSafeFile(file, base + ".exe.manifest")) return false;
     writeSafeFile(file, text.data(), text.size());
-    return commitSafeFile(file);
+    return commitWhatIsNew(file);
 }

@@ -2,6 +2,7 @@
 
 #include "codegen/resources.h"
 
+#include "codegen/output.h"
 #include "codegen/quotes.h"
 #include "codegen/text.h"
 
@@ -129,5 +130,5 @@ bool writeResourceScript(const std::string& base) {
         addResources(script, *node);
     }
     writeSafeFile(file, script.text.data(), script.text.size());
-    return commitSafeFile(file);
+    return commitWhatIsNew(file);
 }

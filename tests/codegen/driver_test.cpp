@@ -83,6 +83,45 @@ TEST_F(Driver, WritesSourceManifestAndScriptAndClearsTheMarks) {
     EXPECT_TRUE(boxes.empty());
 }
 
+TEST_F(Driver, ASourceThatDiffersByItsDateAloneStays) {
+    generate();
+    const std::vector<std::string> names = {"prog.f90", "prog.exe.manifest", "progrc.rc"};
+    const fs::file_time_type past = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    std::string source = textOf(path("prog.f90"));
+    const std::size_t date = source.find("created on ") + 11;
+    source.replace(date, source.find('\n', date) - date, "Mon Jan  1 00:00:00 2001");
+    std::ofstream(path("prog.f90"), std::ios::binary) << source;
+    const auto touched = [&] {
+        std::vector<std::string> result;
+        for (const std::string& name : names) {
+            if (fs::last_write_time(path(name)) != past) result.push_back(name);
+            fs::last_write_time(path(name), past);
+        }
+        return result;
+    };
+    touched();
+    project.sourceStale = 1;
+    generate();
+    EXPECT_EQ(touched(), std::vector<std::string>{});
+    EXPECT_EQ(textOf(path("prog.f90")), source);
+    EXPECT_EQ(project.sourceStale, 0);
+    project.forms->text += "!";
+    generate();
+    EXPECT_EQ(touched(), std::vector<std::string>{"prog.f90"});
+    std::ofstream(path("prog.f90"), std::ios::app) << "! added\n"; // longer than the new text
+    touched();
+    generate();
+    EXPECT_EQ(touched(), std::vector<std::string>{"prog.f90"});
+    EXPECT_EQ(textOf(path("prog.f90")).find("! added"), std::string::npos);
+}
+
+TEST_F(Driver, ALineEndInAFolderEndsNoComment) {
+    GeneratedText generated;
+    ASSERT_TRUE(generateText("/two\nlines/prog.f90", generated));
+    EXPECT_TRUE(generated.text.starts_with("! Program /two lines/prog\n! Last created on "))
+        << generated.text.substr(0, 80);
+}
+
 TEST_F(Driver, AFailureLeavesEverythingAsItWas) {
     WidgetNode* second = newForm();
     second->formType = FORM_MASTER_SDI;
