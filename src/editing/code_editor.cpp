@@ -72,8 +72,9 @@ void makeIcons(int head) {
         owCreatePanel(head, ICONS_LEFT, 0, 6 * ICON_STEP, HEAD_HEIGHT, owVpos, OTOP, owBorderType, ONOBOUNDARY, 0);
     int x = 0;
     for (const EditorIcon& row : ICONS) {
-        owCreateIcon(panel, x, ICON_TOP, ICON_SIZE, ICON_SIZE, row.icon, ODLLICON, 0, owVpos, OTOP, owType,
-                     OMOUSESENSITIVE, owHelp, row.help, owCallback, row.command, 0);
+        const int icon = owCreateIcon(panel, x, ICON_TOP, ICON_SIZE, ICON_SIZE, row.icon, ODLLICON, 0, owVpos, OTOP,
+                                      owType, OMOUSESENSITIVE, owHelp, row.help, owCallback, row.command, 0);
+        if (!hooks.hasCommand(row.command)) owSetWidgetStatus(icon, OUNSELECTABLE);
         x += ICON_STEP;
     }
 }

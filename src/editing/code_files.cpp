@@ -1,7 +1,9 @@
 // Files and the outside: inserting a file, printing, help on the word under the caret.
 #include "editing/code_editor.h"
 
+#include "codegen/generate.h"
 #include "editing/editor_window.h"
+#include "editing/help_file.h"
 #include "editing/text_commands.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
@@ -11,28 +13,11 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <cstdlib>
-#include <fstream>
 #include <string>
 
 namespace {
 
-struct SourceFilter {
-    int language;
-    const char* filter;
-};
-constexpr SourceFilter FILTERS[] = {
-    {90, "*.f90|Fortran 90 source files (*.f90)|*.*|All Files (*.*)"},
-    {77, "*.for|Fortran 77 source files (*.for)|*.*|All Files (*.*)"},
-    {99, "*.cpp|C source files (*.cpp)|*.*|All Files (*.*)"},
-};
-
 std::string insertFolder; // where the browser was left
-
-const char* sourceFilter() {
-    const auto row = std::ranges::find(FILTERS, project.projectLanguage, &SourceFilter::language);
-    return row == std::end(FILTERS) ? "*.*|All Files (*.*)" : row->filter;
-}
 
 struct HelpFile {
     const char* prefix;
@@ -81,7 +66,8 @@ void insertFileCommand() {
     const TextRange range = selectionOf(editor.text);
     std::string name;
     if (insertFolder.empty()) insertFolder = project.projectDir;
-    if (!host.fileDialogue("Insert File", sourceFilter(), false, insertFolder, name) || name.empty())
+    if (!host.fileDialogue("Insert File", sourceFilter(project.projectLanguage), false, insertFolder, name) ||
+        name.empty())
         return select(editor.text, range);
     const std::string path = insertFolder.empty() ? name : insertFolder + "/" + name;
     if (!owGetTextFromFile(editor.hiddenText, path.c_str(), 0)) {
@@ -105,11 +91,6 @@ void codeHelpCommand() {
         std::ranges::find_if(HELP_FILES, [&](const HelpFile& file) { return word.starts_with(file.prefix); });
     if (row == std::end(HELP_FILES)) return;
     constexpr char VERSION[] = "85";
-    const char* installation = std::getenv("ORBA");
-    const std::string folder = installation ? std::string(installation) + "/" : "";
-    const std::string path = folder + "Help/" + row->stem + VERSION + ".chm";
-    if (std::ifstream(path))
-        owDisplayHelpWindow(path.c_str(), word.c_str());
-    else
+    if (!showHelpFile(std::string(row->stem) + VERSION + ".chm", word))
         host.errorBox("Error opening help file", std::string(row->library) + " help file could not be found");
 }

@@ -115,6 +115,7 @@ void nameRemoved(const std::string& name) {
 }
 
 void nameChanged(const std::string& from, const std::string& to) {
+    if (std::ranges::find(names, from) == names.end()) return; // main panels are not listed
     nameRemoved(from);
     nameAdded(to);
     selectInList(editor.widgetList, to.c_str());

@@ -102,7 +102,7 @@ void addForms(Names& names, bool dynamic) {
 // Entries of a chain that a program can name.
 void addEntries(Names& names, const MenuEntryRec* entry) {
     for (; entry; entry = entry->next) {
-        const bool internal = entry->name.empty() || entry->name == "separator" || entry->name.starts_with("Pop");
+        const bool internal = entry->name.empty() || entry->name == "separator" || entry->name == "Pop";
         if (!internal && entry->kind == MENU_ENTRY) names.push_back(entry->name);
     }
 }

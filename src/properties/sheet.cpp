@@ -1,4 +1,5 @@
 #include "properties/sheet.h"
+#include "properties/limits.h"
 
 #include "menu-c.h"
 #include "project/preferences.h"
@@ -58,10 +59,44 @@ struct Sheet {
 
 bool isArray(const WidgetNode& n) { return n.type == TYPE_TEXT_ARRAY || n.type == TYPE_VALUE_ARRAY; }
 
+// ---- Rows that open an editor.
+
+struct ButtonRow {
+    RowId row;
+    Editor editor;
+    int iconPosition; // of a tree view's icons that the choice would replace; 0 for none
+};
+constexpr ButtonRow BUTTON_ROWS[] = {
+    {ROW_CLOSE_ICON, Editor::CloseIcon, 2},
+    {ROW_OPEN_ICON, Editor::OpenIcon, 3},
+    {ROW_ICON, Editor::Icon, 1},
+    {ROW_TAB_ICON, Editor::TabIcon, 0},
+    {ROW_BACKGROUND_IMAGE, Editor::BackgroundImage, 0},
+};
+
+Editor editorOf(const WidgetNode& widget, const PropertyRow& row) {
+    if (row.id == ROW_ENTRIES) return widget.type == TYPE_TREE_VIEW ? Editor::Tree : Editor::List;
+    if (row.id == ROW_TEXT) return widget.subType == ORICHEDIT ? Editor::RichText : Editor::PlainText;
+    return std::ranges::find(BUTTON_ROWS, row.id, &ButtonRow::row)->editor;
+}
+
+bool isDead(const WidgetNode& widget, const PropertyRow& row) {
+    return cellKind(widget, row) == Cell::Button && !hooks.hasEditor(editorOf(widget, row));
+}
+
+// A button that leads nowhere: what can be typed is, the rest is grey.
+bool isTyped(const WidgetNode& widget, const PropertyRow& row) {
+    return row.edit != nullptr && !(row.id == ROW_TEXT && widget.subType == ORICHEDIT);
+}
+
+Cell cellOf(const WidgetNode& widget, const PropertyRow& row) {
+    return isDead(widget, row) && isTyped(widget, row) ? Cell::Text : cellKind(widget, row);
+}
+
 // ---- What a row is to show.
 
 Build buildOf(const WidgetNode& widget, const PropertyRow& row) {
-    return {cellKind(widget, row), numberFormat(widget, row), choicesOf(widget, row).data()};
+    return {cellOf(widget, row), numberFormat(widget, row), choicesOf(widget, row).data()};
 }
 
 bool sameBuild(const Build& a, const Build& b) {
@@ -72,7 +107,7 @@ bool sameBuild(const Build& a, const Build& b) {
 
 Content contentOf(const WidgetNode& widget, const PropertyRow& row) {
     Content content;
-    content.enabled = !isGrey(widget, row);
+    content.enabled = !isGrey(widget, row) && (!isDead(widget, row) || isTyped(widget, row));
     switch (cellKind(widget, row)) {
     case Cell::Number: content.number = shownNumber(widget, row); break;
     case Cell::Colour:
@@ -279,7 +314,7 @@ bool keepsValue(const WidgetNode& target, const PropertyRow& row, const CellInpu
 }
 
 void applyChange(WidgetNode& widget, const PropertyRow& row, CellInput input) {
-    if (isGrey(widget, row) || !resolveChoice(widget, row, input)) return;
+    if (isGrey(widget, row) || !resolveChoice(widget, row, input) || !isSane(row, input)) return;
     WidgetNode& target = targetOf(widget, row);
     if (keepsValue(target, row, input)) return;
     if (row.edit)
@@ -303,31 +338,13 @@ void chooseColour(WidgetNode& widget, const PropertyRow& row) {
     row.edit(target, row, {.text = {}, .value = colourIndex(rgb.red, rgb.green, rgb.blue, false)});
 }
 
-struct ButtonRow {
-    RowId row;
-    Editor editor;
-    int iconPosition; // of a tree view's icons that the choice would replace; 0 for none
-};
-constexpr ButtonRow BUTTON_ROWS[] = {
-    {ROW_CLOSE_ICON, Editor::CloseIcon, 2},
-    {ROW_OPEN_ICON, Editor::OpenIcon, 3},
-    {ROW_ICON, Editor::Icon, 1},
-    {ROW_TAB_ICON, Editor::TabIcon, 0},
-    {ROW_BACKGROUND_IMAGE, Editor::BackgroundImage, 0},
-};
-
 void openEditorOf(WidgetNode& widget, const PropertyRow& row) {
-    if (row.id == ROW_ENTRIES)
-        return hooks.openEditor(widget.type == TYPE_TREE_VIEW ? Editor::Tree : Editor::List, widget);
-    if (row.id == ROW_TEXT) {
-        owAdoptChild(0, 0, 0);
-        return hooks.openEditor(widget.subType == ORICHEDIT ? Editor::RichText : Editor::PlainText, widget);
-    }
+    if (isDead(widget, row)) return;
+    if (row.id == ROW_TEXT) owAdoptChild(0, 0, 0);
     const auto button = std::ranges::find(BUTTON_ROWS, row.id, &ButtonRow::row);
-    if (button == std::end(BUTTON_ROWS)) return;
-    const bool guarded = widget.type == TYPE_TREE_VIEW && button->iconPosition > 0;
-    if (guarded && !mayReplaceEntryIcons(widget, button->iconPosition)) return;
-    hooks.openEditor(button->editor, widget);
+    const int icon = button == std::end(BUTTON_ROWS) ? 0 : button->iconPosition;
+    if (widget.type == TYPE_TREE_VIEW && icon > 0 && !mayReplaceEntryIcons(widget, icon)) return;
+    hooks.openEditor(editorOf(widget, row), widget);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "shell/help.h"
 
+#include "editing/help_file.h"
 #include "menu-c.h"
 #include "platform/environment.h"
 #include "platform/paths.h"
@@ -62,8 +63,6 @@ static constexpr HelpLibrary HELP_LIBRARIES[] = {
     {CMD_HELP_MESH, "Mesh", "Meshf77.hlp", "ORBAMESH help file could not be found"},
 };
 
-static std::string helpFile(const std::string& name) { return joinPath(joinPath(folders.installDir, "Help"), name); }
-
 static bool contains(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
 
 static std::string widgetTopic(const WidgetNode& widget) {
@@ -86,15 +85,11 @@ std::string helpTopic() {
     return project.currentWidget ? widgetTopic(*project.currentWidget) : std::string();
 }
 
-static bool showHelp(const std::string& file, const std::string& topic) {
-    return fileReadable(file) && owDisplayHelpWindow(file.c_str(), topic.c_str()) != 0;
-}
-
 void contextHelpCommand() {
     const bool toggle = project.currentWidget && project.currentWidget->type == TYPE_TOGGLE;
     const std::string topic = helpTopic();
     if (topic.empty() && toggle) return; // toggles of other platforms have no page
-    if (!showHelp(helpFile(std::string("Wdesign") + HELP_VERSION + ".chm"), topic))
+    if (!showHelpFile(std::string("Wdesign") + HELP_VERSION + ".chm", topic))
         host.errorBox("Error opening help file", HELP_LIBRARIES[0].missing);
 }
 
@@ -103,7 +98,7 @@ void helpTopicsCommand() {
         if (library.command != currentCommand()) continue;
         const std::string stem = std::string(library.stem) + HELP_VERSION;
         const bool fixedForm = project.projectLanguage == 77 && library.fixedFormFile;
-        if (!showHelp(helpFile(fixedForm ? library.fixedFormFile : stem + ".chm"), stem))
+        if (!showHelpFile(fixedForm ? library.fixedFormFile : stem + ".chm", stem))
             host.errorBox("Error opening help file", library.missing);
     }
 }

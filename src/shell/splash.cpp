@@ -16,8 +16,9 @@ static void bindEveryKey(int callback) {
 }
 
 static void addLine(int panel, int y, const std::string& text, int pointSize, int bold) {
-    const int label = owCreateTextEntry(panel, 0, y, WIDTH, pointSize * 2 + 6, text.c_str(), 255, ODISPLAY, owVpos,
-                                        OTOP, owJustify, OCENTRE, owBorderType, ONOBORDER, 0);
+    const int label =
+        owCreateTextEntry(panel, 0, y, WIDTH, pointSize * 2 + 6, text.c_str(), 255, ODISPLAY, owVpos, OTOP, owJustify,
+                          OCENTRE, owBorderType, ONOBORDER, owSelectCallback, SPLASH_END, 0);
     owSetFontAttribs(label, owPointSize, pointSize, owBold, bold, 0);
 }
 
@@ -26,7 +27,8 @@ void showSplash() {
     const int window = owCreateComplexDialogueBox(MASTER_WINDOW, 0, 0, WIDTH, HEIGHT, ONONE, "", owHpos, OCENTRE,
                                                   owVpos, OMIDDLE, owInitState, OCENTRED, 0);
     const int panel = owCreatePanel(window, 0, 0, WIDTH, HEIGHT, owType, OPROJECTED, owSelectCallback, SPLASH_END, 0);
-    owCreateIcon(panel, WIDTH / 2 - 32, 24, 64, 64, "Light", ODLLICON, 0, owVpos, OTOP, owType, OPICTOGRAM, 0);
+    owCreateIcon(panel, WIDTH / 2 - 32, 24, 64, 64, "Light", ODLLICON, 0, owVpos, OTOP, owType, OPICTOGRAM, owCallback,
+                 SPLASH_END, owSelectCallback, SPLASH_END, 0);
     addLine(panel, 100, environment.mainTitle, 18, 1);
     addLine(panel, 152, "Fortran/C++ GUI Builder", 10, 0);
     owDrawWindow(window, 1);

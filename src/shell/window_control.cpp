@@ -87,6 +87,10 @@ void buildMasterWindow() {
     windowStates[WINDOW_TOOL_BOX].handle = buildToolBox(state.handle);
     statusBar = owCreateStatusBar(state.handle, owPanes, STATUS_BAR_PANES, owSizes, STATUS_BAR_SIZES, 0);
     hooks.statusText = [](int pane, const std::string& text) { owSetStatusBarText(statusBar, pane, text.c_str()); };
+    hooks.hasCommand = [](int command) {
+        const Command* row = findCommand(command);
+        return row && row->handler;
+    };
     hooks.commandStatus = setCommandStatus;
     hooks.toolStatus = setToolStatus;
     hooks.inputMode = setInputMode;

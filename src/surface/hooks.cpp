@@ -10,6 +10,7 @@ SurfaceHooks hooks = {
     .formFileForgotten = [] {},
     .showProperties = [](WidgetNode*) {},
     .refreshProperties = [] {},
+    .hasCommand = [](int) { return true; },
     .commitEditor = [] {},
     .bindCode = [](WidgetNode*) {},
     .showCallback = [](WidgetNode&) {},
@@ -21,6 +22,7 @@ SurfaceHooks hooks = {
     .nameChanged = [](const std::string&, const std::string&) {},
     .menuChanged = [](WidgetNode&) {},
     .renameInCode = [](const std::string&, const std::string&) { return 0; },
+    .hasEditor = [](Editor) { return false; },
     .openEditor = [](Editor, WidgetNode&) {},
     .generateSource = [] { return false; },
 };

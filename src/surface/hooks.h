@@ -28,6 +28,7 @@ struct SurfaceHooks {
     void (*refreshProperties)();                // its cells again from the record
 
     // Filled by the code editor.
+    bool (*hasCommand)(int command);          // something answers to it
     void (*commitEditor)();                   // brings the shown text into its block or slot
     void (*bindCode)(WidgetNode* widget);     // the editor follows the selection
     void (*showCallback)(WidgetNode& widget); // brings the editor up on the widget's callback
@@ -41,6 +42,7 @@ struct SurfaceHooks {
     int (*renameInCode)(const std::string& from, const std::string& to); // number of places changed
 
     // Filled by the dialogues.
+    bool (*hasEditor)(Editor editor); // else there is no button for it
     void (*openEditor)(Editor editor, WidgetNode& widget);
     bool (*generateSource)(); // false when cancelled or failed
 };

@@ -9,6 +9,9 @@
 #include "surface/event.h"
 #include "surface/hooks.h"
 
+#include <QApplication>
+#include <QWidget>
+
 namespace robot = orba::testing;
 
 namespace {
@@ -183,6 +186,39 @@ TEST(Editor, NewNameReachesTheCode) {
     desk.setProperty("Name", "Go");
     EXPECT_EQ(desk.form->slots[SLOT_GENERAL], "call hide(Go)");
     EXPECT_EQ(project.codeBlocks[BLOCK_INITIALIZATION], "Go = 0 ! Go2");
+}
+
+std::vector<std::string> listedNames() {
+    int count = 0, selected = 0, current = 0;
+    owEnqListStatus(editor.widgetList, &count, &selected, &current);
+    std::vector<std::string> names(static_cast<size_t>(count), std::string(NAME_LIMIT + 1, '\0'));
+    for (int row = 0; row < count; ++row) {
+        std::string& name = names[static_cast<size_t>(row)];
+        owEnqListEntry(editor.widgetList, row + 1, name.data(), NAME_LIMIT, 0);
+        name.resize(name.find('\0'));
+    }
+    return names;
+}
+
+TEST(Editor, MainPanelsAreNotListedWhateverTheFormIsCalled) {
+    Desk desk;
+    desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    desk.click(desk.panel, 300, 5);
+    desk.setProperty("Name", "Main");
+    EXPECT_EQ(listedNames(), (std::vector<std::string>{"Main", "Main_Button1"}));
+}
+
+// What nothing answers to yet is grey.
+TEST(Editor, IconsWithoutACommandAreGrey) {
+    Desk desk;
+    int icons = 0;
+    for (const QWidget* widget : QApplication::allWidgets()) {
+        if (widget->toolTip() == "Insert ORBA Command")
+            EXPECT_EQ(widget->isEnabled(), hooks.hasCommand(CMD_INSERT_COMMAND));
+        if (widget->toolTip() == "Increase Indent") EXPECT_TRUE(widget->isEnabled());
+        icons += widget->toolTip() == "Insert ORBA Command" || widget->toolTip() == "Increase Indent";
+    }
+    EXPECT_EQ(icons, 2);
 }
 
 } // namespace

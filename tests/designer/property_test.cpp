@@ -2,6 +2,7 @@
 #include "desk.h"
 
 #include "properties/sheet.h"
+#include "surface/hooks.h"
 
 #include <cstdlib>
 
@@ -135,8 +136,59 @@ TEST(Properties, LimitsOfASliderPushEachOther) {
     EXPECT_FLOAT_EQ(slider->value, 8);
 }
 
+// A button that leads nowhere is none: what can be typed is typed, the rest is grey.
+TEST(Properties, ButtonsNeedTheirEditors) {
+    Desk desk;
+    const auto kindOf = [](const char* label) {
+        int kind = -1;
+        owEnqPropertySetting(propertyList(), owPropertyItemNumber(propertyList(), label), owPropertyKind, &kind, 0);
+        return kind;
+    };
+    desk.place(PLACE_LIST, desk.panel, 10, 20);
+    EXPECT_FALSE(desk.propertyEnabled("Entries"));
+    desk.place(PLACE_TEXT_ENTRY, desk.panel, 10, 100);
+    desk.setProperty("Height", "80");
+    EXPECT_EQ(kindOf("Text"), OPROPTEXT);
+    EXPECT_TRUE(desk.propertyEnabled("Text"));
+    desk.setProperty("Type", "Rich Text");
+    EXPECT_FALSE(desk.propertyEnabled("Text"));
+    desk.click(desk.panel, 300, 5);
+    EXPECT_EQ(kindOf("Icon"), OPROPTEXT);
+    EXPECT_TRUE(desk.propertyEnabled("Icon"));
+    hooks.hasEditor = [](Editor) { return true; };
+    selectWidget(project.currentWidget);
+    EXPECT_EQ(kindOf("Icon"), OPROPBUTTON);
+    hooks.hasEditor = [](Editor) { return false; };
+}
+
+TEST(Properties, NumbersThatNoWidgetCanHaveAreRefused) {
+    Desk desk;
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    const auto refused = [&](const char* label, const char* value) {
+        const std::string before = desk.property(label);
+        desk.setProperty(label, value);
+        EXPECT_EQ(desk.property(label), before) << label << " " << value;
+    };
+    refused("Width", "-50");
+    refused("Height", "-1");
+    refused("Width", "1000000");
+    refused("Xpos", "-1000000");
+    refused("Point Size", "999999999");
+    refused("Point Size", "0");
+    EXPECT_EQ(button->width, 75);
+    project.gridMode = 1;
+    selectWidget(button);
+    refused("Size", "0");
+    project.gridMode = 0;
+    WidgetNode* bar = desk.place(PLACE_TOOL_BAR, desk.panel, 200, 200);
+    ASSERT_TRUE(bar);
+    refused("Icon Size", "-5");
+    EXPECT_EQ(robot::reports(), std::vector<int>{});
+}
+
 TEST(Properties, TextGrowsToAButtonCell) {
     Desk desk;
+    hooks.hasEditor = [](Editor) { return true; };
     WidgetNode* text = desk.place(PLACE_TEXT_ENTRY, desk.panel, 10, 20);
     int kind = -1;
     owEnqPropertySetting(propertyList(), owPropertyItemNumber(propertyList(), "Text"), owPropertyKind, &kind, 0);
@@ -147,6 +199,7 @@ TEST(Properties, TextGrowsToAButtonCell) {
     EXPECT_EQ(kind, OPROPBUTTON);
     EXPECT_TRUE(desk.propertyEnabled("Scroll Bars"));
     EXPECT_FALSE(desk.propertyEnabled("Scrollable"));
+    hooks.hasEditor = [](Editor) { return false; };
 }
 
 TEST(Properties, OnlyOneWidgetIsActiveAtTheStart) {

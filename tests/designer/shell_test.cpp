@@ -408,6 +408,17 @@ TEST_F(DesignerTest, MissingHelpIsReportedEachTime) {
     unsetenv("ORBA");
 }
 
+TEST_F(DesignerTest, HelpThatIsAPageAloneIsShown) {
+    std::filesystem::create_directories(root / "Help");
+    writeTextFile(file("Help/Wdesign85.html"), "<h1>Tools</h1>");
+    setenv("ORBA", root.c_str(), 1);
+    start();
+    design.helpContext = "Tool Box";
+    send(CMD_HELP); // no box
+    send(CMD_HELP_DESIGNER);
+    unsetenv("ORBA");
+}
+
 TEST_F(DesignerTest, TheAboutBoxClosesWithReturn) {
     start();
     choose(menuEntry(CMD_ABOUT));

@@ -66,6 +66,24 @@ TEST(MessageBoxes, AnswersOfTheirButtons) {
     EXPECT_EQ(reports(), (std::vector<int>{1633}));
 }
 
+// A box shows its title whole, cannot be minimised, and belongs to the program though no window of it is active.
+TEST(MessageBoxes, AreOnesOfTheProgram) {
+    Toolkit toolkit;
+    watchProgram(false);
+    static QString longTitle;
+    longTitle = QString(60, QLatin1Char('W'));
+    viewOf(toolkit.master)->window()->hide();
+    settle();
+    whenOpen<QMessageBox>([](QMessageBox& box) {
+        EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(longTitle));
+        EXPECT_FALSE(box.windowFlags() & Qt::WindowMinMaxButtonsHint);
+        EXPECT_NE(box.parentWidget(), nullptr);
+        box.accept();
+    });
+    orba::messageBox(longTitle, "short", 1, 0);
+    watchProgram(true);
+}
+
 TEST(MessageBoxes, EscapeIsTheMildestAnswer) {
     { const Toolkit starter; } // makes the application; with no script at work the keys below answer
     struct Case {

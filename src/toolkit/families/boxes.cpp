@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QPointer>
@@ -71,6 +72,22 @@ QString startDirectory(const QString& wanted) {
     return QDir::currentPath();
 }
 
+// A box that follows another one at once finds no window active yet: the program's own then.
+QWidget* ownerOfBox() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    const Widget* master = widgetOf(1);
+    return master && master->view ? master->view->window() : nullptr;
+}
+
+// Wide enough for its title; there is nothing to minimise.
+void dress(QMessageBox& box) {
+    constexpr int FRAME = 120; // pixels of icon, close box and margins of the title
+    box.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(box.fontMetrics().horizontalAdvance(box.windowTitle()) + FRAME, 0),
+                      grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 } // namespace
 
 int messageBox(const QString& title, const QString& text, int icon, int buttons) {
@@ -78,7 +95,7 @@ int messageBox(const QString& title, const QString& text, int icon, int buttons)
     for (const ButtonSet& row : buttonSets)
         if (row.buttons == buttons) set = &row;
     const FocusKeeper keeper;
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(ownerOfBox());
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(text).replace(QLatin1Char('|'), QLatin1Char('\n')));
@@ -86,6 +103,7 @@ int messageBox(const QString& title, const QString& text, int icon, int buttons)
     box.setStandardButtons(set->shown);
     box.setDefaultButton(set->preset);
     box.setEscapeButton(set->escape);
+    dress(box);
     const int pressed = runBox(box);
     for (const Answer& answer : answers)
         if (pressed == answer.button) return answer.number;
@@ -108,7 +126,7 @@ QStringList dialogueFilters(const QString& filter) {
 
 bool fileBrowser(FileChoice& choice) {
     const FocusKeeper keeper;
-    QFileDialog dialogue(QApplication::activeWindow(), choice.title, startDirectory(choice.directory));
+    QFileDialog dialogue(ownerOfBox(), choice.title, startDirectory(choice.directory));
     dialogue.resize(760, 480);
     if (auto* files = dialogue.findChild<QTreeView*>(QStringLiteral("treeView"))) {
         constexpr int nameWidth = 290, dateWidth = 150;
@@ -136,7 +154,7 @@ bool fileBrowser(FileChoice& choice) {
 
 bool colourBox(QColor& colour) {
     const FocusKeeper keeper;
-    QColorDialog dialogue(colour, QApplication::activeWindow());
+    QColorDialog dialogue(colour, ownerOfBox());
     if (runBox(dialogue) != QDialog::Accepted) return false;
     colour = dialogue.selectedColor();
     return colour.isValid();
@@ -144,7 +162,7 @@ bool colourBox(QColor& colour) {
 
 bool fontBox(QFont& font) {
     const FocusKeeper keeper;
-    QFontDialog dialogue(font, QApplication::activeWindow());
+    QFontDialog dialogue(font, ownerOfBox());
     if (runBox(dialogue) != QDialog::Accepted) return false;
     font = dialogue.selectedFont();
     return true;

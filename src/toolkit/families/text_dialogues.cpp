@@ -15,6 +15,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextDocument>
 
 namespace orba {
@@ -140,6 +141,13 @@ std::unique_ptr<QTextDocument> listDocument(const Widget& widget, int pointSize)
     return document;
 }
 
+// The name of what is printed becomes a file's name: of a title that ends in a path in brackets, the file.
+QString documentName(const QString& title) {
+    const qsizetype path = title.lastIndexOf(QRegularExpression(QStringLiteral("[/\\\\]")));
+    QString name = title.mid(path + 1);
+    return name.remove(QRegularExpression(QStringLiteral("[\\[\\]:*?\"<>|]"))).trimmed();
+}
+
 Word printText(const Arguments& call) {
     Widget& widget = *widgetOf(call.integer(0));
     const TextEntry* entry = textEntryOf(&widget);
@@ -147,7 +155,7 @@ Word printText(const Arguments& call) {
     const std::unique_ptr<QTextDocument> document =
         entry ? entry->printable(pointSize, call.integer(1) == selectionOnly) : listDocument(widget, pointSize);
     QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(widget.view->window()->windowTitle());
+    printer.setDocName(documentName(widget.view->window()->windowTitle()));
     QPrintDialog box(&printer, widget.view->window());
     box.setOption(QAbstractPrintDialog::PrintSelection, false);
     if (runBox(box) != QDialog::Accepted) return 0;
