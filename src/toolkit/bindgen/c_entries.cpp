@@ -7,16 +7,6 @@ namespace {
 
 using namespace orba;
 
-std::string parameterList(const std::vector<Parameter>& parameters, bool open) {
-    std::string text;
-    for (const Parameter& parameter : parameters) {
-        if (!text.empty()) text += ", ";
-        text += std::string(cType(parameter.type)) + " " + parameter.name;
-    }
-    if (open) text += text.empty() ? "..." : ", ...";
-    return text.empty() ? "void" : text;
-}
-
 std::string words(const std::vector<Parameter>& parameters) {
     std::string text;
     for (const Parameter& parameter : parameters) {
@@ -26,22 +16,10 @@ std::string words(const std::vector<Parameter>& parameters) {
     return text;
 }
 
-// Routines that are declared with "..." in the header though the table knows no keyword for them, so that calls with
-// and without a closing 0 are one form.
-bool openWithoutKeywords(const std::string& name) {
-    for (const char* one : {"owDrawWindow", "owCreateMenuBar", "owCreatePullDownMenu", "owCreateMenuSeparator",
-                            "owEnqListEntry", "owSetWidgetHelp"}) {
-        if (name == one) return true;
-    }
-    return false;
-}
-
 void writeEntry(const FunctionRow& row) {
     const std::vector<Parameter> parameters = parametersOf(row);
     const bool keywords = row.keywords[0] != 0;
-    const bool open = keywords || openWithoutKeywords(row.name);
-    std::printf("%s %s(%s) {\n", row.result == Result::NONE ? "void" : "int", row.name,
-                parameterList(parameters, open).c_str());
+    std::printf("%s {\n", cDeclaration(row).c_str());
     std::printf("    Call call(Fn::%s, {%s});\n", row.name, words(parameters).c_str());
     if (keywords) {
         std::printf("    va_list pairs;\n    va_start(pairs, %s);\n    call.readList(pairs);\n    va_end(pairs);\n",

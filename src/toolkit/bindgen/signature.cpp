@@ -1,6 +1,21 @@
 #include "toolkit/bindgen/signature.h"
 
+#include <algorithm>
+
 namespace orba {
+namespace {
+
+// Routines that are declared with "..." though the table knows no keyword for them, so that calls with and without a
+// closing 0 are one form.
+constexpr Fn openWithoutKeywords[] = {Fn::owDrawWindow,          Fn::owCreateMenuBar, Fn::owCreatePullDownMenu,
+                                      Fn::owCreateMenuSeparator, Fn::owEnqListEntry,  Fn::owSetWidgetHelp};
+
+bool isOpen(const FunctionRow& row) {
+    return row.keywords[0] != 0 || std::find(std::begin(openWithoutKeywords), std::end(openWithoutKeywords),
+                                             functionByName(row.name)) != std::end(openWithoutKeywords);
+}
+
+} // namespace
 
 std::vector<Parameter> parametersOf(const FunctionRow& row) {
     std::vector<Parameter> parameters;
@@ -30,6 +45,16 @@ const char* cType(const std::string& type) {
         if (type == row.type) return row.c;
     }
     return type.c_str(); // records stand in the table as in C
+}
+
+std::string cDeclaration(const FunctionRow& row) {
+    std::string list;
+    for (const Parameter& parameter : parametersOf(row)) {
+        list += (list.empty() ? "" : ", ") + std::string(cType(parameter.type)) + " " + parameter.name;
+    }
+    if (isOpen(row)) list += list.empty() ? "..." : ", ...";
+    return std::string(row.result == Result::NONE ? "void " : "int ") + row.name + "(" +
+           (list.empty() ? "void" : list) + ")";
 }
 
 } // namespace orba

@@ -16,5 +16,7 @@ struct Parameter {
 std::vector<Parameter> parametersOf(const FunctionRow& row);
 // The C type of a parameter, for instance "const char*" for a text.
 const char* cType(const std::string& type);
+// A routine as menu-c.h declares it, without the semicolon.
+std::string cDeclaration(const FunctionRow& row);
 
 } // namespace orba

@@ -1,6 +1,9 @@
 // Operations by number: each stands for one routine.
 #include "toolkit/checked/entries.h"
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/properties.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/report.h"
+#include "toolkit/frame/routines.h"
 
 namespace orba {
 namespace {
@@ -102,10 +105,8 @@ void setMenuIcons(const Request& request) {
         reportFailure(26, request.at('a'));
         return;
     }
-    const std::pair<int, char> icons[] = {{113, 'b'}, {114, 'c'}, {111, 'd'}};
-    for (const auto& [property, from] : icons) {
-        setProperty(*entry, property, {.integer = request.at(from), .real = 0, .text = {}});
-    }
+    const std::pair<int, char> icons[] = {{owCheckIcon, 'b'}, {owUncheckIcon, 'c'}, {owGreyIcon, 'd'}};
+    for (const auto& [keyword, from] : icons) setProperty(*entry, propertyOf(keyword), request.at(from));
 }
 
 void createTreeEntry(const Request& request) {

@@ -1,7 +1,8 @@
 #include "toolkit/checked/entries.h"
 
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/creation.h"
 #include "toolkit/frame/report.h"
+#include "toolkit/frame/routines.h"
 #include "toolkit/frame/session.h"
 
 #include <algorithm>
@@ -436,7 +437,7 @@ Word checkedCall(const Arguments& call) {
     Word result = 0;
     const int program = call.function == Fn::owAction ? 0 : 1;
     session.programDepth += program;
-    if (checksPass(call)) {
+    if (checksPass(call) && hasHandleFor(call.function)) {
         if (const Handler handler = handlerOf(call.function)) result = handler(call);
     }
     session.programDepth -= program;

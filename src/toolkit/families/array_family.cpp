@@ -15,7 +15,7 @@ struct ArrayData : FamilyData {
     bool values = false;
     int columns = 1, rows = 1;
     int axisWidth = 0, axisHeight = 0; // in pixels
-    QString columnLabels, rowLabels;
+    QString columnLabels = QStringLiteral("*letters"), rowLabels = QStringLiteral("*digits");
     int columnJustify = OCENTRE, rowJustify = OCENTRE;
     int scroll = OBOTHBARS;
     int boundary = ONOBOUNDARY;
@@ -63,38 +63,26 @@ ArrayOptions optionsOf(const ArrayData& data) {
 
 void showArray(Widget& widget) { gridOf(widget).setOptions(optionsOf(dataOf<ArrayData>(widget))); }
 
-constexpr IntegerProperty<ArrayData> properties[] = {
-    {20, &ArrayData::boundary},   {43, &ArrayData::axisHeight},    {44, &ArrayData::axisWidth},
-    {78, &ArrayData::scroll},     {85, &ArrayData::columnJustify}, {86, &ArrayData::rowJustify},
-    {118, &ArrayData::axisBack},  {119, &ArrayData::columnText},   {120, &ArrayData::rowText},
-    {121, &ArrayData::cellBack},  {122, &ArrayData::cellBorder},   {123, &ArrayData::borderLine},
-    {124, &ArrayData::selected},  {129, &ArrayData::readOnly},     {130, &ArrayData::cellSelect},
-    {132, &ArrayData::tabAction},
+constexpr Attribute attributes[] = {
+    keeps<&ArrayData::boundary>(owBorderType),
+    keeps<&ArrayData::axisHeight>(owAxisH),
+    keeps<&ArrayData::axisWidth>(owAxisW),
+    keeps<&ArrayData::scroll>(owScrollMode),
+    keeps<&ArrayData::columnJustify>(owXjust),
+    keeps<&ArrayData::rowJustify>(owYjust),
+    keeps<&ArrayData::columnLabels>(owXtext),
+    keeps<&ArrayData::rowLabels>(owYtext),
+    keeps<&ArrayData::axisBack>(owAxisBackColour),
+    keeps<&ArrayData::columnText>(owXtextColour),
+    keeps<&ArrayData::rowText>(owYtextColour),
+    keeps<&ArrayData::cellBack>(owGridBackColour),
+    keeps<&ArrayData::cellBorder>(owCellBorderColour),
+    keeps<&ArrayData::borderLine>(owCellBorderLineType),
+    keeps<&ArrayData::selected>(owSelectedCellColour),
+    keeps<&ArrayData::readOnly>(owReadOnly),
+    keeps<&ArrayData::cellSelect>(owCellSelect),
+    keeps<&ArrayData::tabAction>(owTabAction),
 };
-struct TextProperty {
-    int number;
-    QString ArrayData::*field;
-};
-constexpr TextProperty textProperties[] = {{87, &ArrayData::columnLabels}, {88, &ArrayData::rowLabels}};
-
-bool getArrayProperty(Widget& widget, int property, Value& value) {
-    ArrayData& data = dataOf<ArrayData>(widget);
-    for (const TextProperty& row : textProperties)
-        if (row.number == property) {
-            value.text = data.*row.field;
-            return true;
-        }
-    return getInteger(properties, data, property, value);
-}
-
-bool setArrayProperty(Widget& widget, int property, const Value& value) {
-    ArrayData& data = dataOf<ArrayData>(widget);
-    bool known = setInteger(properties, data, property, value);
-    for (const TextProperty& row : textProperties)
-        if (row.number == property) data.*row.field = value.text, known = true;
-    if (known) showArray(widget);
-    return known;
-}
 
 QSize naturalSize(Widget& widget) {
     const ArrayGrid& grid = gridOf(widget);
@@ -103,8 +91,8 @@ QSize naturalSize(Widget& widget) {
 }
 
 const Family arrays{.name = "array",
-                    .get = getArrayProperty,
-                    .set = setArrayProperty,
+                    .attributes = attributes,
+                    .show = showArray,
                     .naturalSize = naturalSize,
                     .coloursChanged = showArray};
 
@@ -128,37 +116,15 @@ ArrayHooks hooksOf(int handle) {
 }
 
 Word create(const Arguments& call, bool values) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto data = std::make_unique<ArrayData>();
+    auto data = dataFrom<ArrayData>(arrays, call);
     data->values = values;
     data->columns = call.integer(5);
     data->rows = call.integer(6);
     // The label area is given in pixels in either mode; a negative size asks for the usual one.
-    const auto size = [&](int keyword, int usual) {
-        return call.given(keyword) && call.keyword(keyword) >= 0 ? call.keyword(keyword) : usual;
-    };
-    data->axisWidth = size(owAxisW, 40);
-    data->axisHeight = size(owAxisH, lineHeight());
-    data->columnLabels = call.given(owXtext) ? call.keywordText(owXtext) : QStringLiteral("*letters");
-    data->rowLabels = call.given(owYtext) ? call.keywordText(owYtext) : QStringLiteral("*digits");
-    data->columnJustify = call.keyword(owXjust);
-    data->rowJustify = call.keyword(owYjust);
-    data->scroll = call.keyword(owScrollMode);
-    data->boundary = call.keyword(owBorderType);
-    data->axisBack = call.keyword(owAxisBackColour);
-    data->columnText = call.keyword(owXtextColour);
-    data->rowText = call.keyword(owYtextColour);
-    data->cellBack = call.keyword(owGridBackColour);
-    data->cellBorder = call.keyword(owCellBorderColour);
-    data->borderLine = call.keyword(owCellBorderLineType);
-    data->selected = call.keyword(owSelectedCellColour);
-    data->readOnly = call.keyword(owReadOnly) == OON ? OON : OOFF;
-    data->cellSelect = call.keyword(owCellSelect);
-    data->tabAction = call.keyword(owTabAction);
-    auto* grid = new ArrayGrid(optionsOf(*data), {}, clientOf(parent));
-    Widget& widget = addWidget(Kind::array, arrays, parent, grid);
-    if (widget.handle == 0) return 0; // no handle was left
-    widget.data = std::move(data);
+    if (!call.given(owAxisW) || data->axisWidth < 0) data->axisWidth = 40;
+    if (!call.given(owAxisH) || data->axisHeight < 0) data->axisHeight = lineHeight();
+    auto* grid = new ArrayGrid(optionsOf(*data), {}, clientOf(call));
+    Widget& widget = addWidget(Kind::array, arrays, call, grid, std::move(data));
     grid->setHooks(hooksOf(widget.handle));
     return finishCreation(widget, call);
 }

@@ -1,7 +1,6 @@
 // Tool bars with their buttons and separators.
 #include "toolkit/families/main_window.h"
-#include "toolkit/frame/core.h"
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/session.h"
 #include "toolkit/frame/windows.h"
 #include "toolkit/views/docking.h"
 #include "toolkit/views/icons/icons.h"
@@ -11,6 +10,15 @@
 
 namespace orba {
 
+DockTitle dockTitleOf(int flag) {
+    if (flag == OALL || (flag & OQUIT)) return DockTitle::closable;
+    return flag & OTITLE ? DockTitle::title : DockTitle::none;
+}
+
+int titleFlagOf(const Arguments& call) {
+    return call.given(owTitleFlag) ? call.keyword(owTitleFlag) : static_cast<int>(OQUIT);
+}
+
 QMainWindow* mainWindowOf(Widget* widget) {
     const Widget* window = windowOf(widget);
     if (!window || !window->view) return nullptr;
@@ -18,24 +26,19 @@ QMainWindow* mainWindowOf(Widget* widget) {
     return main ? main : window->view->findChild<QMainWindow*>();
 }
 
-namespace {
-
-enum Property : int {
-    titleFlagProperty = 16,
-    offColour = 25,
-    onColour = 26,
-    textColour = 27,
-    kindProperty = 15,
-    separatorType = 42,
-    iconTypeProperty = 59,
-    iconProperty = 99,
-    iconHandleProperty = 100
-};
-
-DockTitle titleOf(int flag) {
-    if (flag == OALL || (flag & OQUIT)) return DockTitle::closable;
-    return flag & OTITLE ? DockTitle::title : DockTitle::none;
+QMainWindow* mainWindowGiven(const Arguments& call) {
+    QMainWindow* window = mainWindowOf(widgetOf(call.integer(0)));
+    if (!window) reportFailure(7, call.integer(0));
+    return window;
 }
+
+int finishBar(Widget& bar, const Arguments& call) {
+    const int handle = finishCreation(bar, call);
+    windowBarsChanged(*bar.parent);
+    return handle;
+}
+
+namespace {
 
 ToolBar& barOf(Widget& widget) { return *static_cast<ToolBar*>(widget.view.data()); }
 
@@ -90,9 +93,9 @@ void setBarStatus(Widget& widget, int status) {
 }
 
 bool setBarProperty(Widget& widget, int property, const Value& value) {
-    if (property != titleFlagProperty) return false;
+    if (property != propertyOf(owTitleFlag)) return false;
     widget.titleFlag = value.integer;
-    barOf(widget).setTitleBar(titleOf(value.integer));
+    barOf(widget).setTitleBar(dockTitleOf(value.integer));
     return true;
 }
 
@@ -106,21 +109,15 @@ const Family toolBars{.name = "tool bar",
                       .placeChild = placeOnBar};
 
 Word createToolBar(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    QMainWindow* window = mainWindowOf(parent);
-    if (!window) {
-        reportFailure(7, call.integer(0));
-        return 0;
-    }
+    QMainWindow* window = mainWindowGiven(call);
+    if (!window) return 0;
     const int size = call.integer(2) > 0 ? call.integer(2) : 22;
-    const int flag = call.given(owTitleFlag) ? call.keyword(owTitleFlag) : static_cast<int>(OQUIT);
-    auto* view = new ToolBar(window, dockOf(call.integer(1)), size, call.keywordText(owTitle), titleOf(flag));
-    Widget& bar = addWidget(Kind::toolBar, toolBars, parent, view);
+    const int flag = titleFlagOf(call);
+    auto* view = new ToolBar(window, dockOf(call.integer(1)), size, call.keywordText(owTitle), dockTitleOf(flag));
+    Widget& bar = addWidget(Kind::toolBar, toolBars, call, view, nullptr);
     bar.titleFlag = flag;
     view->report = [handle = bar.handle](DockEvent event) { reportDocking(handle, static_cast<int>(event)); };
-    const int handle = finishCreation(bar, call);
-    windowBarsChanged(*parent);
-    return handle;
+    return finishBar(bar, call);
 }
 
 Word setToolbarPos(const Arguments& call) {
@@ -173,21 +170,21 @@ void setButtonIcon(Widget& widget, const QIcon& icon) {
 
 bool setButtonProperty(Widget& widget, int property, const Value& value) {
     switch (property) {
-    case iconTypeProperty:
+    case propertyOf(owIconType):
         dataOf<ButtonData>(widget).iconType = value.integer;
         showButtonType(widget);
         return true;
-    case iconProperty:
-    case iconHandleProperty: setButtonIcon(widget, icons::iconOfResource(value.integer)); return true;
-    case offColour: setViewColour(widget.view, QPalette::Button, value.integer); return true;
-    case onColour: setViewColour(widget.view, QPalette::Highlight, value.integer); return true;
-    case textColour: setViewColour(widget.view, QPalette::ButtonText, value.integer); return true;
+    case propertyOf(owIcon):
+    case propertyOf(owIconHandle): setButtonIcon(widget, icons::iconOfResource(value.integer)); return true;
+    case propertyOf(owOffCol): setViewColour(widget.view, QPalette::Button, value.integer); return true;
+    case propertyOf(owOnCol): setViewColour(widget.view, QPalette::Highlight, value.integer); return true;
+    case propertyOf(owTextCol): setViewColour(widget.view, QPalette::ButtonText, value.integer); return true;
     default: return false;
     }
 }
 
 bool getButtonProperty(Widget& widget, int property, Value& value) {
-    if (property != iconTypeProperty) return false;
+    if (property != propertyOf(owIconType)) return false;
     value.integer = dataOf<ButtonData>(widget).iconType;
     return true;
 }
@@ -220,8 +217,7 @@ Word createToolBarButton(const Arguments& call) {
     view->setFocusPolicy(Qt::NoFocus);
     view->setMinimumSize(barOf(*bar).iconSize() + QSize(6, 6));
     view->setToolButtonStyle(data->isText ? Qt::ToolButtonTextOnly : Qt::ToolButtonIconOnly);
-    Widget& button = addWidget(Kind::toolButton, barButtons, bar, view);
-    button.data = std::move(data);
+    Widget& button = addWidget(Kind::toolButton, barButtons, call, view, std::move(data));
     setButtonText(button, call.text(2));
     showButtonType(button);
     const int handle = button.handle;
@@ -236,13 +232,13 @@ Word createToolBarButton(const Arguments& call) {
 BarSeparator& separatorOf(Widget& widget) { return *static_cast<BarSeparator*>(widget.view.data()); }
 
 bool setSeparatorProperty(Widget& widget, int property, const Value& value) {
-    if (property != separatorType) return false;
+    if (property != propertyOf(owSeparatorType)) return false;
     separatorOf(widget).setType(value.integer);
     return true;
 }
 
 bool getSeparatorProperty(Widget& widget, int property, Value& value) {
-    if (property != separatorType) return false;
+    if (property != propertyOf(owSeparatorType)) return false;
     value.integer = separatorOf(widget).type();
     return true;
 }
@@ -252,7 +248,7 @@ const Family separators{.name = "tool bar separator", .get = getSeparatorPropert
 Word createToolBarSeparator(const Arguments& call) {
     Widget* bar = widgetOf(call.integer(0));
     auto* view = new BarSeparator(&barOf(*bar), call.keyword(owSeparatorType));
-    Widget& separator = addWidget(Kind::toolSeparator, separators, bar, view);
+    Widget& separator = addWidget(Kind::toolSeparator, separators, call, view, nullptr);
     return finishCreation(separator, call);
 }
 

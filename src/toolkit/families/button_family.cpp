@@ -15,10 +15,8 @@ public:
         button->installEventFilter(this);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::FocusIn) {
-            const auto reason = static_cast<QFocusEvent*>(event)->reason();
-            if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) post(handle_, Slot::select, 1);
-        }
+        if (event->type() == QEvent::FocusIn && byUser(*static_cast<QFocusEvent*>(event)))
+            post(handle_, Slot::select, 1);
         return QObject::eventFilter(watched, event);
     }
 
@@ -34,6 +32,7 @@ void watch(QAbstractButton* button, int handle) {
 
 // ----------------------------------------------------------------------------------------------- push buttons
 
+// What push buttons and toggles have in common.
 struct ButtonData : FamilyData {
     QString label;
     int on = 0, off = 0, text = 0;
@@ -41,54 +40,33 @@ struct ButtonData : FamilyData {
     int icon = 0;
 };
 
+// The window face is what the theme draws, the window text what it writes.
+constexpr int windowFace = 12, windowText = 16;
+template <typename Look> void takeLook(Look& look, const Widget& widget, const ButtonData& data) {
+    look.label = data.label;
+    look.accelerator = widget.accel;
+    look.on = colourOrNone(data.on == windowFace ? 0 : data.on);
+    look.off = colourOrNone(data.off == windowFace ? 0 : data.off);
+    look.text = textColourOrNone(data.text == windowText ? 0 : data.text);
+}
+
 void showButton(Widget& widget) {
     const ButtonData& data = dataOf<ButtonData>(widget);
     ButtonLook look;
+    takeLook(look, widget, data);
     look.type = widget.type == OUSERDEFINED     ? ButtonType::UserDefined
                 : widget.type == ODEFAULTBUTTON ? ButtonType::Default
                                                 : ButtonType::Standard;
-    look.label = data.label;
-    look.accelerator = widget.accel;
     look.justify = std::clamp(data.justify, -1, 1);
-    look.on = colourOrNone(data.on == 12 ? 0 : data.on); // the window face is what the theme draws
-    look.off = colourOrNone(data.off == 12 ? 0 : data.off);
-    look.text = textColourOrNone(data.text == 16 ? 0 : data.text);
     look.icon = icons::iconOfResource(data.icon);
     static_cast<PushButton&>(*widget.view).setLook(look);
 }
 
-constexpr IntegerProperty<ButtonData> buttonProperties[] = {{25, &ButtonData::off},
-                                                            {26, &ButtonData::on},
-                                                            {27, &ButtonData::text},
-                                                            {30, &ButtonData::justify},
-                                                            {100, &ButtonData::icon}};
-constexpr int typeProperty = 47, accelProperty = 21;
-
-bool getButtonProperty(Widget& widget, int property, Value& value) {
-    if (property == typeProperty) {
-        value.integer = widget.type;
-        return true;
-    }
-    return getInteger(buttonProperties, dataOf<ButtonData>(widget), property, value);
-}
-
-bool setButtonProperty(Widget& widget, int property, const Value& value) {
-    if (property == typeProperty)
-        widget.type = value.integer;
-    else if (property == accelProperty)
-        widget.accel = value.integer;
-    else if (!setInteger(buttonProperties, dataOf<ButtonData>(widget), property, value))
-        return false;
-    showButton(widget);
-    return true;
-}
-
-QString buttonText(Widget& widget) { return dataOf<ButtonData>(widget).label; }
-
-void setButtonText(Widget& widget, const QString& text) {
-    dataOf<ButtonData>(widget).label = text;
-    showButton(widget);
-}
+constexpr Attribute buttonAttributes[] = {
+    keeps<&ButtonData::label>(owLabel),  keeps<&ButtonData::on>(owOnCol),        keeps<&ButtonData::off>(owOffCol),
+    keeps<&ButtonData::text>(owTextCol), keeps<&ButtonData::justify>(owJustify), keeps<&ButtonData::icon>(owIconHandle),
+    keeps<&Widget::type>(owButtonType),  keeps<&Widget::accel>(owAccel),
+};
 
 QSize buttonSize(Widget& widget) { return {std::max(widget.view->sizeHint().width(), 75), lineHeight() + 2}; }
 
@@ -100,29 +78,16 @@ void setButtonStatus(Widget& widget, int status) {
 }
 
 const Family pushButtons{.name = "push button",
-                         .get = getButtonProperty,
-                         .set = setButtonProperty,
+                         .attributes = buttonAttributes,
+                         .show = showButton,
                          .setStatus = setButtonStatus,
-                         .text = buttonText,
-                         .setText = setButtonText,
                          .naturalSize = buttonSize,
                          .coloursChanged = showButton};
 
 Word createPushButton(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* button = new PushButton(clientOf(parent));
-    Widget& widget = addWidget(Kind::pushButton, pushButtons, parent, button);
-    if (widget.handle == 0) return 0; // no handle was left
-    auto data = std::make_unique<ButtonData>();
-    data->label = call.text(5);
-    data->on = call.keyword(owOnCol);
-    data->off = call.keyword(owOffCol);
-    data->text = call.keyword(owTextCol);
-    data->justify = call.keyword(owJustify);
-    data->icon = call.keyword(owIconHandle);
-    widget.data = std::move(data);
-    widget.type = typeKeyword(call, owButtonType);
-    widget.accel = call.keyword(owAccel);
+    auto* button = new PushButton(clientOf(call));
+    Widget& widget = addWidget<ButtonData>(Kind::pushButton, pushButtons, call, button);
+    dataOf<ButtonData>(widget).label = call.text(5);
     showButton(widget);
     watch(button, widget.handle);
     return finishCreation(widget, call);
@@ -130,55 +95,20 @@ Word createPushButton(const Arguments& call) {
 
 // ---------------------------------------------------------------------------------------------------- toggles
 
-struct ToggleData : FamilyData {
-    QString label;
-    int on = 0, off = 0, text = 0;
-};
-
 ToggleButton& toggleOf(Widget& widget) { return static_cast<ToggleButton&>(*widget.view); }
 
 void showToggle(Widget& widget) {
-    const ToggleData& data = dataOf<ToggleData>(widget);
     ToggleLook look;
+    takeLook(look, widget, dataOf<ButtonData>(widget));
     look.type = toggleType(widget.type);
-    look.label = data.label;
-    look.accelerator = widget.accel;
-    look.on = colourOrNone(data.on == 12 ? 0 : data.on);
-    look.off = colourOrNone(data.off == 12 ? 0 : data.off);
-    look.text = textColourOrNone(data.text == 16 ? 0 : data.text);
     look.exclusive = widget.parent && widget.parent->kind == Kind::radioBox;
     toggleOf(widget).setLook(look);
 }
 
-constexpr IntegerProperty<ToggleData> toggleProperties[] = {
-    {25, &ToggleData::off}, {26, &ToggleData::on}, {27, &ToggleData::text}};
-constexpr int toggleTypeProperty = 83;
-
-bool getToggleProperty(Widget& widget, int property, Value& value) {
-    if (property == toggleTypeProperty) {
-        value.integer = widget.type;
-        return true;
-    }
-    return getInteger(toggleProperties, dataOf<ToggleData>(widget), property, value);
-}
-
-bool setToggleProperty(Widget& widget, int property, const Value& value) {
-    if (property == toggleTypeProperty)
-        widget.type = value.integer;
-    else if (property == accelProperty)
-        widget.accel = value.integer;
-    else if (!setInteger(toggleProperties, dataOf<ToggleData>(widget), property, value))
-        return false;
-    showToggle(widget);
-    return true;
-}
-
-QString toggleText(Widget& widget) { return dataOf<ToggleData>(widget).label; }
-
-void setToggleText(Widget& widget, const QString& text) {
-    dataOf<ToggleData>(widget).label = text;
-    showToggle(widget);
-}
+constexpr Attribute toggleAttributes[] = {
+    keeps<&ButtonData::label>(owLabel),  keeps<&ButtonData::on>(owOnCol),    keeps<&ButtonData::off>(owOffCol),
+    keeps<&ButtonData::text>(owTextCol), keeps<&Widget::type>(owToggleType), keeps<&Widget::accel>(owAccel),
+};
 
 QSize toggleSize(Widget& widget) { return {widget.view->sizeHint().width(), lineHeight()}; }
 
@@ -189,11 +119,9 @@ void setToggleStatus(Widget& widget, int status) {
 }
 
 const Family toggles{.name = "toggle",
-                     .get = getToggleProperty,
-                     .set = setToggleProperty,
+                     .attributes = toggleAttributes,
+                     .show = showToggle,
                      .setStatus = setToggleStatus,
-                     .text = toggleText,
-                     .setText = setToggleText,
                      .naturalSize = toggleSize,
                      .coloursChanged = showToggle};
 
@@ -214,18 +142,9 @@ int numberInBox(const Widget& widget) {
 }
 
 Word createToggle(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* toggle = new ToggleButton(clientOf(parent));
-    Widget& widget = addWidget(Kind::toggle, toggles, parent, toggle);
-    if (widget.handle == 0) return 0; // no handle was left
-    auto data = std::make_unique<ToggleData>();
-    data->label = call.text(5);
-    data->on = call.keyword(owOnCol);
-    data->off = call.keyword(owOffCol);
-    data->text = call.keyword(owTextCol);
-    widget.data = std::move(data);
-    widget.type = typeKeyword(call, owToggleType);
-    widget.accel = call.keyword(owAccel);
+    auto* toggle = new ToggleButton(clientOf(call));
+    Widget& widget = addWidget<ButtonData>(Kind::toggle, toggles, call, toggle);
+    dataOf<ButtonData>(widget).label = call.text(5);
     showToggle(widget);
     toggle->setChecked(call.integer(6) != 0);
     releaseOthers(widget);
@@ -281,36 +200,8 @@ void showIcon(Widget& widget) {
     iconOf(widget).setLook(look);
 }
 
-constexpr IntegerProperty<IconData> iconProperties[] = {{100, &IconData::resource}};
-constexpr int iconTypeProperty = 59, labelProperty = 66;
-
-bool getIconProperty(Widget& widget, int property, Value& value) {
-    if (property == iconTypeProperty)
-        value.integer = widget.type;
-    else if (property == labelProperty)
-        value.text = dataOf<IconData>(widget).label;
-    else
-        return getInteger(iconProperties, dataOf<IconData>(widget), property, value);
-    return true;
-}
-
-bool setIconProperty(Widget& widget, int property, const Value& value) {
-    if (property == iconTypeProperty)
-        widget.type = value.integer;
-    else if (property == labelProperty)
-        dataOf<IconData>(widget).label = value.text;
-    else if (!setInteger(iconProperties, dataOf<IconData>(widget), property, value))
-        return false;
-    showIcon(widget);
-    return true;
-}
-
-QString iconText(Widget& widget) { return dataOf<IconData>(widget).label; }
-
-void setIconText(Widget& widget, const QString& text) {
-    dataOf<IconData>(widget).label = text;
-    showIcon(widget);
-}
+constexpr Attribute iconAttributes[] = {keeps<&IconData::label>(owLabel), keeps<&IconData::resource>(owIconHandle),
+                                        keeps<&Widget::type>(owIconType)};
 
 void setIconStatus(Widget& widget, int status) {
     widget.view->setVisible(status != OHIDDEN);
@@ -326,27 +217,19 @@ QSize iconSize(Widget& widget) {
 }
 
 const Family iconWidgets{.name = "icon",
-                         .get = getIconProperty,
-                         .set = setIconProperty,
+                         .attributes = iconAttributes,
+                         .show = showIcon,
                          .setStatus = setIconStatus,
-                         .text = iconText,
-                         .setText = setIconText,
                          .naturalSize = iconSize,
                          .coloursChanged = showIcon};
 
 Word createIcon(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* icon = new IconButton(clientOf(parent));
-    Widget& widget = addWidget(Kind::icon, iconWidgets, parent, icon);
-    if (widget.handle == 0) return 0; // no handle was left
-    auto data = std::make_unique<IconData>();
-    data->file = call.text(5);
-    data->format = call.integer(6);
-    data->number = call.integer(7);
-    data->label = call.keywordText(owLabel);
-    data->resource = call.keyword(owIconHandle);
-    widget.data = std::move(data);
-    widget.type = call.given(owIconType) ? call.keyword(owIconType) : call.keyword(owType);
+    auto* icon = new IconButton(clientOf(call));
+    Widget& widget = addWidget<IconData>(Kind::icon, iconWidgets, call, icon);
+    auto& data = dataOf<IconData>(widget);
+    data.file = call.text(5);
+    data.format = call.integer(6);
+    data.number = call.integer(7);
     showIcon(widget);
     watch(icon, widget.handle);
     return finishCreation(widget, call);

@@ -14,8 +14,6 @@
 namespace orba {
 namespace {
 
-enum Property : int { heightProperty = 4, accessProperty = 34, sortProperty = 41, descWidthProperty = 97 };
-
 class ComboView : public QComboBox {
 public:
     using QComboBox::QComboBox;
@@ -86,10 +84,10 @@ void setComboText(Widget& widget, const QString& text) {
 
 bool getComboProperty(Widget& widget, int property, Value& value) {
     switch (property) {
-    case sortProperty: value.integer = dataOf<ComboData>(widget).sorted ? OSORTED : OUNSORTED; return true;
-    case accessProperty: value.integer = comboOf(widget).isEditable() ? OEDIT : ODISPLAY; return true;
-    case descWidthProperty: value.integer = unitsAcross(comboOf(widget).rows->width); return true;
-    case heightProperty: value.integer = unitsDown(comboOf(widget).listHeight); return true;
+    case propertyOf(owSort): value.integer = dataOf<ComboData>(widget).sorted ? OSORTED : OUNSORTED; return true;
+    case propertyOf(owAccess): value.integer = comboOf(widget).isEditable() ? OEDIT : ODISPLAY; return true;
+    case propertyOf(owDescWidth): value.integer = unitsAcross(comboOf(widget).rows->width); return true;
+    case propertyOf(owHeight): value.integer = unitsDown(comboOf(widget).listHeight); return true;
     default: return false;
     }
 }
@@ -98,13 +96,13 @@ bool setComboProperty(Widget& widget, int property, const Value& value) {
     ComboView& combo = comboOf(widget);
     const QSignalBlocker quiet(&combo);
     switch (property) {
-    case sortProperty:
+    case propertyOf(owSort):
         dataOf<ComboData>(widget).sorted = value.integer == OSORTED;
         if (value.integer == OSORTED) combo.model()->sort(0);
         return true;
-    case accessProperty: combo.setEditable(value.integer == OEDIT); return true;
-    case descWidthProperty: combo.rows->width = pixelsAcross(value.integer); return true;
-    case heightProperty: combo.listHeight = pixelsDown(value.integer); return true;
+    case propertyOf(owAccess): combo.setEditable(value.integer == OEDIT); return true;
+    case propertyOf(owDescWidth): combo.rows->width = pixelsAcross(value.integer); return true;
+    case propertyOf(owHeight): combo.listHeight = pixelsDown(value.integer); return true;
     default: return false;
     }
 }
@@ -144,18 +142,15 @@ void watch(Widget& widget) {
 }
 
 Word createComboBox(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* view = new ComboView(clientOf(parent));
+    auto* view = new ComboView(clientOf(call));
     view->setEditable(call.integer(6) == OEDIT);
     view->rows = new DescribedRow(view);
     view->rows->margin = 7;
     if (call.given(owDescWidth)) view->rows->width = pixelsAcross(call.keyword(owDescWidth));
-    Widget& combo = addWidget(Kind::comboBox, comboBoxes, parent, view);
+    Widget& combo = addWidget<ComboData>(Kind::comboBox, comboBoxes, call, view);
     view->handle = combo.handle;
     view->listHeight = pixelsDown(call.integer(4));
-    auto data = std::make_unique<ComboData>();
-    data->sorted = call.keyword(owSort) == OSORTED;
-    combo.data = std::move(data);
+    dataOf<ComboData>(combo).sorted = call.keyword(owSort) == OSORTED;
     watch(combo);
     const QSignalBlocker quiet(view);
     for (const ListRow& row : listContents(call.integer(5))) listEntry(combo, {OADD, 0, row.text, row.icon});

@@ -1,5 +1,6 @@
 // Pointer shapes, the pointer's place, and the switches that only keep what the program says.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/core.h"
+#include "toolkit/frame/session.h"
 
 #include <QApplication>
 #include <QCursor>

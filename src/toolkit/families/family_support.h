@@ -8,17 +8,13 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace orba {
 
 // 0, and for text also 1, mean the theme's own colour.
 inline QColor colourOrNone(int colour) { return colour > 0 ? colourOf(colour) : QColor(); }
 inline QColor textColourOrNone(int colour) { return colour > 1 ? colourOf(colour) : QColor(); }
-
-// owType stands for the type keyword of a family; each family also has one of its own.
-inline int typeKeyword(const Arguments& call, int ownKeyword) {
-    return call.given(ownKeyword) ? call.keyword(ownKeyword) : call.keyword(owType);
-}
 
 // False for focus that comes and goes with a pop-up or with the whole window, which is no news for a program: a window
 // that becomes active gives the focus to what had it last, even when the user is about to click on something else.
@@ -45,28 +41,11 @@ template <typename T> void giveKeyword(const Arguments& call, int keyword, T val
     if (T* result = call.keywordRecord<T>(keyword)) *result = value;
 }
 
-// Remembers what a property holds and tells whether there is one: rows of a family's table.
-template <typename Data> struct IntegerProperty {
-    int number;
-    int Data::*field;
-};
-template <typename Data, std::size_t N>
-bool getInteger(const IntegerProperty<Data> (&rows)[N], const Data& data, int property, Value& value) {
-    for (const auto& row : rows)
-        if (row.number == property) {
-            value.integer = data.*row.field;
-            return true;
-        }
-    return false;
-}
-template <typename Data, std::size_t N>
-bool setInteger(const IntegerProperty<Data> (&rows)[N], Data& data, int property, const Value& value) {
-    for (const auto& row : rows)
-        if (row.number == property) {
-            data.*row.field = value.integer;
-            return true;
-        }
-    return false;
+// Of a family whose view is a stop of the Tab key only as its options say.
+inline bool setTabStop(Widget& widget, int property, const Value& value) {
+    if (property != propertyOf(owTabList)) return false;
+    if (std::exchange(widget.tabList, value.integer) != value.integer) widget.family->show(widget);
+    return true;
 }
 
 } // namespace orba

@@ -2,7 +2,6 @@
 #include "toolkit/families/graphics_family.h"
 
 #include "toolkit/families/family_support.h"
-#include "toolkit/frame/frame.h"
 #include "toolkit/views/text/program_text.h"
 
 #include <QApplication>
@@ -58,10 +57,8 @@ private:
     int handle_;
 };
 
-constexpr int frameTypeProperty = 54;
-
 bool getFrameProperty(Widget& widget, int property, Value& value) {
-    if (property != frameTypeProperty) return false;
+    if (property != propertyOf(owFrameType)) return false;
     value.integer = dataOf<FrameData>(widget).frameType;
     return true;
 }
@@ -103,19 +100,16 @@ void postExpose(int handle) {
 }
 
 Word createFrame(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
     const auto* limits = call.record<const OLIMIT>(5);
     if (!goodLimits(limits)) {
         reportFailure(10, 0);
         return 0;
     }
-    auto* frame = new GraphicsFrame(clientOf(parent));
-    const int type = call.keyword(owFrameType);
-    Widget& widget = addWidget(type == OOPENGL ? Kind::openGlFrame : Kind::graphicsFrame, frames, parent, frame);
-    if (widget.handle == 0) return 0; // no handle was left
+    auto* frame = new GraphicsFrame(clientOf(call));
     auto data = std::make_unique<FrameData>();
-    data->frameType = type;
-    widget.data = std::move(data);
+    data->frameType = call.keyword(owFrameType);
+    const Kind kind = data->frameType == OOPENGL ? Kind::openGlFrame : Kind::graphicsFrame;
+    Widget& widget = addWidget(kind, frames, call, frame, std::move(data));
     frame->setLimits(rectOf(*limits));
     new FrameMouse(frame, widget.handle);
     frame->exposed = [handle = widget.handle] { postExpose(handle); };

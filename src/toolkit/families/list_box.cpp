@@ -14,17 +14,6 @@
 namespace orba {
 namespace {
 
-enum Property : int {
-    offColour = 25,
-    onColour = 26,
-    textColour = 27,
-    sortProperty = 41,
-    typeProperty = 42,
-    styleProperty = 73,
-    iconProperty = 99,
-    descWidthProperty = 97
-};
-
 constexpr QAbstractItemView::SelectionMode selectionModes[] = {
     QAbstractItemView::SingleSelection, QAbstractItemView::MultiSelection, QAbstractItemView::ExtendedSelection};
 
@@ -97,16 +86,16 @@ void setListType(Widget& widget, int type) {
 bool setListProperty(Widget& widget, int property, const Value& value) {
     ListView& list = listOf(widget);
     switch (property) {
-    case offColour: setViewColour(&list, QPalette::Base, value.integer); return true;
-    case onColour: setViewColour(&list, QPalette::Highlight, value.integer); return true;
-    case textColour: setViewColour(&list, QPalette::Text, value.integer); return true;
-    case typeProperty: setListType(widget, value.integer); return true;
-    case sortProperty:
+    case propertyOf(owOffCol): setViewColour(&list, QPalette::Base, value.integer); return true;
+    case propertyOf(owOnCol): setViewColour(&list, QPalette::Highlight, value.integer); return true;
+    case propertyOf(owTextCol): setViewColour(&list, QPalette::Text, value.integer); return true;
+    case propertyOf(owListType): setListType(widget, value.integer); return true;
+    case propertyOf(owSort):
         dataOf<ListData>(widget).sorted = value.integer == OSORTED;
         if (value.integer == OSORTED) list.sortItems();
         return true;
-    case styleProperty: list.wholeRows = value.integer == OAPPROX; return true;
-    case descWidthProperty:
+    case propertyOf(owListStyle): list.wholeRows = value.integer == OAPPROX; return true;
+    case propertyOf(owDescWidth):
         list.rows->width = pixelsAcross(value.integer);
         list.viewport()->update();
         return true;
@@ -117,10 +106,10 @@ bool setListProperty(Widget& widget, int property, const Value& value) {
 bool getListProperty(Widget& widget, int property, Value& value) {
     const ListView& list = listOf(widget);
     switch (property) {
-    case typeProperty: value.integer = widget.type; return true;
-    case sortProperty: value.integer = dataOf<ListData>(widget).sorted ? OSORTED : OUNSORTED; return true;
-    case styleProperty: value.integer = list.wholeRows ? OAPPROX : OEXACT; return true;
-    case descWidthProperty: value.integer = unitsAcross(list.rows->width); return true;
+    case propertyOf(owListType): value.integer = widget.type; return true;
+    case propertyOf(owSort): value.integer = dataOf<ListData>(widget).sorted ? OSORTED : OUNSORTED; return true;
+    case propertyOf(owListStyle): value.integer = list.wholeRows ? OAPPROX : OEXACT; return true;
+    case propertyOf(owDescWidth): value.integer = unitsAcross(list.rows->width); return true;
     default: return false;
     }
 }
@@ -140,31 +129,27 @@ const Family listBoxes{
     .name = "list box", .get = getListProperty, .set = setListProperty, .text = listText, .naturalSize = listSize};
 
 Word createListBox(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* view = new ListView(clientOf(parent));
+    auto* view = new ListView(clientOf(call));
     auto* rows = new DescribedRow(view);
     view->rows = rows;
     view->setItemDelegate(rows);
     view->setUniformItemSizes(true);
     view->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    Widget& list = addWidget(Kind::listBox, listBoxes, parent, view);
+    Widget& list = addWidget<ListData>(Kind::listBox, listBoxes, call, view);
     view->handle = list.handle;
-    auto data = std::make_unique<ListData>();
-    data->sorted = call.keyword(owSort) == OSORTED;
-    data->capacity = call.given(owCapacity) ? call.keyword(owCapacity) : 0;
-    data->icons = call.keyword(owUseIcons) != OOFF;
-    list.data = std::move(data);
+    auto& data = dataOf<ListData>(list);
+    data.sorted = call.keyword(owSort) == OSORTED;
+    data.capacity = call.given(owCapacity) ? call.keyword(owCapacity) : 0;
+    data.icons = call.keyword(owUseIcons) != OOFF;
     const int contents = call.integer(5);
     for (const ListRow& row : listContents(contents)) listEntry(list, {OADD, 0, row.text, row.icon});
-    const int type = call.given(owListType) ? call.keyword(owListType) : call.keyword(owType);
+    const int type = typeKeyword(call, owListType);
     const int handle = finishCreation(list, call);
     setListType(list, type);
     view->wholeRows = (call.given(owListStyle) ? call.keyword(owListStyle) : call.keyword(owStyle)) == OAPPROX;
     if (call.given(owDescWidth)) rows->width = pixelsAcross(call.keyword(owDescWidth));
-    constexpr std::pair<int, int> colours[] = {{owOffCol, offColour}, {owOnCol, onColour}, {owTextCol, textColour}};
-    for (const auto& [keyword, property] : colours)
-        if (call.given(keyword))
-            setListProperty(list, property, {.integer = call.keyword(keyword), .real = 0, .text = {}});
+    for (const int keyword : {owOffCol, owOnCol, owTextCol})
+        if (call.given(keyword)) setProperty(list, propertyOf(keyword), call.keyword(keyword));
     return handle;
 }
 

@@ -46,35 +46,13 @@ void setEntryStatus(Widget& entry, int status) {
     if (entry.kind == Kind::menuEntry) showEntry(entry);
 }
 
-bool getEntryProperty(Widget& entry, int property, Value& value) {
-    const EntryData& data = entryData(entry);
-    switch (property) {
-    case 113: value.integer = data.checkIcon; return true;
-    case 114: value.integer = data.uncheckIcon; return true;
-    case 111: value.integer = data.greyIcon; return true;
-    default: return false;
-    }
-}
-
-bool setEntryProperty(Widget& entry, int property, const Value& value) {
-    switch (property) {
-    case 21: entry.accel = value.integer; break;
-    case 55: entry.help = value.text; break;
-    case 111: entryData(entry).greyIcon = value.integer; break;
-    case 113: entryData(entry).checkIcon = value.integer; break;
-    case 114: entryData(entry).uncheckIcon = value.integer; break;
-    default: return false;
-    }
-    showEntry(entry);
-    return true;
-}
-
-QString entryLabel(Widget& entry) { return entryData(entry).label; }
-
-void setEntryLabel(Widget& entry, const QString& label) {
-    entryData(entry).label = label;
-    showEntry(entry);
-}
+constexpr Attribute entryAttributes[] = {
+    keeps<&EntryData::label>(owLabel),
+    keeps<&EntryData::checkIcon>(owCheckIcon),
+    keeps<&EntryData::uncheckIcon>(owUncheckIcon),
+    keeps<&EntryData::greyIcon>(owGreyIcon),
+    keeps<&Widget::accel>(owAccel),
+};
 
 void entryErased(Widget& entry) { delete entryData(entry).action; }
 
@@ -93,11 +71,9 @@ const Family bars{.name = "menu bar", .setStatus = setMenuStatus};
 const Family pullDowns{.name = "pull-down menu", .setStatus = setMenuStatus, .erased = pullDownErased};
 const Family popups{.name = "pop-up menu", .setStatus = setMenuStatus};
 const Family entries{.name = "menu entry",
-                     .get = getEntryProperty,
-                     .set = setEntryProperty,
+                     .attributes = entryAttributes,
+                     .show = showEntry,
                      .setStatus = setEntryStatus,
-                     .text = entryLabel,
-                     .setText = setEntryLabel,
                      .erased = entryErased};
 const Family separators{.name = "menu separator", .setStatus = setEntryStatus, .erased = entryErased};
 
@@ -113,11 +89,10 @@ void chosen(int handle) {
     }
 }
 
-Widget& addAction(Kind kind, const Family& family, Widget& menu) {
-    Widget& entry = addWidget(kind, family, &menu, nullptr);
-    auto data = std::make_unique<EntryData>();
-    data->action = new QAction(menu.view);
-    entry.data = std::move(data);
+Widget& addAction(Kind kind, const Family& family, const Arguments& call) {
+    const Widget& menu = *widgetOf(call.integer(0));
+    Widget& entry = addWidget<EntryData>(kind, family, call, nullptr);
+    entryData(entry).action = new QAction(menu.view);
     menu.view->addAction(entryData(entry).action);
     return entry;
 }
@@ -128,8 +103,7 @@ Word createMenuBar(const Arguments& call) {
     auto* view = new QMenuBar(form);
     view->setNativeMenuBar(false);
     form->setMenuBar(view);
-    Widget& bar = addWidget(Kind::menuBar, bars, &window, view);
-    return bar.handle;
+    return addWidget(Kind::menuBar, bars, &window, view).handle;
 }
 
 Word createPullDown(const Arguments& call) {
@@ -142,13 +116,9 @@ Word createPullDown(const Arguments& call) {
 
 Word createEntry(const Arguments& call) {
     Widget& menu = *widgetOf(call.integer(0));
-    Widget& entry = addAction(Kind::menuEntry, entries, menu);
-    if (entry.handle == 0) return 0;
+    Widget& entry = addAction(Kind::menuEntry, entries, call);
     EntryData& data = entryData(entry);
     data.label = call.text(1);
-    data.checkIcon = call.keyword(owCheckIcon);
-    data.uncheckIcon = call.keyword(owUncheckIcon);
-    data.greyIcon = call.keyword(owGreyIcon);
     const int handle = entry.handle;
     QObject::connect(data.action, &QAction::triggered, data.action, [handle] { chosen(handle); });
     QObject::connect(data.action, &QAction::hovered, data.action, [handle] { post(handle, Slot::select); });
@@ -159,8 +129,7 @@ Word createEntry(const Arguments& call) {
 }
 
 Word createSeparator(const Arguments& call) {
-    Widget& separator = addAction(Kind::menuSeparator, separators, *widgetOf(call.integer(0)));
-    if (separator.handle == 0) return 0;
+    Widget& separator = addAction(Kind::menuSeparator, separators, call);
     entryData(separator).action->setSeparator(true);
     return separator.handle;
 }

@@ -58,78 +58,39 @@ void showPanel(Widget& widget) {
     widget.client = panel.content();
 }
 
-constexpr IntegerProperty<PanelData> properties[] = {
-    {20, &PanelData::boundary}, {47, &PanelData::boundary},   {35, &PanelData::line},   {36, &PanelData::lineBorder},
-    {37, &PanelData::fill},     {38, &PanelData::fillBorder}, {78, &PanelData::scroll},
+constexpr Attribute attributes[] = {
+    keeps<&PanelData::boundary>(owBorderType), keeps<&PanelData::boundary>(owButtonType),
+    keeps<&PanelData::line>(owLineCol),        keeps<&PanelData::lineBorder>(owLineBorder),
+    keeps<&PanelData::fill>(owFillCol),        keeps<&PanelData::fillBorder>(owFillBorder),
+    keeps<&PanelData::scroll>(owScrollMode),   keeps<&PanelData::title>(owTitle),
+    keeps<&PanelData::image>(owImage),
 };
-struct TextProperty {
-    int number;
-    QString PanelData::*field;
-};
-constexpr TextProperty textProperties[] = {{82, &PanelData::title}, {64, &PanelData::image}};
 
 // The title has a font of its own, which the widgets in the panel do not inherit.
-bool getFontProperty(Widget& widget, int property, Value& value) {
-    const QFont font = panelOf(widget).look().titleFont;
-    switch (property) {
-    case 45: value.integer = font.bold(); return true;
-    case 65: value.integer = font.italic(); return true;
-    case 79: value.integer = font.strikeOut(); return true;
-    case 84: value.integer = font.underline(); return true;
-    default: return false;
-    }
-}
-
-bool setFontProperty(Widget& widget, int property, const Value& value) {
+bool setTitleFont(Widget& widget, int property, const Value& value) {
     PanelLook look = panelOf(widget).look();
     QFont& font = look.titleFont;
-    switch (property) {
-    case 45: font.setBold(value.integer != 0); break;
-    case 65: font.setItalic(value.integer != 0); break;
-    case 79: font.setStrikeOut(value.integer != 0); break;
-    case 84: font.setUnderline(value.integer != 0); break;
-    case 53: widget.fontFace = value.text; break;
-    case 72: widget.pointSize = value.integer > 0 ? std::min(value.integer, 400) : 10; break;
-    default: return false;
-    }
-    if (property == 53 || property == 72) {
+    if (property == propertyOf(owFontFace) || property == propertyOf(owPointSize)) {
+        if (property == propertyOf(owFontFace)) widget.fontFace = value.text;
+        if (property == propertyOf(owPointSize)) widget.pointSize = pointsFrom(value.integer);
         const QFont face = fontFor(widget.fontFace, widget.pointSize);
         font.setFamilies(face.families());
         font.setPointSizeF(face.pointSizeF());
+    } else if (!setFontSwitch(font, property, value)) {
+        return false;
     }
     panelOf(widget).setLook(look);
     return true;
 }
 
 bool getPanelProperty(Widget& widget, int property, Value& value) {
-    PanelData& data = dataOf<PanelData>(widget);
-    for (const TextProperty& row : textProperties)
-        if (row.number == property) {
-            value.text = data.*row.field;
-            return true;
-        }
-    return getInteger(properties, data, property, value) || getFontProperty(widget, property, value);
+    return getFontSwitch(panelOf(widget).look().titleFont, property, value);
 }
 
 bool setPanelProperty(Widget& widget, int property, const Value& value) {
-    PanelData& data = dataOf<PanelData>(widget);
-    constexpr int iconProperty = 99;
-    if (property == iconProperty) {
-        panelOf(widget).setWindowIcon(icons::iconOfResource(value.integer));
-        return true;
-    }
-    bool known = setInteger(properties, data, property, value);
-    for (const TextProperty& row : textProperties)
-        if (row.number == property) data.*row.field = value.text, known = true;
-    if (known) showPanel(widget);
-    return known || setFontProperty(widget, property, value);
-}
-
-QString titleOf(Widget& widget) { return dataOf<PanelData>(widget).title; }
-
-void setTitle(Widget& widget, const QString& title) {
-    dataOf<PanelData>(widget).title = title;
-    showPanel(widget);
+    if (property != propertyOf(owIcon)) return setTitleFont(widget, property, value);
+    panelOf(widget).setWindowIcon(icons::iconOfResource(value.integer));
+    return true;
 }
 
 void childAdded(Widget& widget, Widget&) { panelOf(widget).fitContent(); }
@@ -144,17 +105,17 @@ void radioChildAdded(Widget& widget, Widget& child) {
 }
 
 const Family panels{.name = "panel",
+                    .attributes = attributes,
+                    .show = showPanel,
                     .get = getPanelProperty,
                     .set = setPanelProperty,
-                    .text = titleOf,
-                    .setText = setTitle,
                     .coloursChanged = showPanel,
                     .childAdded = childAdded};
 const Family radioBoxes{.name = "radio box",
+                        .attributes = attributes,
+                        .show = showPanel,
                         .get = getPanelProperty,
                         .set = setPanelProperty,
-                        .text = titleOf,
-                        .setText = setTitle,
                         .coloursChanged = showPanel,
                         .childAdded = radioChildAdded};
 
@@ -194,26 +155,12 @@ private:
 };
 
 Word create(const Arguments& call, Kind kind, const Family& family) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto data = std::make_unique<PanelData>();
-    data->boundary = kind == Kind::radioBox ? call.keyword(owBorderType)
-                     : call.given(owType)   ? call.keyword(owType)
-                                            : call.keyword(owBorderType);
-    data->title = call.keywordText(owTitle);
-    data->line = call.keyword(owLineCol);
-    data->fill = call.keyword(owFillCol);
-    data->lineBorder = call.keyword(owLineBorder);
-    data->fillBorder = call.keyword(owFillBorder);
-    if (kind == Kind::panel) {
-        data->scroll = call.keyword(owScrollMode);
-        data->image = call.keywordText(owImage);
-    }
-    auto* panel = new Panel(clientOf(parent));
+    auto data = dataFrom<PanelData>(family, call);
+    if (kind == Kind::panel && call.given(owType)) data->boundary = call.keyword(owType);
+    auto* panel = new Panel(clientOf(call));
     panel->setLook(lookOf(*data, QApplication::font()));
-    Widget& widget = addWidget(kind, family, parent, panel);
-    if (widget.handle == 0) return 0; // no handle was left
+    Widget& widget = addWidget(kind, family, call, panel, std::move(data));
     widget.client = panel->content();
-    widget.data = std::move(data);
     if (isPage(widget)) {
         panel->setWindowIcon(icons::iconOfResource(call.keyword(owIcon)));
         showPanel(widget);

@@ -1,33 +1,24 @@
 // Docking panes.
 #include "toolkit/families/main_window.h"
-#include "toolkit/frame/core.h"
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/watch.h"
 #include "toolkit/frame/windows.h"
-#include "toolkit/views/docking.h"
 
 namespace orba {
 namespace {
 
-enum Property : int { kindProperty = 15, titleFlagProperty = 16 };
-
-DockTitle titleOf(int flag) {
-    if (flag == OALL || (flag & OQUIT)) return DockTitle::closable;
-    return flag & OTITLE ? DockTitle::title : DockTitle::none;
-}
-
 DockPane& paneOf(Widget& widget) { return *static_cast<DockPane*>(widget.view.data()); }
 
 bool getPaneProperty(Widget& widget, int property, Value& value) {
-    if (property != kindProperty) return false;
+    if (property != propertyOf(owKind)) return false;
     const bool floating = paneOf(widget).dock() == Dock::floating;
     value.integer = static_cast<int>(floating ? Kind::window : Kind::dockingPane);
     return true;
 }
 
 bool setPaneProperty(Widget& widget, int property, const Value& value) {
-    if (property != titleFlagProperty) return false;
+    if (property != propertyOf(owTitleFlag)) return false;
     widget.titleFlag = value.integer;
-    paneOf(widget).setTitleBar(titleOf(value.integer));
+    paneOf(widget).setTitleBar(dockTitleOf(value.integer));
     return true;
 }
 
@@ -48,26 +39,20 @@ const Family panes{.name = "docking pane",
                    .setText = setPaneText};
 
 Word createDockingPane(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    QMainWindow* window = mainWindowOf(parent);
-    if (!window) {
-        reportFailure(7, call.integer(0));
-        return 0;
-    }
+    QMainWindow* window = mainWindowGiven(call);
+    if (!window) return 0;
     auto* body = new QWidget;
-    const int flag = call.given(owTitleFlag) ? call.keyword(owTitleFlag) : static_cast<int>(OQUIT);
+    const int flag = titleFlagOf(call);
     auto* view = new DockPane(
         window, dockOf(call.integer(1)), body, {pixelsAcross(call.integer(2)), pixelsDown(call.integer(3))},
-        {pixelsAcross(call.integer(4)), pixelsDown(call.integer(5))}, call.keywordText(owTitle), titleOf(flag));
-    Widget& pane = addWidget(Kind::dockingPane, panes, parent, view);
+        {pixelsAcross(call.integer(4)), pixelsDown(call.integer(5))}, call.keywordText(owTitle), dockTitleOf(flag));
+    Widget& pane = addWidget(Kind::dockingPane, panes, call, view, nullptr);
     pane.client = body;
     knowObject(pane, body);
     watch(body);
     pane.titleFlag = flag;
     view->report = [handle = pane.handle](DockEvent event) { reportDocking(handle, static_cast<int>(event)); };
-    const int handle = finishCreation(pane, call);
-    windowBarsChanged(*parent);
-    return handle;
+    return finishBar(pane, call);
 }
 
 Word setPanePos(const Arguments& call) {

@@ -1,7 +1,7 @@
 // Property lists: rows of a label and a cell. The combo box or value entry of a cell is a widget of the program with
 // the list as its parent; when the user changes it, the list's change event comes, unless the widget has a general
 // callback of its own.
-#include "toolkit/frame/core.h"
+#include "toolkit/families/family_support.h"
 #include "toolkit/views/property_view.h"
 
 #include <QApplication>
@@ -10,26 +10,15 @@
 namespace orba {
 namespace {
 
-enum Property : int {
-    rowHeightProperty = 44,
-    columnWidthProperty = 43,
-    gridLinesProperty = 92,
-    readOnlyProperty = 129
-};
-
-struct ListData : FamilyData {
-    int eventRow = 0; // row of the event being handled, for enquiries about row 0
-};
-
 PropertyView& viewOf(Widget& widget) { return *static_cast<PropertyView*>(widget.view.data()); }
 
 bool setListProperty(Widget& widget, int property, const Value& value) {
     PropertyView& view = viewOf(widget);
     switch (property) {
-    case columnWidthProperty: view.setLabelWidth(pixelsAcross(value.integer)); return true;
-    case rowHeightProperty: view.setRowHeight(pixelsDown(value.integer)); return true;
-    case gridLinesProperty: view.setGridLines(value.integer != OOFF); return true;
-    case readOnlyProperty: view.setReadOnly(value.integer == OON); return true;
+    case propertyOf(owColumnWidth): view.setLabelWidth(pixelsAcross(value.integer)); return true;
+    case propertyOf(owRowHeight): view.setRowHeight(pixelsDown(value.integer)); return true;
+    case propertyOf(owGridLines): view.setGridLines(value.integer != OOFF); return true;
+    case propertyOf(owReadOnly): view.setReadOnly(value.integer == OON); return true;
     default: return false;
     }
 }
@@ -37,9 +26,9 @@ bool setListProperty(Widget& widget, int property, const Value& value) {
 bool getListProperty(Widget& widget, int property, Value& value) {
     const PropertyView& view = viewOf(widget);
     switch (property) {
-    case columnWidthProperty: value.integer = unitsAcross(view.labelWidth()); return true;
-    case rowHeightProperty: value.integer = unitsDown(view.rowHeight()); return true;
-    case gridLinesProperty: value.integer = view.gridLines() ? OON : OOFF; return true;
+    case propertyOf(owColumnWidth): value.integer = unitsAcross(view.labelWidth()); return true;
+    case propertyOf(owRowHeight): value.integer = unitsDown(view.rowHeight()); return true;
+    case propertyOf(owGridLines): value.integer = view.gridLines() ? OON : OOFF; return true;
     default: return false;
     }
 }
@@ -89,10 +78,8 @@ void takeOver(QWidget* cell) {
 }
 
 Word createPropertyList(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* view = new PropertyView(clientOf(parent));
-    Widget& list = addWidget(Kind::propertyList, propertyLists, parent, view);
-    list.data = std::make_unique<ListData>();
+    auto* view = new PropertyView(clientOf(call));
+    Widget& list = addWidget(Kind::propertyList, propertyLists, call, view, nullptr);
     if (call.given(owColumnWidth)) view->setLabelWidth(pixelsAcross(call.keyword(owColumnWidth)));
     if (call.given(owRowHeight)) view->setRowHeight(pixelsDown(call.keyword(owRowHeight)));
     view->setGridLines(call.keyword(owGridLines) != OOFF);
@@ -107,11 +94,9 @@ Word createPropertyList(const Arguments& call) {
 // ---- Rows
 
 void setCell(PropertyRow& row, Widget& cell) {
-    constexpr int borderProperty = 20;
     row.handle = cell.handle;
     row.widget = cell.view;
-    if (cell.kind == Kind::valueEntry)
-        cell.family->set(cell, borderProperty, {.integer = ONOBORDER, .real = 0, .text = {}});
+    if (cell.kind == Kind::valueEntry) setProperty(cell, propertyOf(owBorderType), ONOBORDER);
 }
 
 // Another routine of the toolkit on the widget of a cell.
@@ -151,7 +136,7 @@ void takeSettings(PropertyRow& row, const Arguments& call, Widget& list) {
             reportFailure(26, call.keyword(owPropertyWidget));
     }
     Widget* cell = widgetOf(row.handle);
-    if (cell && call.given(owString) && cell->family->setText) cell->family->setText(*cell, row.text);
+    if (cell && call.given(owString)) setText(*cell, row.text);
     if (!call.given(owPropertyValue)) return;
     const double value = call.keywordReal(owPropertyValue);
     if (cell && cell->kind == Kind::valueEntry)
@@ -207,15 +192,12 @@ Word enqPropertySetting(const Arguments& call) {
     const auto giveText = [&](int keyword, const QString& text) {
         if (char* buffer = call.keywordRecord<char>(keyword)) textOut(text, buffer, length);
     };
-    const auto giveInteger = [&](int keyword, int value) {
-        if (int* result = call.keywordRecord<int>(keyword)) *result = value;
-    };
     giveText(owString, viewOf(list).shownText(*row));
     giveText(owPropertyLabel, row->label);
-    giveInteger(owPropertyKind, static_cast<int>(row->kind));
-    giveInteger(owPropertyStatus, row->enabled ? OSELECTABLE : OUNSELECTABLE);
-    giveInteger(owPropertyWidget, row->handle);
-    if (auto* value = call.keywordRecord<double>(owPropertyValue)) *value = valueOf(*row);
+    giveKeyword<int>(call, owPropertyKind, static_cast<int>(row->kind));
+    giveKeyword<int>(call, owPropertyStatus, row->enabled ? OSELECTABLE : OUNSELECTABLE);
+    giveKeyword<int>(call, owPropertyWidget, row->handle);
+    if (call.given(owPropertyValue)) giveKeyword<double>(call, owPropertyValue, valueOf(*row));
     return 0;
 }
 

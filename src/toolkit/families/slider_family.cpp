@@ -34,26 +34,8 @@ void showSlider(Widget& widget) {
     sliderOf(widget)->setOptions(options);
 }
 
-constexpr IntegerProperty<SliderData> sliderProperties[] = {
-    {14, &SliderData::ticks}, {22, &SliderData::back}, {37, &SliderData::back}};
-constexpr int sliderTypeProperty = 70;
-
-bool getSliderProperty(Widget& widget, int property, Value& value) {
-    if (property == sliderTypeProperty) {
-        value.integer = widget.type;
-        return true;
-    }
-    return getInteger(sliderProperties, dataOf<SliderData>(widget), property, value);
-}
-
-bool setSliderProperty(Widget& widget, int property, const Value& value) {
-    if (property == sliderTypeProperty)
-        widget.type = value.integer;
-    else if (!setInteger(sliderProperties, dataOf<SliderData>(widget), property, value))
-        return false;
-    showSlider(widget);
-    return true;
-}
+constexpr Attribute sliderAttributes[] = {keeps<&SliderData::ticks>(owSliderTicks), keeps<&SliderData::back>(owFillCol),
+                                          keeps<&Widget::type>(owSliderType)};
 
 QSize sliderSize(Widget& widget) {
     return sliderOf(widget)->orientation() == Qt::Vertical ? QSize(lineHeight(), 120) : QSize(120, lineHeight());
@@ -65,6 +47,7 @@ void enquireSliderInfo(Widget& widget, OWIDGET& info) {
     info.vmin = float(data.minimum);
     info.vmax = float(data.maximum);
     info.step = float(data.step);
+    info.fillCol = data.back;
 }
 
 void takeSliderInfo(Widget& widget, const OWIDGET& info) {
@@ -77,8 +60,8 @@ void takeSliderInfo(Widget& widget, const OWIDGET& info) {
 }
 
 const Family sliders{.name = "slider",
-                     .get = getSliderProperty,
-                     .set = setSliderProperty,
+                     .attributes = sliderAttributes,
+                     .show = showSlider,
                      .naturalSize = sliderSize,
                      .coloursChanged = showSlider,
                      .enquireInfo = enquireSliderInfo,
@@ -105,18 +88,13 @@ private:
 };
 
 Word createSlider(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* slider = new Slider(clientOf(parent));
-    Widget& widget = addWidget(Kind::slider, sliders, parent, slider);
-    if (widget.handle == 0) return 0; // no handle was left
-    auto data = std::make_unique<SliderData>();
-    data->minimum = call.real(5);
-    data->maximum = call.real(6);
-    data->step = call.real(7);
-    data->ticks = call.keyword(owSliderTicks);
-    data->back = call.given(owBackCol) ? call.keyword(owBackCol) : call.keyword(owFillCol);
-    widget.data = std::move(data);
-    widget.type = typeKeyword(call, owSliderType);
+    auto* slider = new Slider(clientOf(call));
+    Widget& widget = addWidget<SliderData>(Kind::slider, sliders, call, slider);
+    auto& data = dataOf<SliderData>(widget);
+    data.minimum = call.real(5);
+    data.maximum = call.real(6);
+    data.step = call.real(7);
+    if (call.given(owBackCol)) data.back = call.keyword(owBackCol);
     showSlider(widget);
     slider->setNumber(call.real(8));
     auto* press = new SliderPress(slider, widget.handle);
@@ -132,19 +110,12 @@ struct SpinnerData : FamilyData {
     int justify = ORIGHT;
 };
 
-constexpr IntegerProperty<SpinnerData> spinnerProperties[] = {
-    {133, &SpinnerData::step}, {134, &SpinnerData::buddy}, {30, &SpinnerData::justify}};
+constexpr Attribute spinnerAttributes[] = {keeps<&SpinnerData::step>(owStep), keeps<&SpinnerData::buddy>(owBuddy),
+                                           keeps<&SpinnerData::justify>(owJustify)};
 
-bool getSpinnerProperty(Widget& widget, int property, Value& value) {
-    return getInteger(spinnerProperties, dataOf<SpinnerData>(widget), property, value);
-}
-bool setSpinnerProperty(Widget& widget, int property, const Value& value) {
-    return setInteger(spinnerProperties, dataOf<SpinnerData>(widget), property, value);
-}
 QSize spinnerSize(Widget&) { return {18, lineHeight()}; }
 
-const Family spinners{
-    .name = "spinner", .get = getSpinnerProperty, .set = setSpinnerProperty, .naturalSize = spinnerSize};
+const Family spinners{.name = "spinner", .attributes = spinnerAttributes, .naturalSize = spinnerSize};
 
 ValueEntry* buddyOf(Widget& widget) {
     Widget* buddy = widgetOf(dataOf<SpinnerData>(widget).buddy);
@@ -152,16 +123,9 @@ ValueEntry* buddyOf(Widget& widget) {
 }
 
 Word createSpinner(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* spinner = new Spinner(clientOf(parent));
-    Widget& widget = addWidget(Kind::spinner, spinners, parent, spinner);
-    if (widget.handle == 0) return 0; // no handle was left
-    auto data = std::make_unique<SpinnerData>();
-    data->buddy = call.keyword(owBuddy);
-    data->step = call.keyword(owStep);
-    data->justify = call.keyword(owJustify);
-    widget.data = std::move(data);
-    const int type = call.given(owSliderType) ? call.keyword(owSliderType) : OVERTICAL;
+    auto* spinner = new Spinner(clientOf(call));
+    Widget& widget = addWidget<SpinnerData>(Kind::spinner, spinners, call, spinner);
+    const int type = typeKeyword(call, owSliderType);
     widget.type = type;
     spinner->setHorizontal(type == OHORIZONTAL || type == OREVERSEHORIZONTAL);
     const int handle = widget.handle;
@@ -219,28 +183,19 @@ void showGauge(Widget& widget) {
     gaugeOf(widget).setOptions(options);
 }
 
-constexpr IntegerProperty<GaugeData> gaugeProperties[] = {{34, &GaugeData::access},
-                                                          {68, &GaugeData::maximum},
-                                                          {69, &GaugeData::minimum},
-                                                          {80, &GaugeData::ticks1},
-                                                          {81, &GaugeData::ticks2}};
-constexpr int intValueProperty = 89;
+constexpr Attribute gaugeAttributes[] = {keeps<&GaugeData::access>(owAccess), keeps<&GaugeData::maximum>(owMaximum),
+                                         keeps<&GaugeData::minimum>(owMinimum), keeps<&GaugeData::ticks1>(owTicks1),
+                                         keeps<&GaugeData::ticks2>(owTicks2)};
 
 bool getGaugeProperty(Widget& widget, int property, Value& value) {
-    if (property == intValueProperty) {
-        value.integer = gaugeOf(widget).value();
-        return true;
-    }
-    return getInteger(gaugeProperties, dataOf<GaugeData>(widget), property, value);
+    if (property != propertyOf(owIntValue)) return false;
+    value.integer = gaugeOf(widget).value();
+    return true;
 }
 
 bool setGaugeProperty(Widget& widget, int property, const Value& value) {
-    if (property == intValueProperty)
-        gaugeOf(widget).setValue(value.integer);
-    else if (!setInteger(gaugeProperties, dataOf<GaugeData>(widget), property, value))
-        return false;
-    else
-        showGauge(widget);
+    if (property != propertyOf(owIntValue)) return false;
+    gaugeOf(widget).setValue(value.integer);
     return true;
 }
 
@@ -263,6 +218,8 @@ void takeGaugeInfo(Widget& widget, const OWIDGET& info) {
 QSize gaugeSize(Widget&) { return {160, 40}; }
 
 const Family gauges{.name = "gauge",
+                    .attributes = gaugeAttributes,
+                    .show = showGauge,
                     .get = getGaugeProperty,
                     .set = setGaugeProperty,
                     .naturalSize = gaugeSize,
@@ -271,18 +228,9 @@ const Family gauges{.name = "gauge",
                     .takeInfo = takeGaugeInfo};
 
 Word createGauge(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* gauge = new Gauge(clientOf(parent));
-    Widget& widget = addWidget(Kind::gauge, gauges, parent, gauge);
-    if (widget.handle == 0) return 0; // no handle was left
-    auto data = std::make_unique<GaugeData>();
-    data->icon = call.text(5);
-    data->minimum = call.keyword(owMinimum);
-    data->maximum = call.keyword(owMaximum);
-    data->ticks1 = call.keyword(owTicks1);
-    data->ticks2 = call.keyword(owTicks2);
-    data->access = call.keyword(owAccess);
-    widget.data = std::move(data);
+    auto* gauge = new Gauge(clientOf(call));
+    Widget& widget = addWidget<GaugeData>(Kind::gauge, gauges, call, gauge);
+    dataOf<GaugeData>(widget).icon = call.text(5);
     showGauge(widget);
     gauge->setValue(call.keyword(owIntValue));
     auto* press = new SliderPress(gauge, widget.handle);
@@ -322,18 +270,9 @@ void showProgress(Widget& widget) {
     bar.update();
 }
 
-constexpr IntegerProperty<ProgressData> progressProperties[] = {
-    {68, &ProgressData::maximum}, {69, &ProgressData::minimum}, {89, &ProgressData::value}, {90, &ProgressData::type}};
-
-bool getProgressProperty(Widget& widget, int property, Value& value) {
-    return getInteger(progressProperties, dataOf<ProgressData>(widget), property, value);
-}
-
-bool setProgressProperty(Widget& widget, int property, const Value& value) {
-    if (!setInteger(progressProperties, dataOf<ProgressData>(widget), property, value)) return false;
-    showProgress(widget);
-    return true;
-}
+constexpr Attribute progressAttributes[] = {
+    keeps<&ProgressData::maximum>(owMaximum), keeps<&ProgressData::minimum>(owMinimum),
+    keeps<&ProgressData::value>(owIntValue), keeps<&ProgressData::type>(owProgressType)};
 
 QSize progressSize(Widget&) { return {160, 18}; }
 
@@ -355,18 +294,10 @@ private:
 };
 
 const Family progressBars{
-    .name = "progress bar", .get = getProgressProperty, .set = setProgressProperty, .naturalSize = progressSize};
+    .name = "progress bar", .attributes = progressAttributes, .show = showProgress, .naturalSize = progressSize};
 
 Word createProgress(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    Widget& widget = addWidget(Kind::progressBar, progressBars, parent, new ProgressBar(clientOf(parent)));
-    if (widget.handle == 0) return 0; // no handle was left
-    auto data = std::make_unique<ProgressData>();
-    data->type = call.keyword(owProgressType);
-    data->minimum = call.keyword(owMinimum);
-    data->maximum = call.keyword(owMaximum);
-    data->value = call.keyword(owIntValue);
-    widget.data = std::move(data);
+    Widget& widget = addWidget<ProgressData>(Kind::progressBar, progressBars, call, new ProgressBar(clientOf(call)));
     showProgress(widget);
     new ProgressPress(widget.view, widget.handle);
     return finishCreation(widget, call);

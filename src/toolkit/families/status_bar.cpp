@@ -1,8 +1,5 @@
 // Status bars: panes of text at the foot of a window.
 #include "toolkit/families/main_window.h"
-#include "toolkit/frame/core.h"
-#include "toolkit/frame/frame.h"
-#include "toolkit/frame/windows.h"
 #include "toolkit/views/text/tip_text.h"
 
 #include <QHelpEvent>
@@ -100,8 +97,7 @@ QString barText(Widget& widget) { return barOf(widget).text(0); }
 void setBarText(Widget& widget, const QString& text) { barOf(widget).setText(0, text); }
 
 bool getBarProperty(Widget& widget, int property, Value& value) {
-    constexpr int paneCountProperty = 71;
-    if (property != paneCountProperty) return false;
+    if (property != propertyOf(owPanes)) return false;
     value.integer = barOf(widget).paneCount();
     return true;
 }
@@ -109,20 +105,13 @@ bool getBarProperty(Widget& widget, int property, Value& value) {
 const Family statusBars{.name = "status bar", .get = getBarProperty, .text = barText, .setText = setBarText};
 
 Word createStatusBar(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    QMainWindow* window = mainWindowOf(parent);
-    if (!window) {
-        reportFailure(7, call.integer(0));
-        return 0;
-    }
+    QMainWindow* window = mainWindowGiven(call);
+    if (!window) return 0;
     auto* view = new PaneBar(window);
     view->setSizeGripEnabled(window->isWindow());
     view->setPanes(edgesOf(call.keyword(owPanes), call.keywordRecord<const int>(owSizes)));
     window->setStatusBar(view);
-    Widget& bar = addWidget(Kind::statusBar, statusBars, parent, view);
-    const int handle = finishCreation(bar, call);
-    windowBarsChanged(*parent);
-    return handle;
+    return finishBar(addWidget(Kind::statusBar, statusBars, call, view, nullptr), call);
 }
 
 Word setStatusBarText(const Arguments& call) {

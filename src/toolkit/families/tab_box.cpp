@@ -87,10 +87,9 @@ const Family tabBoxes{.name = "tabbed dialogue box",
                       .setChildStatus = setPageStatus};
 
 Word createTabDialogueBox(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* view = new QTabWidget(clientOf(parent));
+    auto* view = new QTabWidget(clientOf(call));
     view->setUsesScrollButtons(true);
-    Widget& box = addWidget(Kind::tabBox, tabBoxes, parent, view);
+    Widget& box = addWidget(Kind::tabBox, tabBoxes, call, view, nullptr);
     QObject::connect(view, &QTabWidget::tabBarClicked, view, [handle = box.handle] { post(handle, Slot::select, 1); });
     new StripPress(view, box.handle);
     QObject::connect(view, &QTabWidget::currentChanged, view, [handle = box.handle](int index) {

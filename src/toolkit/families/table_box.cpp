@@ -55,10 +55,8 @@ private:
 };
 
 Word createTableBox(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* table = new QTableWidget(clientOf(parent));
-    Widget& widget = addWidget(Kind::tableBox, tables, parent, table);
-    if (widget.handle == 0) return 0; // no handle was left
+    auto* table = new QTableWidget(clientOf(call));
+    Widget& widget = addWidget(Kind::tableBox, tables, call, table, nullptr);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -47,45 +47,56 @@ TextOptions optionsOf(const TextData& data) {
     return options;
 }
 
-constexpr IntegerProperty<TextData> properties[] = {
-    {20, &TextData::border},      {25, &TextData::back1},     {26, &TextData::back2},     {27, &TextData::text},
-    {30, &TextData::justify},     {40, &TextData::margin},    {51, &TextData::entryType}, {78, &TextData::scroll},
-    {117, &TextData::oleInserts}, {125, &TextData::wordWrap}, {129, &TextData::readOnly}, {137, &TextData::autoUrl},
+constexpr Attribute attributes[] = {
+    keeps<&TextData::border>(owBorderType),     keeps<&TextData::back1>(owBack1Col),
+    keeps<&TextData::back2>(owBack2Col),        keeps<&TextData::text>(owTextCol),
+    keeps<&TextData::justify>(owJustify),       keeps<&TextData::margin>(owTextMargin),
+    keeps<&TextData::entryType>(owEntryType),   keeps<&TextData::scroll>(owScrollMode),
+    keeps<&TextData::oleInserts>(owOLEInserts), keeps<&TextData::wordWrap>(owWordWrap),
+    keeps<&TextData::readOnly>(owReadOnly),     keeps<&TextData::autoUrl>(owAutoURL),
 };
-constexpr int selectedTextProperty = 94, textColourProperty = 27, tabListProperty = 131;
+
+struct StyleRow {
+    int property;
+    std::optional<bool> TextFont::*style;
+};
+constexpr StyleRow styles[] = {{propertyOf(owBold), &TextFont::bold},
+                               {propertyOf(owItalic), &TextFont::italic},
+                               {propertyOf(owUnderline), &TextFont::underline},
+                               {propertyOf(owStrikeout), &TextFont::strikeout}};
 
 // Fonts go to the selection of rich text, else to the whole text.
 bool getFontProperty(Widget& widget, int property, Value& value) {
     const TextFont font = textEntryOf(&widget)->textFont();
     const bool whole = textEntryOf(&widget)->formatsWholeText();
-    switch (property) {
-    case 45: value.integer = *font.bold; return true;
-    case 53:
+    if (property == propertyOf(owFontFace)) {
         value.text = whole || *font.face == QApplication::font().family() ? widget.fontFace : *font.face;
         return true;
-    case 65: value.integer = *font.italic; return true;
-    case 72: value.integer = whole ? widget.pointSize : int(std::lround(*font.points)); return true;
-    case 79: value.integer = *font.strikeout; return true;
-    case 84: value.integer = *font.underline; return true;
-    default: return false;
     }
+    if (property == propertyOf(owPointSize)) {
+        value.integer = whole ? widget.pointSize : int(std::lround(*font.points));
+        return true;
+    }
+    for (const StyleRow& row : styles) {
+        if (row.property != property) continue;
+        value.integer = *(font.*row.style);
+        return true;
+    }
+    return false;
+}
+
+// The part of a font that a property stands for; false for one that stands for none, or for no size.
+bool fontPart(int property, const Value& value, TextFont& font) {
+    if (property == propertyOf(owFontFace)) font.face = value.text;
+    if (property == propertyOf(owPointSize) && value.integer > 0) font.points = pointsFrom(value.integer);
+    for (const StyleRow& row : styles)
+        if (row.property == property) font.*row.style = value.integer != 0;
+    return font.face || font.points || font.bold || font.italic || font.underline || font.strikeout;
 }
 
 bool setFontProperty(Widget& widget, int property, const Value& value) {
-    constexpr int mostPoints = 400;
     TextFont font;
-    switch (property) {
-    case 45: font.bold = value.integer != 0; break;
-    case 53: font.face = value.text; break;
-    case 65: font.italic = value.integer != 0; break;
-    case 72:
-        if (value.integer < 1) return true;
-        font.points = std::min(value.integer, mostPoints);
-        break;
-    case 79: font.strikeout = value.integer != 0; break;
-    case 84: font.underline = value.integer != 0; break;
-    default: return false;
-    }
+    if (!fontPart(property, value, font)) return property == propertyOf(owPointSize);
     // Of a whole text the desktop's own face has the desktop's own size where programs write 10 points.
     if ((font.face || font.points) && textEntryOf(&widget)->formatsWholeText()) {
         if (font.face) widget.fontFace = *font.face;
@@ -106,27 +117,17 @@ bool coloursSelection(Widget& widget) {
 }
 
 bool getTextProperty(Widget& widget, int property, Value& value) {
-    if (property == selectedTextProperty) {
-        value.text = fromProgram(textEntryOf(&widget)->selectedText());
-        return true;
-    }
-    return getInteger(properties, dataOf<TextData>(widget), property, value) ||
-           getFontProperty(widget, property, value);
+    if (property != propertyOf(owSelectedText)) return getFontProperty(widget, property, value);
+    value.text = fromProgram(textEntryOf(&widget)->selectedText());
+    return true;
 }
 
 bool setTextProperty(Widget& widget, int property, const Value& value) {
-    if (property == textColourProperty && coloursSelection(widget)) {
-        TextFont font;
-        font.colour = colourOf(value.integer);
-        textEntryOf(&widget)->setTextFont(font);
-        return true;
-    }
-    if (property == tabListProperty && widget.tabList == value.integer) return true;
-    if (property == tabListProperty)
-        widget.tabList = value.integer;
-    else if (!setInteger(properties, dataOf<TextData>(widget), property, value))
-        return setFontProperty(widget, property, value);
-    showTextData(widget);
+    if (property != propertyOf(owTextCol) || !coloursSelection(widget))
+        return setTabStop(widget, property, value) || setFontProperty(widget, property, value);
+    TextFont font;
+    font.colour = colourOf(value.integer);
+    textEntryOf(&widget)->setTextFont(font);
     return true;
 }
 
@@ -148,6 +149,8 @@ void coloursChanged(Widget& widget) {
 }
 
 const Family textEntries{.name = "text entry",
+                         .attributes = attributes,
+                         .show = showTextData,
                          .get = getTextProperty,
                          .set = setTextProperty,
                          .text = labelOf,
@@ -165,31 +168,17 @@ std::string createdText(const Arguments& call, bool singleLine) {
 }
 
 Word createTextEntry(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto data = std::make_unique<TextData>();
-    data->entryType = typeKeyword(call, owEntryType);
+    auto data = dataFrom<TextData>(textEntries, call);
     data->display = call.integer(7);
     data->field = call.integer(6);
     if (call.given(owScrollable))
         data->field = call.keyword(owScrollable) ? -std::abs(data->field) : std::abs(data->field);
-    data->justify = call.keyword(owJustify);
-    data->border = call.keyword(owBorderType);
-    data->scroll = call.keyword(owScrollMode);
-    data->wordWrap = call.keyword(owWordWrap);
-    data->autoUrl = call.keyword(owAutoURL);
-    data->readOnly = call.keyword(owReadOnly) == OON ? OON : OOFF;
-    data->oleInserts = call.keyword(owOLEInserts);
-    data->margin = call.keyword(owTextMargin);
-    data->back1 = call.keyword(owBack1Col);
-    data->back2 = call.keyword(owBack2Col);
-    data->text = call.keyword(owTextCol);
     const TextOptions options = optionsOf(*data);
     const int asked = pixelsDown(call.integer(4));
     const int height = asked > 0 ? asked : call.keyword(owExpand) ? 2 * singleLinePixels : lineHeight();
-    auto* entry = new TextEntry(options, {}, singleLineHeight(), height, clientOf(parent));
-    Widget& widget = addWidget(options.label ? Kind::textLabel : Kind::textEntry, textEntries, parent, entry);
-    if (widget.handle == 0) return 0; // no handle was left
-    widget.data = std::move(data);
+    auto* entry = new TextEntry(options, {}, singleLineHeight(), height, clientOf(call));
+    const Kind kind = options.label ? Kind::textLabel : Kind::textEntry;
+    Widget& widget = addWidget(kind, textEntries, call, entry, std::move(data));
     entry->setHooks(textHooks(widget.handle));
     entry->setText(createdText(call, entry->singleLine()), true);
     return finishCreation(widget, call);

@@ -1,7 +1,7 @@
 // The routines that read and change texts.
 #include "toolkit/families/family_support.h"
 #include "toolkit/families/text_family.h"
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/session.h"
 #include "toolkit/views/text/program_text.h"
 
 #include <QApplication>
@@ -24,10 +24,8 @@ Word enquireText(const Arguments& call) {
     TextEntry* entry = widget.kind == Kind::ttyEntry ? nullptr : textEntryOf(&widget); // a TTY tells its last line
     if (entry)
         giveBytes(call, 1, entry->text(call.keyword(owEntryType) == ORICHEDIT));
-    else if (widget.family->text)
-        giveBytes(call, 1, toProgram(widget.family->text(widget)));
     else
-        giveBytes(call, 1, {});
+        giveBytes(call, 1, toProgram(textOf(widget)));
     return 0;
 }
 
@@ -37,8 +35,8 @@ Word setText(const Arguments& call) {
     TextEntry* entry = widget.kind == Kind::ttyEntry ? nullptr : textEntryOf(&widget); // a TTY prints it
     if (entry)
         entry->setText(text, call.keyword(owEntryType) == ORICHEDIT);
-    else if (widget.family->setText)
-        widget.family->setText(widget, fromProgram(text));
+    else
+        setText(widget, fromProgram(text));
     return 0;
 }
 

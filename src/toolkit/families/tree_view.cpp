@@ -14,15 +14,6 @@
 namespace orba {
 namespace {
 
-enum Property : int {
-    offColour = 25,
-    textColour = 27,
-    iconSetProperty = 60,
-    iconProperty = 99,
-    openIconProperty = 115,
-    closeIconProperty = 116
-};
-
 // Pictures of an icon set: of an entry with children, closed and open, and of one without.
 struct IconSet {
     int number;
@@ -191,18 +182,18 @@ void showPictures(Widget& widget) {
 
 bool setBoxProperty(Widget& widget, int property, const Value& value) {
     switch (property) {
-    case iconSetProperty:
+    case propertyOf(owIconSet):
         boxOf(widget).iconSet = value.integer;
         showPictures(widget);
         return true;
-    case offColour: setViewColour(widget.view, QPalette::Base, value.integer); return true;
-    case textColour: setViewColour(widget.view, QPalette::Text, value.integer); return true;
+    case propertyOf(owOffCol): setViewColour(widget.view, QPalette::Base, value.integer); return true;
+    case propertyOf(owTextCol): setViewColour(widget.view, QPalette::Text, value.integer); return true;
     default: return false;
     }
 }
 
 bool getBoxProperty(Widget& widget, int property, Value& value) {
-    if (property != iconSetProperty) return false;
+    if (property != propertyOf(owIconSet)) return false;
     value.integer = boxOf(widget).iconSet;
     return true;
 }
@@ -212,9 +203,8 @@ void boxErased(Widget& widget) { boxOf(widget).selectItem(nullptr); }
 const Family treeBoxes{.name = "tree view", .get = getBoxProperty, .set = setBoxProperty, .erased = boxErased};
 
 Word createTreeViewBox(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto* view = new TreeView(clientOf(parent));
-    Widget& box = addWidget(Kind::treeView, treeBoxes, parent, view);
+    auto* view = new TreeView(clientOf(call));
+    Widget& box = addWidget(Kind::treeView, treeBoxes, call, view, nullptr);
     view->handle = box.handle;
     view->iconSet = call.keyword(owIconSet);
     return finishCreation(box, call);
@@ -230,32 +220,8 @@ void setEntryStatus(Widget& entry, int status) {
     itemOf(entry)->setDisabled(status == OUNSELECTABLE);
 }
 
-struct IconProperty {
-    int property;
-    int EntryData::*icon;
-};
-constexpr IconProperty iconProperties[] = {{iconProperty, &EntryData::icon},
-                                           {openIconProperty, &EntryData::openIcon},
-                                           {closeIconProperty, &EntryData::closeIcon}};
-
-bool setEntryProperty(Widget& entry, int property, const Value& value) {
-    for (const IconProperty& row : iconProperties)
-        if (row.property == property) {
-            dataOf<EntryData>(entry).*row.icon = value.integer;
-            showPicture(entry);
-            return true;
-        }
-    return false;
-}
-
-bool getEntryProperty(Widget& entry, int property, Value& value) {
-    for (const IconProperty& row : iconProperties)
-        if (row.property == property) {
-            value.integer = dataOf<EntryData>(entry).*row.icon;
-            return true;
-        }
-    return false;
-}
+constexpr Attribute entryAttributes[] = {keeps<&EntryData::icon>(owIcon), keeps<&EntryData::openIcon>(owOpenIcon),
+                                         keeps<&EntryData::closeIcon>(owCloseIcon)};
 
 void entryErased(Widget& entry) {
     TreeView& box = boxOf(entry);
@@ -272,8 +238,8 @@ void entryErased(Widget& entry) {
 }
 
 const Family treeEntries{.name = "tree entry",
-                         .get = getEntryProperty,
-                         .set = setEntryProperty,
+                         .attributes = entryAttributes,
+                         .show = showPicture,
                          .setStatus = setEntryStatus,
                          .text = entryText,
                          .setText = setEntryText,
@@ -287,17 +253,13 @@ int placeAmong(const QTreeWidgetItem* parent, int position) {
 
 Word createTreeEntry(const Arguments& call) {
     Widget* parent = widgetOf(call.integer(0));
-    auto data = std::make_unique<EntryData>();
+    auto data = dataFrom<EntryData>(treeEntries, call);
     data->box = parent->kind == Kind::treeEntry ? dataOf<EntryData>(*parent).box : parent;
-    data->icon = call.keyword(owIcon);
-    data->openIcon = call.keyword(owOpenIcon);
-    data->closeIcon = call.keyword(owCloseIcon);
     TreeView& box = boxOf(*parent);
     data->item = new QTreeWidgetItem(QStringList(call.text(2)));
     QTreeWidgetItem* item = data->item;
-    Widget& entry = addWidget(Kind::treeEntry, treeEntries, parent, nullptr);
+    Widget& entry = addWidget(Kind::treeEntry, treeEntries, call, nullptr, std::move(data));
     item->setData(0, handleRole, entry.handle);
-    entry.data = std::move(data);
     QTreeWidgetItem* above = parent->kind == Kind::treeEntry ? itemOf(*parent) : box.invisibleRootItem();
     above->insertChild(placeAmong(above, call.integer(1)), item);
     showPicture(entry);

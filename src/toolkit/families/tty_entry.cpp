@@ -171,7 +171,6 @@ private:
 };
 
 struct TtyData : FamilyData {
-    int lines = 0;
     int readOnly = OOFF;
     int wordWrap = 1;
     int margin = 0;
@@ -195,26 +194,19 @@ TextOptions optionsOf(const TtyData& data) {
 
 void showTty(Widget& widget) { rollOf(widget).setOptions(optionsOf(dataOf<TtyData>(widget))); }
 
-constexpr IntegerProperty<TtyData> properties[] = {{25, &TtyData::back1},  {26, &TtyData::back2},
-                                                   {27, &TtyData::text},   {129, &TtyData::readOnly},
-                                                   {40, &TtyData::margin}, {125, &TtyData::wordWrap}};
-constexpr int promptProperty = 76;
+constexpr Attribute attributes[] = {keeps<&TtyData::back1>(owOffCol),      keeps<&TtyData::back2>(owOnCol),
+                                    keeps<&TtyData::text>(owTextCol),      keeps<&TtyData::readOnly>(owReadOnly),
+                                    keeps<&TtyData::margin>(owTextMargin), keeps<&TtyData::wordWrap>(owWordWrap)};
 
 bool getTtyProperty(Widget& widget, int property, Value& value) {
-    if (property == promptProperty) {
-        value.text = rollOf(widget).prompt();
-        return true;
-    }
-    return getInteger(properties, dataOf<TtyData>(widget), property, value);
+    if (property != propertyOf(owPrompt)) return false;
+    value.text = rollOf(widget).prompt();
+    return true;
 }
 
 bool setTtyProperty(Widget& widget, int property, const Value& value) {
-    if (property == promptProperty) {
-        rollOf(widget).setPrompt(value.text);
-        return true;
-    }
-    if (!setInteger(properties, dataOf<TtyData>(widget), property, value)) return false;
-    showTty(widget);
+    if (property != propertyOf(owPrompt)) return false;
+    rollOf(widget).setPrompt(value.text);
     return true;
 }
 
@@ -223,6 +215,8 @@ void printLine(Widget& widget, const QString& text) { rollOf(widget).print(text)
 QSize naturalSize(Widget&) { return {240, 120}; }
 
 const Family ttyEntries{.name = "TTY entry",
+                        .attributes = attributes,
+                        .show = showTty,
                         .get = getTtyProperty,
                         .set = setTtyProperty,
                         .text = lastLine,
@@ -231,19 +225,9 @@ const Family ttyEntries{.name = "TTY entry",
                         .coloursChanged = showTty};
 
 Word createTtyEntry(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto data = std::make_unique<TtyData>();
-    data->lines = call.integer(5);
-    data->readOnly = call.keyword(owReadOnly) == OON ? OON : OOFF;
-    data->wordWrap = call.keyword(owWordWrap);
-    data->margin = call.keyword(owTextMargin);
-    data->back1 = call.keyword(owOffCol);
-    data->back2 = call.keyword(owOnCol);
-    data->text = call.keyword(owTextCol);
-    auto* roll = new TtyRoll(optionsOf(*data), clientOf(parent));
-    Widget& widget = addWidget(Kind::ttyEntry, ttyEntries, parent, roll);
-    if (widget.handle == 0) return 0; // no handle was left
-    widget.data = std::move(data);
+    auto data = dataFrom<TtyData>(ttyEntries, call);
+    auto* roll = new TtyRoll(optionsOf(*data), clientOf(call));
+    Widget& widget = addWidget(Kind::ttyEntry, ttyEntries, call, roll, std::move(data));
     roll->setLines(call.integer(5));
     roll->setPrompt(call.keywordText(owPrompt));
     std::string first(trimmedBytes(call.bytes(6)));

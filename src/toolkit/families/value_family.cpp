@@ -60,58 +60,29 @@ void showValueData(Widget& widget) {
     entryOf(widget).setOptions(options);
 }
 
-constexpr IntegerProperty<ValueData> properties[] = {
-    {20, &ValueData::border},  {25, &ValueData::back1},   {26, &ValueData::back2},
-    {27, &ValueData::text},    {30, &ValueData::justify}, {40, &ValueData::sign},
-    {49, &ValueData::charSet}, {52, &ValueData::type},    {129, &ValueData::readOnly},
+constexpr Attribute attributes[] = {
+    keeps<&ValueData::type>(owValueType),      keeps<&ValueData::sign>(owSign),
+    keeps<&ValueData::readOnly>(owReadOnly),   keeps<&ValueData::charSet>(owCharSet),
+    keeps<&ValueData::thousands>(owThousands), keeps<&ValueData::justify>(owJustify),
+    keeps<&ValueData::border>(owBorderType),   keeps<&ValueData::back1>(owBack1Col),
+    keeps<&ValueData::back2>(owBack2Col),      keeps<&ValueData::text>(owTextCol),
+    keeps<&ValueData::minimum>(owVmin),        keeps<&ValueData::maximum>(owVmax),
+    keeps<&ValueData::increment>(owIncrement), keeps<&ValueData::prefix>(owPrefix),
+    keeps<&ValueData::postfix>(owPostfix),
 };
-struct RealProperty {
-    int number;
-    double ValueData::*field;
-};
-constexpr RealProperty realProperties[] = {{101, &ValueData::minimum}, {102, &ValueData::maximum}};
-struct TextProperty {
-    int number;
-    QString ValueData::*field;
-};
-constexpr TextProperty textProperties[] = {{75, &ValueData::prefix}, {74, &ValueData::postfix}};
-constexpr int valueProperty = 103, tabListProperty = 131;
 
 bool getValueProperty(Widget& widget, int property, Value& value) {
-    ValueData& data = dataOf<ValueData>(widget);
-    for (const RealProperty& row : realProperties)
-        if (row.number == property) {
-            value.real = data.*row.field;
-            value.integer = int(std::clamp(value.real, -2147483647.0, 2147483647.0));
-            return true;
-        }
-    for (const TextProperty& row : textProperties)
-        if (row.number == property) {
-            value.text = data.*row.field;
-            return true;
-        }
-    if (property == valueProperty) {
-        value.real = entryOf(widget).value();
-        return true;
-    }
-    return getInteger(properties, data, property, value);
+    if (property != propertyOf(owRealValue)) return false;
+    value.real = entryOf(widget).value();
+    return true;
 }
 
 bool setValueProperty(Widget& widget, int property, const Value& value) {
-    ValueData& data = dataOf<ValueData>(widget);
-    if (property == valueProperty) {
+    if (property == propertyOf(owRealValue)) {
         entryOf(widget).setValue(value.real);
         return true;
     }
-    if (property == tabListProperty && widget.tabList == value.integer) return true;
-    bool known = setInteger(properties, data, property, value);
-    if (property == tabListProperty) widget.tabList = value.integer, known = true;
-    for (const RealProperty& row : realProperties)
-        if (row.number == property) data.*row.field = value.real, known = true;
-    for (const TextProperty& row : textProperties)
-        if (row.number == property) data.*row.field = value.text, known = true;
-    if (known) showValueData(widget);
-    return known;
+    return setTabStop(widget, property, value);
 }
 
 QString shownText(Widget& widget) { return fromProgram(entryOf(widget).shown()); }
@@ -144,6 +115,8 @@ void takeInfo(Widget& widget, const OWIDGET& info) {
 }
 
 const Family valueEntries{.name = "value entry",
+                          .attributes = attributes,
+                          .show = showValueData,
                           .get = getValueProperty,
                           .set = setValueProperty,
                           .text = shownText,
@@ -168,31 +141,13 @@ ValueHooks hooksOf(int handle, bool label) {
 }
 
 Word createValueEntry(const Arguments& call) {
-    Widget* parent = widgetOf(call.integer(0));
-    auto data = std::make_unique<ValueData>();
-    data->type = typeKeyword(call, owValueType);
-    data->sign = call.keyword(owSign);
+    auto data = dataFrom<ValueData>(valueEntries, call);
     data->field = call.integer(6);
     data->decimals = call.integer(7);
     data->display = call.integer(8);
-    data->readOnly = call.keyword(owReadOnly) == OON ? OON : OOFF;
-    data->charSet = call.keyword(owCharSet);
-    data->thousands = call.keyword(owThousands);
-    data->justify = call.keyword(owJustify);
-    data->border = call.keyword(owBorderType);
-    data->back1 = call.keyword(owBack1Col);
-    data->back2 = call.keyword(owBack2Col);
-    data->text = call.keyword(owTextCol);
-    data->minimum = call.keywordReal(owVmin);
-    data->maximum = call.keywordReal(owVmax);
-    data->increment = call.keywordReal(owIncrement);
-    data->prefix = call.keywordText(owPrefix);
-    data->postfix = call.keywordText(owPostfix);
-    auto* entry = new ValueEntry(optionsOf(*data), {}, clientOf(parent));
     const bool label = data->display != OEDIT;
-    Widget& widget = addWidget(Kind::valueEntry, valueEntries, parent, entry);
-    if (widget.handle == 0) return 0; // no handle was left
-    widget.data = std::move(data);
+    auto* entry = new ValueEntry(optionsOf(*data), {}, clientOf(call));
+    Widget& widget = addWidget(Kind::valueEntry, valueEntries, call, entry, std::move(data));
     entry->setHooks(hooksOf(widget.handle, label));
     entry->setValue(call.given(owRealValue) ? call.keywordReal(owRealValue) : call.real(5));
     return finishCreation(widget, call);

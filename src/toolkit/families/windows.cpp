@@ -1,8 +1,9 @@
 // Master windows and dialogue boxes: creation, properties, status, and the routines on windows.
 #include "toolkit/frame/windows.h"
 
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/core.h"
 #include "toolkit/frame/session.h"
+#include "toolkit/frame/watch.h"
 #include "toolkit/views/icons/icons.h"
 
 #include <QApplication>
@@ -37,17 +38,17 @@ Qt::WindowFlags flagsOf(int titleFlag, bool owned) {
 
 bool getWindowProperty(Widget& window, int property, Value& value) {
     switch (property) {
-    case 1:
+    case propertyOf(owXpos):
         readWindowPlace(window);
         value.integer = unitsAcross(window.place.x);
         return true;
-    case 2:
+    case propertyOf(owYpos):
         readWindowPlace(window);
         value.integer = unitsDown(window.place.y);
         return true;
-    case 3: value.integer = unitsAcross(windowSize(window).width()); return true;
-    case 4: value.integer = unitsDown(windowSize(window).height()); return true;
-    case 29: value.integer = window.view->isVisible() ? OSELECTABLE : OHIDDEN; return true;
+    case propertyOf(owWidth): value.integer = unitsAcross(windowSize(window).width()); return true;
+    case propertyOf(owHeight): value.integer = unitsDown(windowSize(window).height()); return true;
+    case propertyOf(owWidgetStatus): value.integer = window.view->isVisible() ? OSELECTABLE : OHIDDEN; return true;
     default: return false;
     }
 }
@@ -65,7 +66,7 @@ void setWindowState(Widget& window, int state) {
 }
 
 bool setWindowProperty(Widget& window, int property, const Value& value) {
-    if (property == 10) {
+    if (property == propertyOf(owWindowState)) {
         setWindowState(window, value.integer);
         return true;
     }
@@ -74,23 +75,24 @@ bool setWindowProperty(Widget& window, int property, const Value& value) {
     data.client = windowSize(window);
     data.initState = ONORMAL;
     switch (property) {
-    case 1: window.place.x = pixelsAcross(value.integer); break;
-    case 2: window.place.y = pixelsDown(value.integer); break;
-    case 3: data.client.setWidth(std::max(1, pixelsAcross(value.integer))); break;
-    case 4: data.client.setHeight(std::max(1, pixelsDown(value.integer))); break;
-    case 57: window.place.hpos = value.integer; break;
-    case 58: window.place.vpos = value.integer; break;
-    case 64:
+    case propertyOf(owXpos): window.place.x = pixelsAcross(value.integer); break;
+    case propertyOf(owYpos): window.place.y = pixelsDown(value.integer); break;
+    case propertyOf(owWidth): data.client.setWidth(std::max(1, pixelsAcross(value.integer))); break;
+    case propertyOf(owHeight): data.client.setHeight(std::max(1, pixelsDown(value.integer))); break;
+    case propertyOf(owHpos): window.place.hpos = value.integer; break;
+    case propertyOf(owVpos): window.place.vpos = value.integer; break;
+    case propertyOf(owImage):
         if (auto* area = qobject_cast<QMdiArea*>(windowArea(window)))
             area->setBackground(icons::imageFromFile(value.text));
         return true;
     default: return false;
     }
-    if (property == 3 || property == 4) {
+    if (property == propertyOf(owWidth) || property == propertyOf(owHeight)) {
         startSettling(window);
         fitWindow(window);
     }
-    if (property <= 2 || window.place.hpos != OLEFT || window.place.vpos != OTOP) moveWindow(window);
+    const bool moved = property == propertyOf(owXpos) || property == propertyOf(owYpos);
+    if (moved || window.place.hpos != OLEFT || window.place.vpos != OTOP) moveWindow(window);
     return true;
 }
 
@@ -179,7 +181,7 @@ Widget& makeMaster(const Arguments& call, bool mdi) {
         Widget& client = addWidget(Kind::mdiClient, mdiClients, &master, area);
         client.status = OSELECTABLE;
         const QString image = call.keywordText(owImage);
-        if (!image.isEmpty()) setWindowProperty(master, 64, {.integer = 0, .real = 0, .text = image});
+        if (!image.isEmpty()) setWindowProperty(master, propertyOf(owImage), {.integer = 0, .real = 0, .text = image});
     }
     placeNewWindow(master);
     return master;
@@ -194,7 +196,6 @@ Word createDialogue(const Arguments& call) {
     auto* area = new QWidget(view);
     view->setCentralWidget(area);
     Widget& window = addWidget(Kind::window, windows, parent, view);
-    if (window.handle == 0) return 0;
     finishWindow(window, call, 1);
     window.client = area;
     knowObject(window, area);
@@ -212,7 +213,6 @@ Word createMdiDialogue(const Arguments& call) {
     auto* view = new FormWindow(nullptr, Qt::Widget);
     view->setCentralWidget(new QWidget(view));
     Widget& window = addWidget(Kind::window, windows, widgetOf(call.integer(0)), view);
-    if (window.handle == 0) return 0;
     finishWindow(window, call, 1);
     WindowData& data = windowData(window);
     // Inside a client area positions count from the top unless an origin says otherwise.
@@ -287,8 +287,8 @@ Word mdiAction(const Arguments& call) {
     case 0: area->cascadeSubWindows(); break;
     case 1:
     case 2: area->tileSubWindows(); break;
-    case 3: area->activateNextSubWindow(); break;
-    case 4: area->activatePreviousSubWindow(); break;
+    case propertyOf(owWidth): area->activateNextSubWindow(); break;
+    case propertyOf(owHeight): area->activatePreviousSubWindow(); break;
     default: break;
     }
     return 0;
@@ -300,7 +300,7 @@ Word windowByTitle(const Arguments& call) {
     title = call.text(1);
     found = 0;
     forEachWidget([](Widget& widget) {
-        if (found == 0 && widget.family->text && widget.family->text(widget) == title) found = widget.handle;
+        if (found == 0 && hasText(widget) && textOf(widget) == title) found = widget.handle;
     });
     return found;
 }

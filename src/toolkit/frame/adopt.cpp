@@ -2,7 +2,15 @@
 //
 // While a widget is adopted its mouse belongs to the frame. A press is held back until it turns out to be a drag or a
 // click; a click is given to the widget afterwards, so that it can still be worked.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/adopt.h"
+
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/keys.h"
+#include "toolkit/frame/layout.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/report.h"
+#include "toolkit/frame/routines.h"
+#include "toolkit/frame/session.h"
 #include "toolkit/frame/windows.h"
 
 #include <QApplication>

@@ -1,5 +1,8 @@
-// The colour table, fonts by the names that programs use, and small drawing helpers.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/colours.h"
+
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/routines.h"
+#include "toolkit/frame/session.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -96,7 +99,10 @@ QColor colourOf(int colour) {
 void defineColour(int index, const QColor& colour) {
     if (index < 0 || index >= TABLE_SIZE || table[static_cast<std::size_t>(index)] == colour) return;
     table[static_cast<std::size_t>(index)] = colour;
-    if (session.state < 2) return;
+    if (session.state == 2) recolour();
+}
+
+void recolour() {
     forEachWidget([](Widget& widget) {
         if (widget.family->coloursChanged) widget.family->coloursChanged(widget);
     });

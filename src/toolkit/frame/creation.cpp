@@ -1,5 +1,8 @@
-// The steps that all creation routines share.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/creation.h"
+
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/layout.h"
+#include "toolkit/frame/properties.h"
 
 #include <cstring>
 
@@ -14,13 +17,6 @@ constexpr Slot definitionOrder[] = {Slot::link,       Slot::valueError, Slot::fi
 bool isPlaced(Fn function) {
     return std::strncmp(functionRow(function).arguments, "int parent, int xpos, int ypos, int width, int height", 53) ==
            0;
-}
-
-bool readsKeyword(Fn function, int keyword) {
-    for (const int* one = functionRow(function).keywords; *one != 0; one++) {
-        if (*one == keyword) return true;
-    }
-    return false;
 }
 
 void takePlace(Widget& widget, const Arguments& call) {
@@ -41,8 +37,26 @@ void takePlace(Widget& widget, const Arguments& call) {
 
 } // namespace
 
+bool readsKeyword(Fn function, int keyword) {
+    for (const int* one = functionRow(function).keywords; *one != 0; one++) {
+        if (*one == keyword) return true;
+    }
+    return false;
+}
+
+bool hasHandleFor(Fn function) { return functionRow(function).result != Result::HANDLE || handleIsLeft(); }
+
+QWidget* clientOf(const Arguments& call) { return clientOf(widgetOf(call.integer(0))); }
+
+Widget& addWidget(Kind kind, const Family& family, const Arguments& call, QWidget* view,
+                  std::unique_ptr<FamilyData> data) {
+    Widget& widget = addWidget(kind, family, widgetOf(call.integer(0)), view);
+    widget.data = std::move(data);
+    takeAttributes(family, call, &widget, nullptr);
+    return widget;
+}
+
 int finishCreation(Widget& widget, const Arguments& call) {
-    if (widget.handle == 0 || !widgetOf(widget.handle)) return 0;
     if (isPlaced(call.function) && widget.kind != Kind::window) takePlace(widget, call);
     const Family* parent = widget.parent ? widget.parent->family : nullptr;
     if (parent && parent->placeChild) {
@@ -62,14 +76,9 @@ int finishCreation(Widget& widget, const Arguments& call) {
         widget.helpJustify = call.keyword(owHelpJustify);
         showHelp(widget);
     }
-    if (call.given(owReadOnly) && call.keyword(owReadOnly) != -1) {
-        Value readOnly{.integer = call.keyword(owReadOnly), .real = 0, .text = {}};
-        setProperty(widget, 129, readOnly);
-    }
-    if (call.given(owTabList)) {
-        Value tabList{.integer = call.keyword(owTabList), .real = 0, .text = {}};
-        setProperty(widget, 131, tabList);
-    }
+    if (call.given(owReadOnly) && call.keyword(owReadOnly) != -1)
+        setProperty(widget, propertyOf(owReadOnly), call.keyword(owReadOnly));
+    if (call.given(owTabList)) setProperty(widget, propertyOf(owTabList), call.keyword(owTabList));
     placeWidget(widget);
     // A child of a shown parent has to be shown by name; the others come with their window.
     if (widget.place.placed && widget.view) widget.view->show();

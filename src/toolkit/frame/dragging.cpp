@@ -3,7 +3,12 @@
 // A widget with owDragMode can be dragged: it tells Drag Select when the drag begins and Drag Move on its way, with the
 // handle of the widget below as status. A widget with a Drag Drop callback takes it: status is the handle of the
 // source. A widget with a File Drop callback takes files: the text holds their names, parted by bars.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/dragging.h"
+
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/layout.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/routines.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -37,6 +42,10 @@ const Shape* shapeOf(int handle) {
         if (shape.handle == handle) return &shape;
     }
     return nullptr;
+}
+
+void forgetShape(int handle) {
+    std::erase_if(shapes, [handle](const Shape& shape) { return shape.handle == handle; });
 }
 
 QPixmap dragPicture(const Widget& widget) {
@@ -113,7 +122,7 @@ bool drop(QObject* target, QDropEvent& event) {
 
 Word defineRect(const Arguments& call) {
     const int handle = call.integer(0);
-    std::erase_if(shapes, [handle](const Shape& shape) { return shape.handle == handle; });
+    forgetShape(handle);
     shapes.push_back({handle,
                       QRect(pixelsAcross(call.integer(1)), pixelsDown(call.integer(2)), pixelsAcross(call.integer(3)),
                             pixelsDown(call.integer(4))),
@@ -125,7 +134,7 @@ Word defineShape(const Arguments& call) {
     const int handle = call.integer(0);
     const auto* x = call.record<const float>(2);
     const auto* y = call.record<const float>(3);
-    std::erase_if(shapes, [handle](const Shape& shape) { return shape.handle == handle; });
+    forgetShape(handle);
     Shape shape{handle, {}, {}};
     for (int i = 0; x && y && i < call.integer(1); i++) shape.polygon << QPointF(x[i], y[i]);
     if (!shape.polygon.isEmpty()) shapes.push_back(shape);

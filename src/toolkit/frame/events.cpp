@@ -1,8 +1,12 @@
 // The one queue of events, and the routines that read and feed it.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/events.h"
+
+#include "toolkit/frame/registry.h"
 #include "toolkit/frame/report.h"
+#include "toolkit/frame/routines.h"
 #include "toolkit/frame/screen.h"
 #include "toolkit/frame/session.h"
+#include "toolkit/frame/widget_links.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -18,18 +22,18 @@ Session session;
 namespace {
 
 constexpr SlotRow slotRows[] = {
-    {Slot::general, owCallback, 19, 0},
-    {Slot::select, owSelectCallback, 39, 1},
-    {Slot::move, owMoveCallback, 18, 2},
-    {Slot::expose, owExposeCallback, 17, 3},
-    {Slot::change, owChangeCallback, 48, 4},
-    {Slot::dragDrop, owDragDropCallback, 23, 5},
-    {Slot::doubleClick, owDoubleClickCallback, 0, 6},
-    {Slot::fileDrop, owFileDropCallback, 112, 7},
-    {Slot::dragSelect, owDragSelectCallback, 12, 8},
-    {Slot::dragMove, owDragMoveCallback, 11, 9},
-    {Slot::valueError, owValueErrorCallback, 128, 10},
-    {Slot::link, owLinkCallback, 138, 11},
+    {Slot::general, owCallback, 0},
+    {Slot::select, owSelectCallback, 1},
+    {Slot::move, owMoveCallback, 2},
+    {Slot::expose, owExposeCallback, 3},
+    {Slot::change, owChangeCallback, 4},
+    {Slot::dragDrop, owDragDropCallback, 5},
+    {Slot::doubleClick, owDoubleClickCallback, 6},
+    {Slot::fileDrop, owFileDropCallback, 7},
+    {Slot::dragSelect, owDragSelectCallback, 8},
+    {Slot::dragMove, owDragMoveCallback, 9},
+    {Slot::valueError, owValueErrorCallback, 10},
+    {Slot::link, owLinkCallback, 11},
 };
 static_assert(std::size(slotRows) == static_cast<std::size_t>(Slot::count));
 
@@ -209,11 +213,9 @@ int runBox(QDialog& box) {
     return result;
 }
 
-void forgetWidget(Widget& widget) {
-    const int handle = widget.handle;
-    std::erase_if(session.queue, [handle](const Event& event) { return event.handle == handle && handle != 0; });
-    if (session.activeWindow == handle) session.activeWindow = 0;
-    adoptedErased(handle);
+void forgetEvents(const Widget& widget) {
+    std::erase_if(session.queue, [&widget](const Event& event) { return event.handle == widget.handle; });
+    if (session.activeWindow == widget.handle) session.activeWindow = 0;
 }
 
 } // namespace orba

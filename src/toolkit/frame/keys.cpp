@@ -1,5 +1,12 @@
 // Keys, mouse buttons and timers of the whole program, and the input that is confined to one window.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/keys.h"
+
+#include "toolkit/frame/colours.h"
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/report.h"
+#include "toolkit/frame/routines.h"
+#include "toolkit/frame/session.h"
 #include "toolkit/frame/windows.h"
 
 #include <QApplication>
@@ -114,7 +121,10 @@ public:
         case QEvent::ContextMenu:
         case QEvent::DragEnter: return target->isWidgetType() && blocked(target);
         case QEvent::ApplicationPaletteChange:
-            if (target == qApp) recolour();
+            if (target == qApp) {
+                loadColours();
+                recolour();
+            }
             return false;
         default: return false;
         }
@@ -122,13 +132,6 @@ public:
 
 private:
     static bool blocked(const QObject* target) { return inputBlocked(target); }
-
-    static void recolour() {
-        loadColours();
-        forEachWidget([](Widget& widget) {
-            if (widget.family->coloursChanged) widget.family->coloursChanged(widget);
-        });
-    }
 };
 
 InputFilter* filter = nullptr;

@@ -3,7 +3,11 @@
 // A widget keeps its distance from the edges that its origins name. With owExpand it fills its parent along each axis
 // on which its origin is centred. Widgets that fill along one axis and stand against an edge are strips (a row of
 // buttons at the bottom, a head panel): what fills along both axes takes the room that the strips leave.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/layout.h"
+
+#include "toolkit/frame/report.h"
+#include "toolkit/frame/routines.h"
+#include "toolkit/frame/session.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,5 +1,13 @@
-// Properties by number, status, help and information of every widget.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/properties.h"
+
+#include "toolkit/frame/attributes.h"
+#include "toolkit/frame/colours.h"
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/layout.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/routines.h"
+#include "toolkit/frame/session.h"
+#include "toolkit/views/fonts.h"
 #include "toolkit/views/text/tip_text.h"
 
 #include <QAbstractScrollArea>
@@ -12,15 +20,17 @@
 namespace orba {
 namespace {
 
-// The integer members that every widget has, by property number.
+// The integer members that every widget has.
 struct MemberRow {
     int property;
     int Widget::*member;
 };
 constexpr MemberRow members[] = {
-    {16, &Widget::titleFlag}, {21, &Widget::accel},    {24, &Widget::dragMode},
-    {42, &Widget::type},      {77, &Widget::quitMode}, {126, &Widget::helpJustify},
-    {98, &Widget::helpDelay}, {131, &Widget::tabList}, {49, &Widget::charSet},
+    {propertyOf(owTitleFlag), &Widget::titleFlag}, {propertyOf(owAccel), &Widget::accel},
+    {propertyOf(owDragMode), &Widget::dragMode},   {propertyOf(owListType), &Widget::type},
+    {propertyOf(owQuitMode), &Widget::quitMode},   {propertyOf(owHelpJustify), &Widget::helpJustify},
+    {propertyOf(owHelpDelay), &Widget::helpDelay}, {propertyOf(owTabList), &Widget::tabList},
+    {propertyOf(owCharSet), &Widget::charSet},
 };
 
 int Widget::*memberOf(int property) {
@@ -28,17 +38,6 @@ int Widget::*memberOf(int property) {
         if (row.property == property) return row.member;
     }
     return nullptr;
-}
-
-bool isGeometry(int property) {
-    return (property >= 1 && property <= 4) || property == 6 || property == 57 || property == 58;
-}
-
-bool isFont(int property) {
-    for (int one : {45, 53, 65, 72, 79, 84}) {
-        if (property == one) return true;
-    }
-    return false;
 }
 
 // Size the widget has, for one that fills or follows its contents.
@@ -52,77 +51,77 @@ int height(const Widget& widget) {
     return told || !widget.view ? widget.place.height : widget.view->height() + widget.place.inset.height();
 }
 
-void getGeometry(Widget& widget, int property, Value& value) {
+bool getGeometry(Widget& widget, int property, Value& value) {
     const Placement& place = widget.place;
     switch (property) {
-    case 1: value.integer = unitsAcross(place.x); break;
-    case 2: value.integer = unitsDown(place.y); break;
-    case 3: value.integer = unitsAcross(width(widget)); break;
-    case 4: value.integer = unitsDown(height(widget)); break;
-    case 6: value.integer = place.expand; break;
-    case 57: value.integer = place.hpos; break;
-    case 58: value.integer = place.vpos; break;
-    default: break;
+    case propertyOf(owXpos): value.integer = unitsAcross(place.x); return true;
+    case propertyOf(owYpos): value.integer = unitsDown(place.y); return true;
+    case propertyOf(owWidth): value.integer = unitsAcross(width(widget)); return true;
+    case propertyOf(owHeight): value.integer = unitsDown(height(widget)); return true;
+    case propertyOf(owExpand): value.integer = place.expand; return true;
+    case propertyOf(owHpos): value.integer = place.hpos; return true;
+    case propertyOf(owVpos): value.integer = place.vpos; return true;
+    default: return false;
     }
 }
 
-void setGeometry(Widget& widget, int property, const Value& value) {
+bool setGeometry(Widget& widget, int property, const Value& value) {
     Placement& place = widget.place;
     const int number = value.integer;
     switch (property) {
-    case 1: place.x = pixelsAcross(number); break;
-    case 2: place.y = pixelsDown(number); break;
-    case 3: place.width = std::max(0, pixelsAcross(number)); break;
-    case 4: place.height = std::max(0, pixelsDown(number)); break;
-    case 6: place.expand = number; break;
-    case 57: place.hpos = std::clamp(number, OLEFT, ORIGHT); break;
-    case 58: place.vpos = std::clamp(number, OBOTTOM, OTOP); break;
-    default: break;
+    case propertyOf(owXpos): place.x = pixelsAcross(number); break;
+    case propertyOf(owYpos): place.y = pixelsDown(number); break;
+    case propertyOf(owWidth): place.width = std::max(0, pixelsAcross(number)); break;
+    case propertyOf(owHeight): place.height = std::max(0, pixelsDown(number)); break;
+    case propertyOf(owExpand): place.expand = number; break;
+    case propertyOf(owHpos): place.hpos = std::clamp(number, OLEFT, ORIGHT); break;
+    case propertyOf(owVpos): place.vpos = std::clamp(number, OBOTTOM, OTOP); break;
+    default: return false;
     }
     if (widget.parent && place.placed && place.expand > 0) {
         placeChildren(*widget.parent); // a strip may have changed the room of others
     } else {
         placeWidget(widget);
     }
+    return true;
 }
+
+struct FontSwitch {
+    int property;
+    bool (QFont::*get)() const;
+    void (QFont::*set)(bool);
+};
+const FontSwitch fontSwitches[] = {{propertyOf(owBold), &QFont::bold, &QFont::setBold},
+                                   {propertyOf(owItalic), &QFont::italic, &QFont::setItalic},
+                                   {propertyOf(owUnderline), &QFont::underline, &QFont::setUnderline},
+                                   {propertyOf(owStrikeout), &QFont::strikeOut, &QFont::setStrikeOut}};
 
 QFont fontOf(const Widget& widget) { return widget.view ? widget.view->font() : QApplication::font(); }
 
-void getFont(Widget& widget, int property, Value& value) {
-    const QFont font = fontOf(widget);
+bool getFont(Widget& widget, int property, Value& value) {
     switch (property) {
-    case 45: value.integer = font.bold(); break;
-    case 53: value.text = widget.fontFace; break;
-    case 65: value.integer = font.italic(); break;
-    case 72: value.integer = widget.pointSize; break;
-    case 79: value.integer = font.strikeOut(); break;
-    case 84: value.integer = font.underline(); break;
-    default: break;
+    case propertyOf(owFontFace): value.text = widget.fontFace; return true;
+    case propertyOf(owPointSize): value.integer = widget.pointSize; return true;
+    default: return getFontSwitch(fontOf(widget), property, value);
     }
 }
 
-void setFont(Widget& widget, int property, const Value& value) {
-    if (!widget.view) return;
-    QFont font = widget.view->font();
-    switch (property) {
-    case 45: font.setBold(value.integer != 0); break;
-    case 53: widget.fontFace = value.text; break;
-    case 65: font.setItalic(value.integer != 0); break;
-    case 72: widget.pointSize = value.integer > 0 ? std::min(value.integer, 400) : 10; break;
-    case 79: font.setStrikeOut(value.integer != 0); break;
-    case 84: font.setUnderline(value.integer != 0); break;
-    default: break;
-    }
-    if (property == 53 || property == 72) {
+bool setFont(Widget& widget, int property, const Value& value) {
+    QFont font = fontOf(widget);
+    if (property == propertyOf(owFontFace) || property == propertyOf(owPointSize)) {
+        if (!widget.view) return true;
+        if (property == propertyOf(owFontFace)) widget.fontFace = value.text;
+        if (property == propertyOf(owPointSize)) widget.pointSize = pointsFrom(value.integer);
         QFont face = fontFor(widget.fontFace, widget.pointSize);
-        face.setBold(font.bold());
-        face.setItalic(font.italic());
-        face.setUnderline(font.underline());
-        face.setStrikeOut(font.strikeOut());
+        for (const FontSwitch& row : fontSwitches) (face.*row.set)((font.*row.get)());
         font = face;
+    } else if (!setFontSwitch(font, property, value)) {
+        return false;
     }
+    if (!widget.view) return true;
     widget.view->setFont(font);
     if (widget.family->fontChanged) widget.family->fontChanged(widget);
+    return true;
 }
 
 void applyTabList(Widget& widget) {
@@ -155,24 +154,23 @@ int windowState(const Widget& widget) {
 
 // What can only be asked.
 bool getState(Widget& widget, int property, Value& value) {
+    const Widget* window = windowOf(&widget);
     switch (property) {
-    case 5: value.integer = widget.parent ? widget.parent->handle : 0; return true;
-    case 7: value.integer = widget.children.empty() ? 0 : widget.children.front()->handle; return true;
-    case 8: value.integer = siblingOf(widget); return true;
-    case 9: {
-        const Widget* window = windowOf(&widget);
-        value.integer = window ? window->handle : 0;
+    case propertyOf(owParent): value.integer = widget.parent ? widget.parent->handle : 0; return true;
+    case propertyOf(owFirstChild):
+        value.integer = widget.children.empty() ? 0 : widget.children.front()->handle;
         return true;
-    }
-    case 10: value.integer = windowState(widget); return true;
-    case 15: value.integer = static_cast<int>(widget.kind); return true;
+    case propertyOf(owNextWidget): value.integer = siblingOf(widget); return true;
+    case propertyOf(owWindow): value.integer = window ? window->handle : 0; return true;
+    case propertyOf(owWindowState): value.integer = windowState(widget); return true;
+    case propertyOf(owKind): value.integer = static_cast<int>(widget.kind); return true;
     default: return false;
     }
 }
 
 bool slotOfProperty(int property, Slot& slot) {
     for (int i = 0; i < static_cast<int>(Slot::count); i++) {
-        if (slotRow(static_cast<Slot>(i)).property == property && property != 0) {
+        if (property != 0 && propertyOf(slotRow(static_cast<Slot>(i)).keyword) == property) {
             slot = static_cast<Slot>(i);
             return true;
         }
@@ -180,7 +178,50 @@ bool slotOfProperty(int property, Slot& slot) {
     return false;
 }
 
-QString textOf(Widget& widget) { return widget.family->text ? widget.family->text(widget) : QString(); }
+bool getCommonProperty(Widget& widget, int property, Value& value) {
+    if (const auto member = memberOf(property)) {
+        value.integer = widget.*member;
+        return true;
+    }
+    if (getGeometry(widget, property, value) || getFont(widget, property, value)) return true;
+    Slot slot;
+    if (slotOfProperty(property, slot)) {
+        value.integer = widget.callbacks[static_cast<std::size_t>(slot)];
+        return true;
+    }
+    switch (property) {
+    case propertyOf(owWidgetStatus): value.integer = widget.status; return true;
+    case propertyOf(owHelp): value.text = widget.help; return true;
+    case propertyOf(owLabel):
+    case propertyOf(owTitle): value.text = textOf(widget); return true;
+    default: return getState(widget, property, value);
+    }
+}
+
+bool setCommonProperty(Widget& widget, int property, const Value& value) {
+    if (const auto member = memberOf(property)) {
+        widget.*member = value.integer;
+        if (member == &Widget::tabList) applyTabList(widget);
+        if (member == &Widget::helpJustify || member == &Widget::helpDelay) showHelp(widget);
+        return true;
+    }
+    if (setGeometry(widget, property, value) || setFont(widget, property, value)) return true;
+    Slot slot;
+    if (slotOfProperty(property, slot)) {
+        defineCallback(widget, slot, value.integer);
+        return true;
+    }
+    switch (property) {
+    case propertyOf(owWidgetStatus): setStatus(widget, value.integer); return true;
+    case propertyOf(owHelp):
+        widget.help = value.text;
+        showHelp(widget);
+        return true;
+    case propertyOf(owLabel):
+    case propertyOf(owTitle): setText(widget, value.text); return true;
+    default: return false;
+    }
+}
 
 Word setProperties(const Arguments& call) {
     Widget& widget = *widgetOf(call.integer(0));
@@ -250,22 +291,21 @@ Word takeInfo(const Arguments& call) {
     if (!info) return 0;
     Widget& widget = *widgetOf(call.integer(0));
     OWIDGET wanted = *info;
-    for (int property = 1; property <= 4; property++) {
+    for (const int keyword : {owXpos, owYpos, owWidth, owHeight}) {
+        const int property = propertyOf(keyword);
         Value present;
         getProperty(widget, property, present);
         const int number = *infoMember(wanted, property);
-        if (number != present.integer) setProperty(widget, property, {.integer = number, .real = 0, .text = {}});
+        if (number != present.integer) setProperty(widget, property, number);
     }
     // A window's state comes last: a maximised window takes no place.
-    constexpr int STATE = 10;
+    constexpr int STATE = propertyOf(owWindowState);
     Value state;
-    if (getProperty(widget, STATE, state) && state.integer != wanted.state)
-        setProperty(widget, STATE, {.integer = wanted.state, .real = 0, .text = {}});
+    if (getProperty(widget, STATE, state) && state.integer != wanted.state) setProperty(widget, STATE, wanted.state);
     // Compared as the record holds it, so that a text longer than the record is not cut by writing it back.
     char present[sizeof info->text];
     textOut(textOf(widget), present, static_cast<int>(sizeof present));
-    if (widget.family->setText && textIn(present) != textIn(info->text))
-        widget.family->setText(widget, textIn(info->text));
+    if (textIn(present) != textIn(info->text)) setText(widget, textIn(info->text));
     if (widget.family->takeInfo) widget.family->takeInfo(widget, *info);
     return 0;
 }
@@ -276,9 +316,7 @@ Word setWidgetStatus(const Arguments& call) {
 }
 
 Word enquireWidgetStatus(const Arguments& call) {
-    Value value;
-    getProperty(*widgetOf(call.integer(0)), 29, value);
-    return value.integer;
+    return numberOf(*widgetOf(call.integer(0)), propertyOf(owWidgetStatus));
 }
 
 Word setHelp(const Arguments& call) {
@@ -376,14 +414,10 @@ void setStatus(Widget& widget, int status) {
     if (wasHidden != (status == OHIDDEN) && widget.parent && widget.place.expand > 0) placeChildren(*widget.parent);
 }
 
-constexpr int HELP_PROPERTY = 55;
-
 // An entry of a menu has no view: its family shows the help.
 void showHelp(Widget& widget) {
     if (!widget.view) {
-        Value help;
-        help.text = widget.help;
-        if (widget.family->set) widget.family->set(widget, HELP_PROPERTY, help);
+        if (widget.family->show) widget.family->show(widget);
         return;
     }
     const QString lines = barsToLines(widget.help);
@@ -397,75 +431,37 @@ void showHelp(Widget& widget) {
     widget.view->setToolTipDuration(widget.helpDelay > 0 ? widget.helpDelay : -1);
 }
 
-bool getCommonProperty(Widget& widget, int property, Value& value) {
-    if (const auto member = memberOf(property)) {
-        value.integer = widget.*member;
-        return true;
-    }
-    if (isGeometry(property)) {
-        getGeometry(widget, property, value);
-        return true;
-    }
-    if (isFont(property)) {
-        getFont(widget, property, value);
-        return true;
-    }
-    Slot slot;
-    if (slotOfProperty(property, slot)) {
-        value.integer = widget.callbacks[static_cast<std::size_t>(slot)];
-        return true;
-    }
-    switch (property) {
-    case 29: value.integer = widget.status; return true;
-    case 55: value.text = widget.help; return true;
-    case 66:
-    case 82: value.text = textOf(widget); return true;
-    default: return getState(widget, property, value);
-    }
-}
-
-bool setCommonProperty(Widget& widget, int property, const Value& value) {
-    if (const auto member = memberOf(property)) {
-        widget.*member = value.integer;
-        if (property == 131) applyTabList(widget);
-        if (property == 126 || property == 98) showHelp(widget);
-        return true;
-    }
-    if (isGeometry(property)) {
-        setGeometry(widget, property, value);
-        return true;
-    }
-    if (isFont(property)) {
-        setFont(widget, property, value);
-        return true;
-    }
-    Slot slot;
-    if (slotOfProperty(property, slot)) {
-        defineCallback(widget, slot, value.integer);
-        return true;
-    }
-    switch (property) {
-    case 29: setStatus(widget, value.integer); return true;
-    case 55:
-        widget.help = value.text;
-        showHelp(widget);
-        return true;
-    case 66:
-    case 82:
-        if (widget.family->setText) widget.family->setText(widget, value.text);
-        return true;
-    default: return false;
-    }
-}
-
 bool getProperty(Widget& widget, int property, Value& value) {
     if (widget.family->get && widget.family->get(widget, property, value)) return true;
-    return getCommonProperty(widget, property, value);
+    return getAttribute(widget, property, value) || getCommonProperty(widget, property, value);
 }
 
 bool setProperty(Widget& widget, int property, const Value& value) {
     if (widget.family->set && widget.family->set(widget, property, value)) return true;
-    return setCommonProperty(widget, property, value);
+    return setAttribute(widget, property, value) || setCommonProperty(widget, property, value);
+}
+
+bool getFontSwitch(const QFont& font, int property, Value& value) {
+    for (const FontSwitch& row : fontSwitches) {
+        if (row.property != property) continue;
+        value.integer = (font.*row.get)();
+        return true;
+    }
+    return false;
+}
+
+bool setFontSwitch(QFont& font, int property, const Value& value) {
+    for (const FontSwitch& row : fontSwitches) {
+        if (row.property != property) continue;
+        (font.*row.set)(value.integer != 0);
+        return true;
+    }
+    return false;
+}
+
+int pointsFrom(int number) {
+    constexpr int most = 400;
+    return number > 0 ? std::min(number, most) : 10;
 }
 
 } // namespace orba

@@ -1,8 +1,14 @@
-// Handles, the records behind them, and which record a Qt widget belongs to.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/registry.h"
+
+#include "toolkit/frame/adopt.h"
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/watch.h"
 #include "toolkit/frame/windows.h"
 
+#include <QHash>
+
 #include <algorithm>
+#include <deque>
 
 namespace orba {
 namespace {
@@ -34,13 +40,14 @@ int drawHandle(Kind kind) {
         if (all.fresh == GAP_START) all.fresh = GAP_END;
         return handle;
     }
-    if (all.freed.empty()) return 0;
     const int handle = all.freed.front();
     all.freed.pop_front();
     return handle;
 }
 
 } // namespace
+
+bool handleIsLeft() { return registry().fresh < HANDLE_END || !registry().freed.empty(); }
 
 Widget* widgetOf(int handle) {
     return handle < 1 || handle >= HANDLE_END ? nullptr : registry().table[static_cast<std::size_t>(handle)].get();
@@ -75,16 +82,7 @@ int widgetCount() { return registry().count; }
 void knowObject(Widget& widget, const QObject* object) { registry().byObject.insert(object, &widget); }
 
 Widget& addWidget(Kind kind, const Family& family, Widget* parent, QWidget* view) {
-    static Widget none; // all 43,998 handles are in use: the widget cannot be reached and is dropped at once
     const int handle = drawHandle(kind);
-    if (handle == 0) {
-        none = Widget{};
-        none.kind = kind;
-        none.family = &family;
-        none.view = view;
-        delete view;
-        return none;
-    }
     Registry& all = registry();
     auto& place = all.table[static_cast<std::size_t>(handle)];
     place = std::make_unique<Widget>();
@@ -119,7 +117,8 @@ void eraseWidget(Widget& widget) {
         }
     }
     if (widget.family->erased) widget.family->erased(widget);
-    forgetWidget(widget);
+    forgetEvents(widget);
+    adoptedErased(widget.handle);
     Registry& all = registry();
     if (widget.view) all.byObject.remove(widget.view);
     if (widget.client) all.byObject.remove(widget.client);
@@ -130,7 +129,6 @@ void eraseWidget(Widget& widget) {
         widget.kind == Kind::menuBar || widget.kind == Kind::statusBar || widget.kind == Kind::toolBar;
     Widget* window = inWindow ? windowOf(widget.parent) : nullptr;
     delete view;
-    if (handle == 0) return;
     all.count--;
     if (handle != 1) all.freed.push_back(handle);
     all.table[static_cast<std::size_t>(handle)].reset();

@@ -1,6 +1,5 @@
 #include "toolkit/frame/report.h"
 
-#include "toolkit/frame/core.h"
 #include "toolkit/frame/session.h"
 
 #include <cstdio>

@@ -9,6 +9,9 @@ namespace orba {
 // where it matters. A code below 1 says that no master window was made, and ends the program.
 void reportError(int code, int argument, bool withArgument);
 
+// The same with the argument, for what only a family can see.
+void reportFailure(int code, int argument);
+
 // The routine being called, six blanks between calls.
 extern const char* traceName;
 

@@ -1,5 +1,4 @@
-// Which handler answers which routine.
-#include "toolkit/frame/core.h"
+#include "toolkit/frame/routines.h"
 
 #include <array>
 

@@ -1,6 +1,7 @@
 #include "toolkit/frame/screen.h"
 
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/session.h"
 
 #include <QApplication>
 #include <QEventLoop>

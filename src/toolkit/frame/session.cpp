@@ -1,7 +1,11 @@
 // Start and end of the toolkit.
 #include "toolkit/frame/session.h"
 
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/colours.h"
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/keys.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/routines.h"
 
 #include <QApplication>
 #include <QMessageBox>

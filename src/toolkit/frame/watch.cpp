@@ -1,5 +1,11 @@
 // What the frame sees of every view: client areas that change size, double clicks, pointer moves, bubble help.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/watch.h"
+
+#include "toolkit/frame/dragging.h"
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/layout.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/session.h"
 
 #include <QEvent>
 #include <QMouseEvent>

@@ -1,5 +1,10 @@
 // Widgets that set the status of others, and the order in which Tab goes through them.
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/widget_links.h"
+
+#include "toolkit/frame/properties.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/report.h"
+#include "toolkit/frame/routines.h"
 
 #include <algorithm>
 

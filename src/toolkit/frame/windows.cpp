@@ -1,6 +1,10 @@
 #include "toolkit/frame/windows.h"
 
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/keys.h"
+#include "toolkit/frame/layout.h"
+#include "toolkit/frame/registry.h"
+#include "toolkit/frame/session.h"
 
 #include <QApplication>
 #include <QCloseEvent>

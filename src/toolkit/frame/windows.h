@@ -1,7 +1,7 @@
 // The windows of a program: master window, dialogue boxes of their own, dialogue boxes inside an MDI master.
 #pragma once
 
-#include "toolkit/frame/core.h"
+#include "toolkit/frame/widget.h"
 
 #include <QElapsedTimer>
 #include <QMainWindow>

@@ -65,6 +65,12 @@ Fn functionByName(const char* name);
 // What follows a keyword in a list.
 enum class ValueKind { INT, TEXT, REAL, INTS };
 
+// Keywords that programs reach by number only.
+inline constexpr int owFirstChild = 32193, owNextWidget = 32192, owWindow = 32191, owWindowState = 32190,
+                     owKeyword32189 = 32189, owKeyword32179 = 32179, owKeyword32178 = 32178, owKeyword32177 = 32177,
+                     owKeyword32176 = 32176, owKeyword32168 = 32168, owKeyword32167 = 32167, owKeyword32166 = 32166,
+                     owKeyword32156 = 32156, owKeyword32155 = 32155, owKeyword32092 = 32092;
+
 struct KeywordRow {
     int number;
     const char* name;
@@ -73,6 +79,19 @@ struct KeywordRow {
     bool enquiryOnly; // owSetWidgetProp does not take it
     int fallback;     // value when a creation call does not give it; texts are empty and reals 0
 };
+
+// The property that a keyword stands for, 0 for none: the name by which code speaks of it.
+constexpr int propertyOf(int keyword) {
+    constexpr int rows[][2] = {
+#define KEYWORD(name, kind, property, onlyAsked, fallback) {name, property},
+#include "toolkit/tables/keywords.def"
+#undef KEYWORD
+    };
+    for (const auto& row : rows) {
+        if (row[0] == keyword) return row[1];
+    }
+    return 0;
+}
 
 // Null for a number that is no keyword.
 const KeywordRow* keywordRow(int number);

@@ -1,7 +1,9 @@
 #include "toolkit/testing/robot.h"
 
 #include "toolkit/families/menus.h"
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/attributes.h"
+#include "toolkit/frame/events.h"
+#include "toolkit/frame/registry.h"
 #include "toolkit/frame/report.h"
 #include "toolkit/frame/windows.h"
 
@@ -359,7 +361,7 @@ QColor pixel(int handle, QPoint at) {
 
 QString shownText(int handle) {
     Widget* widget = widgetOf(handle);
-    return widget && widget->family->text ? widget->family->text(*widget) : QString();
+    return widget ? textOf(*widget) : QString();
 }
 
 QString toolTip(int handle) {
