@@ -4,7 +4,7 @@
 
 #include "editing/editor_window.h"
 #include "toolkit/frame/core.h"
-#include "toolkit/frame/frame.h"
+#include "toolkit/frame/session.h"
 #include "toolkit/testing/robot.h"
 
 #include <QApplication>
