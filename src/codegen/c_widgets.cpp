@@ -1,21 +1,30 @@
 // The creation statements of C. They are written piece by piece with line ends at fixed places, and values that are
 // the toolkit's own are mostly written all the same.
 
+#include "codegen/attributes_text.h"
 #include "codegen/c_language.h"
 #include "codegen/quotes.h"
 
+#include <algorithm>
 #include <string>
 
 namespace {
+
+constexpr AttributeForms FORMS = {
+    .blankAhead = &Attribute::blankAheadInC,
+    .namesEdges = false,
+    .number = ", %s,%d",
+    .name = ", %s,%s",
+    .nameBehindBlank = " ,%s,%s",
+    .string = ", %s,\"%s\"",
+    .resource = ", %s,owGetIconResource(\"%s\")",
+    .text = cText,
+};
 
 // --- Pieces that many statements share.
 
 void writeSwitch(Generation& g, std::string_view keyword, bool on) {
     if (on) write(g, ", %s,OON", keyword);
-}
-
-void writeSize(Generation& g, const WidgetNode& node) {
-    if (node.size != 100) write(g, ", owSize,%d", node.size);
 }
 
 void writeHelpSide(Generation& g, const WidgetNode& node) {
@@ -42,20 +51,39 @@ void writeTail(Generation& g, const WidgetNode& node) {
 
 void writeTab(Generation& g, const WidgetNode& node) { writeNamed(g, "owTabList", OFF_ON, node.tabList); }
 
-void writeScroll(Generation& g, const WidgetNode& node) {
-    if (g.windows) write(g, ", owScrollMode,%s", nameOf(SCROLL_BARS, node.scrollMode, "ONOBARS"));
-}
-
-// The last boundary has its blank ahead of the comma on panels and arrays.
-void writeBoundary(Generation& g, std::string_view keyword, int boundary, bool blankAhead) {
-    const std::string_view name = nameOf(BOUNDARY, boundary, NO_BOUNDARY);
-    write(g, blankAhead && name == "OINVERSECHISEL" ? " ,%s,%s\n" : ", %s,%s\n", keyword, name);
-}
-
 // "   name = routine(parent, x, y, width, height"
-void beginCreation(Generation& g, const Placed& w, std::string_view routine) {
-    write(g, "   %s = %s(%s, %d, %d, %d, %d", w.node.name, routine, w.parent, w.node.xpos, w.node.ypos, w.width,
-          w.height);
+void beginCreation(Generation& g, const Placed& w) {
+    write(g, "   %s = %s(%s, %d, %d, %d, %d", w.node.name, attributesOf(w.node.type)->routine, w.parent, w.node.xpos,
+          w.node.ypos, w.width, w.height);
+}
+
+void writeAttribute(Generation& g, const AttributesOfType& type, Keyword keyword, const WidgetNode& node) {
+    const bool always = keyword == Keyword::LINE;
+    switch (keyword) {
+    case Keyword::TAB: writeTab(g, node); break;
+    case Keyword::LINE:
+    case Keyword::WINDOWS_LINE:
+        if (always || g.windows) write(g, "\n%s", CONTINUATION);
+        break;
+    case Keyword::WINDOWS_END:
+        if (g.windows) write(g, "\n");
+        break;
+    default: {
+        const auto attribute = std::ranges::find(type.attributes, keyword, &Attribute::keyword);
+        if (isTold(*attribute, node)) appendAttribute(g, g.out, *attribute, node, FORMS);
+    }
+    }
+}
+
+// The lines of a statement behind the one that holds what stands at fixed places.
+void endCreation(Generation& g, const Placed& w) {
+    const AttributesOfType& type = *attributesOf(w.node.type);
+    if (std::ranges::find(type.attributes, Keyword::HELP, &Attribute::keyword) != type.attributes.end()) {
+        writeHelp(g, w.node);
+    }
+    write(g, CONTINUATION);
+    for (const Keyword keyword : type.inC) writeAttribute(g, type, keyword, w.node);
+    writeTail(g, w.node);
 }
 
 void writeCharacterSet(Generation& g, const WidgetNode& node) {
@@ -96,6 +124,11 @@ void writeFont(Generation& g, const Placed& w) {
 
 // --- Widgets.
 
+void endWithFont(Generation& g, const Placed& w) {
+    endCreation(g, w);
+    writeFont(g, w);
+}
+
 // Tool bar buttons and icons have their help inside the statement and are closed alike.
 void endToolButton(Generation& g, const WidgetNode& node) {
     writeSwitch(g, "owDragMode", node.dragMode == 1);
@@ -117,86 +150,37 @@ void createToolButton(Generation& g, const Placed& w) {
 }
 
 void createButton(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    if (node.onToolbar == 1) return createToolButton(g, w);
-    beginCreation(g, w, "owCreatePushButton");
-    write(g, ", \"%s\"\n", cText(node.text));
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    write(g, ", owType,%s", nameOf(BUTTON_TYPE, node.subType, "OSTANDARD"));
-    writeSwitch(g, "owDragMode", node.dragMode == 1);
-    writeNamed(g, "owJustify", LEFT_RIGHT, node.justify);
-    writeSize(g, node);
-    write(g, ", owAccel,%d\n", node.accel);
-    write(g, CONTINUATION);
-    write(g, ", owOnCol,%d, owOffCol,%d, owTextCol,%d", node.colour1, node.colour2, node.colour3);
-    writeTab(g, node);
-    writeTail(g, node);
-    writeFont(g, w);
+    if (w.node.onToolbar == 1) return createToolButton(g, w);
+    beginCreation(g, w);
+    write(g, ", \"%s\"\n", cText(w.node.text));
+    endWithFont(g, w);
 }
 
 void createToggle(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateToggleButton");
-    write(g, ", \"%s\", %d\n", cText(node.text), node.initialStatus);
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    write(g, ", owType,%s", nameOf(TOGGLE_TYPE, node.subType, "OBEVELSQUARE"));
-    writeSize(g, node);
-    write(g, ", owAccel,%d\n", node.accel);
-    write(g, CONTINUATION);
-    write(g, ", owOnCol,%d, owOffCol,%d, owTextCol,%d", node.colour1, node.colour2, node.colour3);
-    writeTab(g, node);
-    writeTail(g, node);
-    writeFont(g, w);
+    beginCreation(g, w);
+    write(g, ", \"%s\", %d\n", cText(w.node.text), w.node.initialStatus);
+    endWithFont(g, w);
 }
 
 void createText(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    const bool editable = node.type == TYPE_TEXT_ENTRY;
     add(g, "   %s = owCreateTextEntry(%s, %d, %d, %d, %d,\"%s \", %d, %s\n", node.name, w.parent, node.xpos, node.ypos,
-        w.width, w.height, cFieldText(fieldText(node)), node.fieldWidth, editable ? "OEDIT" : "ODISPLAY");
+        w.width, w.height, cFieldText(fieldText(node)), node.fieldWidth,
+        node.type == TYPE_TEXT_ENTRY ? "OEDIT" : "ODISPLAY");
     writeStatementSplit(g);
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    write(g, ", owEntryType,%s", nameOf(ENTRY_TYPE, node.subType, "OSTANDARD"));
-    writeSize(g, node);
-    writeNamed(g, "owJustify", CENTRE_RIGHT, node.justify);
-    if (node.oleInserts == 0) write(g, ", owOLEInserts,OOFF");
-    writeSwitch(g, "owAutoURL", node.autoUrl == 1);
-    write(g, ", owBack1Col,%d, owBack2Col,%d, owTextCol,%d\n", node.colour1, node.colour2, node.colour3);
-    write(g, CONTINUATION);
-    writeScroll(g, node);
-    if (g.windows) writeNamed(g, "owBorderType", ENTRY_BORDER, node.borderType);
-    writeSwitch(g, "owReadOnly", editable && node.readOnly == 1);
-    writeTab(g, node);
-    writeTail(g, node);
-    writeFont(g, w);
+    endWithFont(g, w);
 }
 
 void createValue(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool editable = node.type == TYPE_VALUE_ENTRY;
-    beginCreation(g, w, "owCreateValueEntry");
+    beginCreation(g, w);
     write(g, ", %#g, %d, %d, %s\n", node.value, node.fieldWidth, node.format, editable ? "OEDIT" : "ODISPLAY");
     if (editable) {
         write(g, CONTINUATION);
         write(g, ", owVmin,%#g, owVmax,%#g\n", node.minValue, node.maxValue);
     }
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    write(g, ", owType,%s", nameOf(VALUE_TYPE, node.subType, "ODECIMAL"));
-    write(g, ", owSign,%s", nameOf(VALUE_SIGN, node.sign, "ODEFAULT"));
-    writeSize(g, node);
-    write(g, ", owJustify,%s\n", nameOf(CENTRE_RIGHT, node.justify, "OLEFT"));
-    write(g, CONTINUATION);
-    write(g, ", owBack1Col,%d, owBack2Col,%d, owTextCol,%d", node.colour1, node.colour2, node.colour3);
-    if (g.windows && editable) writeNamed(g, "owBorderType", ENTRY_BORDER, node.borderType);
-    if (node.charSet == 1) write(g, ", owCharSet,OALPHANUMERIC");
-    writeSwitch(g, "owReadOnly", editable && node.readOnly == 1);
-    writeTab(g, node);
-    writeTail(g, node);
-    writeFont(g, w);
+    endWithFont(g, w);
 }
 
 // A tool bar icon names its type in any case: without a word there the call would not stand.
@@ -210,18 +194,10 @@ void createToolIcon(Generation& g, const Placed& w) {
 }
 
 void createPlainIcon(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    const Picture picture = iconPicture(g, node);
-    beginCreation(g, w, "owCreateIcon");
-    write(g, ",\"%s\", %d, %d\n", imageText(picture), picture.kind, node.iconId);
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    writeNamed(g, "owType", ICON_TYPE, node.subType);
-    writeSwitch(g, "owDragMode", node.dragMode == 1);
-    if (!node.text.empty()) write(g, ", owLabel,\"%s\"", cText(node.text));
-    writeSize(g, node);
-    writeTab(g, node);
-    writeTail(g, node);
+    const Picture picture = iconPicture(g, w.node);
+    beginCreation(g, w);
+    write(g, ",\"%s\", %d, %d\n", imageText(picture), picture.kind, w.node.iconId);
+    endCreation(g, w);
 }
 
 void createIcon(Generation& g, const Placed& w) {
@@ -233,39 +209,18 @@ void createIcon(Generation& g, const Placed& w) {
     if (!w.node.text.empty()) writeFont(g, w);
 }
 
-void writeListAttributes(Generation& g, const WidgetNode& node) {
-    writeNamed(g, "owSort", LIST_SORT, node.sorted);
-    writeSwitch(g, "owUseIcons", node.displayIcons == 1);
-    if (node.fieldWidth > 0) write(g, ", owDescWidth,%d", node.fieldWidth);
-}
-
 void createListBox(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateListBox");
-    write(g, ", %s\n", nameOf(CONTENTS, node.contents, "ONONE"));
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    writeNamed(g, "owType", LIST_TYPE, node.subType);
-    writeNamed(g, "owStyle", LIST_STYLE, node.approxSize);
-    writeListAttributes(g, node);
-    write(g, ", owOffCol,%d, owOnCol,%d, owTextCol,%d\n", node.colour1, node.colour2, node.colour3);
-    write(g, CONTINUATION);
-    writeTab(g, node);
-    writeTail(g, node);
-    writeFont(g, w);
-    writeListEntries(g, node, g.language.listComment);
+    beginCreation(g, w);
+    write(g, ", %s\n", nameOf(CONTENTS, w.node.contents, "ONONE"));
+    endWithFont(g, w);
+    writeListEntries(g, w.node, g.language.listComment);
 }
 
 void createComboBox(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateComboBox");
+    beginCreation(g, w);
     write(g, ", %s, %d\n", nameOf(CONTENTS, node.contents, "ONONE"), node.editMode);
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    writeListAttributes(g, node);
-    writeTab(g, node);
-    writeTail(g, node);
-    writeFont(g, w);
+    endWithFont(g, w);
     if (!hasListEntries(node)) return;
     writeListEntries(g, node, g.language.comboComment);
     write(g, "\n// Select first entry in list for display\n");
@@ -274,13 +229,9 @@ void createComboBox(Generation& g, const Placed& w) {
 
 void createSlider(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateSlider");
+    beginCreation(g, w);
     write(g, ", %f, %f, %f, %f\n", node.minValue, node.maxValue, node.stepValue, node.value);
-    write(g, CONTINUATION);
-    write(g, ", owType,%s", nameOf(SLIDER_TYPE, node.subType, "OHORIZONTAL"));
-    writeSize(g, node);
-    write(g, ", owBackCol,%d", node.colour3);
-    writeTail(g, node);
+    endCreation(g, w);
     write(g, "\n// Set correct width/height for %s\n", node.name);
     write(g, "   owEnqWidgetInfo(%s,&Slider_attribs);\n", node.name);
     write(g, "      Slider_attribs.width = %d;\n", node.width);
@@ -288,40 +239,15 @@ void createSlider(Generation& g, const Placed& w) {
     write(g, "   owSetWidgetInfo(%s,&Slider_attribs);\n", node.name);
 }
 
-void createPanel(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreatePanel");
+// Types that have nothing at a fixed place.
+void createPlain(Generation& g, const Placed& w) {
+    beginCreation(g, w);
     write(g, "\n");
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    if (node.titleFlag != 0 && node.scrollMode == -1) write(g, ", owTitle,\"%s\"", cText(node.text));
-    writeBoundary(g, "owType", node.subType, true);
-    write(g, CONTINUATION);
-    writeBorder(g, node);
-    write(g, "\n");
-    write(g, CONTINUATION);
-    writeBackgroundImage(g, node);
-    if (g.windows && !node.closeIcon.empty()) {
-        write(g, ", owIcon,owGetIconResource(\"%s\")", iconResourceName(node.closeIcon));
-    }
-    writeScroll(g, node);
-    writeTab(g, node);
-    writeTail(g, node);
-    writeFont(g, w);
+    endCreation(g, w);
 }
-
-void createRadioBox(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateRadioBox");
-    write(g, "\n");
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    write(g, ", owType,OFREEFORM");
-    if (node.titleFlag != 0) write(g, ", owTitle,\"%s\"", cText(node.text));
-    writeBoundary(g, "owBorderType", node.borderType, false);
-    write(g, CONTINUATION);
-    writeBorder(g, node);
-    writeTail(g, node);
+void createWithFont(Generation& g, const Placed& w) {
+    createPlain(g, w);
+    writeFont(g, w);
 }
 
 void createGraphicsFrame(Generation& g, const Placed& w) {
@@ -331,12 +257,9 @@ void createGraphicsFrame(Generation& g, const Placed& w) {
     write(g, "   Graphics_frame.xmax = %f;\n", node.xMax);
     write(g, "   Graphics_frame.ymin = %f;\n", node.yMin);
     write(g, "   Graphics_frame.ymax = %f;\n", node.yMax);
-    beginCreation(g, w, "owCreateGraphicsFrame");
+    beginCreation(g, w);
     write(g, ", &Graphics_frame\n");
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    if (g.windows) write(g, ", owFrameType,%s", node.subType == FRAME_OPENGL ? "OOPENGL" : "OGDI");
-    writeTail(g, node);
+    endCreation(g, w);
 }
 
 void writeCells(Generation& g, const WidgetNode& node) {
@@ -350,34 +273,10 @@ void writeCells(Generation& g, const WidgetNode& node) {
     }
 }
 
-void writeArrayColours(Generation& g, const WidgetNode& node) {
-    writeScroll(g, node);
-    writeBoundary(g, "owBorderType", node.subType, true);
-    write(g, CONTINUATION);
-    write(g, ", owAxisBackColour,%d, owXtextColour,%d, owYtextColour,%d, owGridBackColour,%d\n", node.colour1,
-          node.colour3, node.colour4, node.cellBackground);
-    write(g, CONTINUATION);
-    write(g, ", owCellBorderColour,%d, owCellBorderLineType,%d, owSelectedCellColour,%d\n", node.cellBorder,
-          node.borderType, node.colour2);
-}
-
 void createArray(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, node.type == TYPE_TEXT_ARRAY ? "owCreateTextArray" : "owCreateValueArray");
-    write(g, ", %d, %d\n", node.columns, node.rows);
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    write(g, ", owXtext,\"%s\", owYtext,\"%s\"\n", cText(node.xLabels), cText(node.yLabels));
-    write(g, CONTINUATION);
-    write(g, ", owAxisW,%d", node.yLabelsWidth);
-    write(g, ", owAxisH,%d", node.xLabelsHeight);
-    writeNamed(g, "owXjust", LEFT_CENTRE_RIGHT, node.alignXLabels);
-    writeNamed(g, "owYjust", LEFT_CENTRE_RIGHT, node.alignYLabels);
-    if (g.windows) writeArrayColours(g, node);
-    writeSwitch(g, "owReadOnly", node.readOnly == 1);
-    writeTab(g, node);
-    writeNamed(g, "owTabAction", TAB_ACTION, node.tabAction);
-    writeTail(g, node);
+    beginCreation(g, w);
+    write(g, ", %d, %d\n", w.node.columns, w.node.rows);
+    endCreation(g, w);
     writeCells(g, w.node);
     writeFont(g, w);
 }
@@ -414,71 +313,26 @@ void createToolSeparator(Generation& g, const Placed& w) {
     write(g, ");\n");
 }
 
-void createTabBox(Generation& g, const Placed& w) {
-    beginCreation(g, w, "owCreateTabDialogueBox");
-    write(g, "\n");
-    write(g, CONTINUATION);
-    writeTail(g, w.node);
-    writeFont(g, w);
-}
-
 void createGauge(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateGauge");
-    write(g, ", \"%s\"\n", doubledBackslashes(node.icon));
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    writeNamed(g, "owAccess", GAUGE_ACCESS, node.accessMode);
-    write(g, ", owTicks1,%d", node.topTicks);
-    write(g, ", owTicks2,%d", node.bottomTicks);
-    write(g, ", owMinimum,%d", wholeNumber(node.minValue));
-    write(g, ", owMaximum,%d", wholeNumber(node.maxValue));
-    write(g, ", owIntValue,%d", wholeNumber(node.value));
-    writeTab(g, node);
-    writeTail(g, node);
-}
-
-void createProgressBar(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateProgressBar");
-    write(g, "\n");
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    writeNamed(g, "owProgressType", PROGRESS_TYPE, node.subType);
-    write(g, ", owMinimum,%d", wholeNumber(node.minValue));
-    write(g, ", owMaximum,%d", wholeNumber(node.maxValue));
-    write(g, ", owIntValue,%d", wholeNumber(node.value));
-    writeTail(g, node);
+    beginCreation(g, w);
+    write(g, ", \"%s\"\n", doubledBackslashes(w.node.icon));
+    endCreation(g, w);
 }
 
 void createTtyEntry(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateTTYEntry");
-    write(g, ", %d,\"%s \"\n", node.size, cText(node.text));
-    writeHelp(g, node);
-    write(g, CONTINUATION);
-    if (!node.icon.empty()) write(g, ", owPrompt,\"%s\"", cText(node.icon));
-    write(g, ", owOffCol,%d, owOnCol,%d, owTextCol,%d", node.colour1, node.colour2, node.colour3);
-    writeSwitch(g, "owReadOnly", node.readOnly == 1);
-    writeTail(g, node);
-    writeFont(g, w);
+    beginCreation(g, w);
+    write(g, ", %d,\"%s \"\n", w.node.size, cText(w.node.text));
+    endWithFont(g, w);
 }
 
 void createTreeView(Generation& g, const Placed& w) {
-    beginCreation(g, w, "owCreateTreeViewBox");
-    write(g, "\n");
-    write(g, CONTINUATION);
-    writeNamed(g, "owIconSet", TREE_ICONS, w.node.subType);
-    writeTail(g, w.node);
+    createPlain(g, w);
     writeTreeEntries(g, w.node);
     writeFont(g, w);
 }
 
 void createTableBox(Generation& g, const Placed& w) {
-    beginCreation(g, w, "owCreateTableBox");
-    write(g, "\n");
-    write(g, CONTINUATION);
-    writeTail(g, w.node);
+    createPlain(g, w);
     for (const TableColumn& column : tableColumns(w.node)) {
         write(g, "   owAddTableBoxColumn(%s, %d, %d", w.node.name, column.number, column.width);
         if (column.labelled) write(g, ", owLabel,\"%s\"", cText(column.label));
@@ -499,16 +353,16 @@ constexpr CreationRow CREATION[] = {
     {TYPE_ICON, createIcon},
     {TYPE_LIST_BOX, createListBox},
     {TYPE_SLIDER, createSlider},
-    {TYPE_PANEL, createPanel},
+    {TYPE_PANEL, createWithFont},
     {TYPE_COMBO_BOX, createComboBox},
-    {TYPE_RADIO_BOX, createRadioBox},
+    {TYPE_RADIO_BOX, createPlain},
     {TYPE_GRAPHICS_FRAME, createGraphicsFrame},
     {TYPE_TEXT_ARRAY, createArray},
     {TYPE_VALUE_ARRAY, createArray},
     {TYPE_TOOL_BAR, createToolBar},
-    {TYPE_TAB_BOX, createTabBox},
+    {TYPE_TAB_BOX, createWithFont},
     {TYPE_GAUGE, createGauge},
-    {TYPE_PROGRESS_BAR, createProgressBar},
+    {TYPE_PROGRESS_BAR, createPlain},
     {TYPE_TTY_ENTRY, createTtyEntry},
     {TYPE_TREE_VIEW, createTreeView},
     {TYPE_TABLE_BOX, createTableBox},

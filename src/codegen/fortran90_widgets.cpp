@@ -1,12 +1,24 @@
-// The creation statements of Fortran 90. A statement is put together keyword by keyword and written split; keywords
+// The creation statements of Fortran 90. A statement is put together from its attributes and written split; keywords
 // that tell the toolkit's own default are left out.
 
+#include "codegen/attributes_text.h"
 #include "codegen/fortran90.h"
 #include "codegen/quotes.h"
 
 #include <string>
 
 namespace {
+
+constexpr AttributeForms FORMS = {
+    .blankAhead = &Attribute::blankAheadInFree,
+    .namesEdges = true,
+    .number = ", %s=%d",
+    .name = ", %s=%s",
+    .nameBehindBlank = " ,%s=%s",
+    .string = ", %s='%s'",
+    .resource = ", %s=owGetIconResource('%s')",
+    .text = fortranText,
+};
 
 // --- Pieces that many statements share.
 
@@ -19,12 +31,6 @@ void addSwitch(Generation& g, std::string_view keyword, bool on) {
     if (on) add(g, ", %s=OON", keyword);
 }
 
-void addColours(Generation& g, const WidgetNode& node) {
-    addNumber(g, "owOnCol", node.colour1, 0);
-    addNumber(g, "owOffCol", node.colour2, 0);
-    addNumber(g, "owTextCol", node.colour3, 1);
-}
-
 void addHelp(Generation& g, const WidgetNode& node) {
     if (node.bubbleHelp.empty()) return;
     add(g, ", owHelp='%s'", fortranText(node.bubbleHelp));
@@ -33,20 +39,24 @@ void addHelp(Generation& g, const WidgetNode& node) {
 
 void addTab(Generation& g, const WidgetNode& node) { addNamed(g, "owTabList", OFF_ON, node.tabList); }
 
-void addScroll(Generation& g, const WidgetNode& node) {
-    if (g.windows) add(g, ", owScrollMode=%s", nameOf(SCROLL_BARS, node.scrollMode, "ONOBARS"));
-}
-
-void addBoundary(Generation& g, std::string_view keyword, int boundary) {
-    add(g, ", %s=%s", keyword, nameOf(BOUNDARY, boundary, NO_BOUNDARY));
-}
-
 void addContents(Generation& g, const WidgetNode& node) { add(g, ", %s", nameOf(CONTENTS, node.contents, "ONONE")); }
 
 // "   name = routine(parent, x, y, width, height"
-void beginCreation(Generation& g, const Placed& w, std::string_view routine) {
-    add(g, "   %s = %s(%s, %d, %d, %d, %d", w.node.name, routine, w.parent, w.node.xpos, w.node.ypos, w.width,
-        w.height);
+void beginCreation(Generation& g, const Placed& w) {
+    add(g, "   %s = %s(%s, %d, %d, %d, %d", w.node.name, attributesOf(w.node.type)->routine, w.parent, w.node.xpos,
+        w.node.ypos, w.width, w.height);
+}
+
+void addAttributes(Generation& g, const WidgetNode& node) {
+    for (const Attribute& attribute : attributesOf(node.type)->attributes) {
+        switch (attribute.keyword) {
+        case Keyword::PLACE: addPosition(g, node); break;
+        case Keyword::HELP: addHelp(g, node); break;
+        case Keyword::TAB: addTab(g, node); break;
+        default:
+            if (!isStandard(attribute, node)) appendAttribute(g, g.statement, attribute, node, FORMS);
+        }
+    }
 }
 
 // Text widgets spell their styles as numbers, all others as OON. A value widget's charSet is no character set.
@@ -73,7 +83,16 @@ void writeFont(Generation& g, const Placed& w) {
     endStatement(g);
 }
 
-// --- Widgets.
+// --- Widgets. Their attributes stand behind what their creation call has at fixed places.
+
+void endCreation(Generation& g, const Placed& w) {
+    addAttributes(g, w.node);
+    endStatement(g);
+}
+void endWithFont(Generation& g, const Placed& w) {
+    endCreation(g, w);
+    writeFont(g, w);
+}
 
 void createToolButton(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
@@ -88,90 +107,36 @@ void createToolButton(Generation& g, const Placed& w) {
 }
 
 void createButton(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    if (node.onToolbar == 1) return createToolButton(g, w);
-    beginCreation(g, w, "owCreatePushButton");
-    add(g, ", '%s'", fortranText(node.text));
-    addNamed(g, "owType", BUTTON_TYPE, node.subType);
-    addNamed(g, "owJustify", LEFT_RIGHT, node.justify);
-    addSwitch(g, "owDragMode", node.dragMode == 1);
-    addNumber(g, "owSize", node.size, 100);
-    addNumber(g, "owAccel", node.accel, 0);
-    if (node.subType == 1) addColours(g, node);
-    addPosition(g, node);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-    writeFont(g, w);
+    if (w.node.onToolbar == 1) return createToolButton(g, w);
+    beginCreation(g, w);
+    add(g, ", '%s'", fortranText(w.node.text));
+    endWithFont(g, w);
 }
 
 void createToggle(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateToggleButton");
-    add(g, ", '%s', %d", fortranText(node.text), node.initialStatus);
-    add(g, ", owType=%s", nameOf(TOGGLE_TYPE, node.subType, "OBEVELSQUARE"));
-    addNumber(g, "owSize", node.size, 100);
-    addNumber(g, "owAccel", node.accel, 0);
-    addColours(g, node);
-    addPosition(g, node);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-    writeFont(g, w);
-}
-
-void addTextScroll(Generation& g, const WidgetNode& node) {
-    if (g.windows && nameOf(SCROLL_BARS, node.scrollMode) == "OVERTICAL") {
-        add(g, " ,owScrollMode=OVERTICAL"); // the blank stands ahead of the comma on text widgets
-    } else {
-        addScroll(g, node);
-    }
+    beginCreation(g, w);
+    add(g, ", '%s', %d", fortranText(w.node.text), w.node.initialStatus);
+    endWithFont(g, w);
 }
 
 void createText(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    const bool editable = node.type == TYPE_TEXT_ENTRY;
-    beginCreation(g, w, "owCreateTextEntry");
+    beginCreation(g, w);
     add(g, ",'%s '", fortranText(fieldText(node)));
-    add(g, ", %d, %s", node.fieldWidth, editable ? "OEDIT" : "ODISPLAY");
-    addNamed(g, "owEntryType", ENTRY_TYPE, node.subType);
-    addNumber(g, "owSize", node.size, 100);
-    addNamed(g, "owJustify", CENTRE_RIGHT, node.justify);
-    if (node.oleInserts == 0) add(g, ", owOLEInserts=OOFF");
-    addSwitch(g, "owAutoURL", node.autoUrl == 1);
-    add(g, ", owBack1Col=%d, owBack2Col=%d, owTextCol=%d", node.colour1, node.colour2, node.colour3);
-    addTextScroll(g, node);
-    if (g.windows) addNamed(g, "owBorderType", ENTRY_BORDER, node.borderType);
-    addPosition(g, node);
-    addSwitch(g, "owReadOnly", editable && node.readOnly == 1);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-    writeFont(g, w);
+    add(g, ", %d, %s", node.fieldWidth, node.type == TYPE_TEXT_ENTRY ? "OEDIT" : "ODISPLAY");
+    endWithFont(g, w);
 }
 
 void createValue(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     const bool editable = node.type == TYPE_VALUE_ENTRY;
-    beginCreation(g, w, "owCreateValueEntry");
+    beginCreation(g, w);
     add(g, ", %#g, %d, %d, %s", node.value, node.fieldWidth, node.format, editable ? "OEDIT" : "ODISPLAY");
     if (editable) add(g, ", owVmin=%#g, owVmax=%#g", node.minValue, node.maxValue);
-    add(g, ", owType=%s", nameOf(VALUE_TYPE, node.subType, "ODECIMAL"));
-    addNamed(g, "owSign", VALUE_SIGN, node.sign);
-    addNumber(g, "owSize", node.size, 100);
-    addNamed(g, "owJustify", CENTRE_RIGHT, node.justify);
-    add(g, ", owBack1Col=%d, owBack2Col=%d, owTextCol=%d", node.colour1, node.colour2, node.colour3);
-    if (g.windows && editable) addNamed(g, "owBorderType", ENTRY_BORDER, node.borderType);
-    if (node.charSet == 1) add(g, ", owCharSet=OALPHANUMERIC");
-    addPosition(g, node);
-    addSwitch(g, "owReadOnly", editable && node.readOnly == 1);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-    writeFont(g, w);
+    endWithFont(g, w);
 }
 
-void beginToolIcon(Generation& g, const Placed& w) {
+void createToolIcon(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
     add(g, "   %s = owCreateToolBarButton(%s, OICONBUTTON, '%s'", node.name, w.parent, toolPicture(node).image);
     const std::string_view type = nameOf(ICON_TYPE, node.subType);
@@ -181,65 +146,40 @@ void beginToolIcon(Generation& g, const Placed& w) {
         add(g, " ,owIconType=%s", type);
     }
     if (node.dragMode == 1) add(g, " ,owDragMode=OON");
+    addHelp(g, node);
+    addTab(g, node);
+    endStatement(g);
 }
 
-void beginIcon(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    const Picture picture = iconPicture(g, node);
-    beginCreation(g, w, "owCreateIcon");
-    add(g, ",'%s', %d, %d", picture.image, picture.kind, node.iconId);
-    addNamed(g, "owType", ICON_TYPE, node.subType);
-    addSwitch(g, "owDragMode", node.dragMode == 1);
-    addNumber(g, "owSize", node.size, 100);
-    if (!node.text.empty()) add(g, ", owLabel='%s'", fortranText(node.text));
-    addPosition(g, node);
+void createPlainIcon(Generation& g, const Placed& w) {
+    const Picture picture = iconPicture(g, w.node);
+    beginCreation(g, w);
+    add(g, ",'%s', %d, %d", picture.image, picture.kind, w.node.iconId);
+    endCreation(g, w);
 }
 
 void createIcon(Generation& g, const Placed& w) {
     if (w.node.onToolbar == 1) {
-        beginToolIcon(g, w);
+        createToolIcon(g, w);
     } else {
-        beginIcon(g, w);
+        createPlainIcon(g, w);
     }
-    addHelp(g, w.node);
-    addTab(g, w.node);
-    endStatement(g);
     if (!w.node.text.empty()) writeFont(g, w);
 }
 
-void addListAttributes(Generation& g, const WidgetNode& node) {
-    addNamed(g, "owSort", LIST_SORT, node.sorted);
-    addSwitch(g, "owUseIcons", node.displayIcons == 1);
-    if (node.fieldWidth > 0) add(g, ", owDescWidth=%d", node.fieldWidth);
-}
-
 void createListBox(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateListBox");
-    addContents(g, node);
-    addNamed(g, "owType", LIST_TYPE, node.subType);
-    addNamed(g, "owStyle", LIST_STYLE, node.approxSize);
-    addListAttributes(g, node);
-    addPosition(g, node);
-    add(g, ", owOffCol=%d, owOnCol=%d, owTextCol=%d", node.colour1, node.colour2, node.colour3);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-    writeFont(g, w);
-    writeListEntries(g, node, g.language.listComment);
+    beginCreation(g, w);
+    addContents(g, w.node);
+    endWithFont(g, w);
+    writeListEntries(g, w.node, g.language.listComment);
 }
 
 void createComboBox(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateComboBox");
+    beginCreation(g, w);
     addContents(g, node);
     add(g, ", %d", node.editMode);
-    addListAttributes(g, node);
-    addPosition(g, node);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-    writeFont(g, w);
+    endWithFont(g, w);
     if (!hasListEntries(node)) return;
     writeListEntries(g, node, g.language.comboComment);
     write(g, "\n! Select first entry in list for display\n");
@@ -248,13 +188,9 @@ void createComboBox(Generation& g, const Placed& w) {
 
 void createSlider(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateSlider");
+    beginCreation(g, w);
     add(g, ", %f, %f, %f, %f", node.minValue, node.maxValue, node.stepValue, node.value);
-    add(g, ", owType=%s", nameOf(SLIDER_TYPE, node.subType, "OHORIZONTAL"));
-    addNumber(g, "owSize", node.size, 100);
-    add(g, ", owBackCol=%d", node.colour3);
-    addPosition(g, node);
-    endStatement(g);
+    endCreation(g, w);
     write(g, "\n! Set correct width/height for %s\n", node.name);
     write(g, "   call owEnqWidgetInfo(%s,Slider_attribs)\n", node.name);
     write(g, "      Slider_attribs%%width = %d\n", node.width);
@@ -262,44 +198,23 @@ void createSlider(Generation& g, const Placed& w) {
     write(g, "   call owSetWidgetInfo(%s,Slider_attribs)\n", node.name);
 }
 
-void createPanel(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreatePanel");
-    if (node.titleFlag != 0 && node.scrollMode == -1) add(g, ", owTitle='%s'", fortranText(node.text));
-    addBoundary(g, "owType", node.subType);
-    addBorder(g, node);
-    addBackgroundImage(g, node);
-    if (g.windows) addIconResource(g, "owIcon", node.closeIcon);
-    addScroll(g, node);
-    addPosition(g, node);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-    writeFont(g, w);
+// Types that have nothing at a fixed place.
+void createPlain(Generation& g, const Placed& w) {
+    beginCreation(g, w);
+    endCreation(g, w);
 }
-
-void createRadioBox(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateRadioBox");
-    add(g, ", owType=OFREEFORM");
-    addBoundary(g, "owBorderType", node.borderType);
-    addBorder(g, node);
-    if (node.titleFlag != 0) add(g, ", owTitle='%s'", fortranText(node.text));
-    addPosition(g, node);
-    addHelp(g, node);
-    endStatement(g);
+void createWithFont(Generation& g, const Placed& w) {
+    beginCreation(g, w);
+    endWithFont(g, w);
 }
 
 void createGraphicsFrame(Generation& g, const Placed& w) {
     const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateGraphicsFrame");
+    beginCreation(g, w);
     add(g, ", &\n");
     writeStatementSplit(g);
     add(g, "         OLIMIT(%f, %f, %f, %f)", node.xMin, node.xMax, node.yMin, node.yMax);
-    if (g.windows) add(g, ", owFrameType=%s", node.subType == FRAME_OPENGL ? "OOPENGL" : "OGDI");
-    addPosition(g, node);
-    addHelp(g, node);
-    endStatement(g);
+    endCreation(g, w);
 }
 
 void writeCells(Generation& g, const WidgetNode& node) {
@@ -316,29 +231,9 @@ void writeCells(Generation& g, const WidgetNode& node) {
 }
 
 void createArray(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, node.type == TYPE_TEXT_ARRAY ? "owCreateTextArray" : "owCreateValueArray");
-    add(g, ", %d, %d, owAxisW=%d, owAxisH=%d, owXtext='%s', owYtext='%s'", node.columns, node.rows, node.yLabelsWidth,
-        node.xLabelsHeight, fortranText(node.xLabels), fortranText(node.yLabels));
-    addNamed(g, "owXjust", LEFT_CENTRE_RIGHT, node.alignXLabels);
-    addNamed(g, "owYjust", LEFT_CENTRE_RIGHT, node.alignYLabels);
-    if (g.windows) {
-        addScroll(g, node);
-        addBoundary(g, "owBorderType", node.subType);
-        addNumber(g, "owAxisBackColour", node.colour1, 12);
-        addNumber(g, "owXtextColour", node.colour3, 1);
-        addNumber(g, "owYtextColour", node.colour4, 1);
-        addNumber(g, "owGridBackColour", node.cellBackground, 0);
-        addNumber(g, "owCellBorderColour", node.cellBorder, 0);
-        addNumber(g, "owCellBorderLineType", node.borderType, 2);
-        addNumber(g, "owSelectedCellColour", node.colour2, 0);
-    }
-    addPosition(g, node);
-    addHelp(g, node);
-    addTab(g, node);
-    addNamed(g, "owTabAction", TAB_ACTION, node.tabAction);
-    addSwitch(g, "owReadOnly", node.readOnly == 1);
-    endStatement(g);
+    beginCreation(g, w);
+    add(g, ", %d, %d", w.node.columns, w.node.rows);
+    endCreation(g, w);
     writeCells(g, w.node);
     writeFont(g, w);
 }
@@ -382,63 +277,26 @@ void createToolSeparator(Generation& g, const Placed& w) {
     endStatement(g);
 }
 
-void createTabBox(Generation& g, const Placed& w) {
-    beginCreation(g, w, "owCreateTabDialogueBox");
-    addPosition(g, w.node);
-    endStatement(g);
-    writeFont(g, w);
-}
-
 void createGauge(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateGauge");
-    add(g, ", '%s', owMinimum=%d, owMaximum=%d, owIntValue=%d, owTicks1=%d, owTicks2=%d", node.icon,
-        wholeNumber(node.minValue), wholeNumber(node.maxValue), wholeNumber(node.value), node.topTicks,
-        node.bottomTicks);
-    addNamed(g, "owAccess", GAUGE_ACCESS, node.accessMode);
-    addPosition(g, node);
-    addHelp(g, node);
-    addTab(g, node);
-    endStatement(g);
-}
-
-void createProgressBar(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateProgressBar");
-    add(g, ", owMinimum=%d, owMaximum=%d, owIntValue=%d", wholeNumber(node.minValue), wholeNumber(node.maxValue),
-        wholeNumber(node.value));
-    addNamed(g, "owProgressType", PROGRESS_TYPE, node.subType);
-    addPosition(g, node);
-    addHelp(g, node);
-    endStatement(g);
+    beginCreation(g, w);
+    add(g, ", '%s'", w.node.icon);
+    endCreation(g, w);
 }
 
 void createTtyEntry(Generation& g, const Placed& w) {
-    const WidgetNode& node = w.node;
-    beginCreation(g, w, "owCreateTTYEntry");
-    add(g, ", %d,'%s '", node.size, fortranText(fieldText(node)));
-    if (!node.icon.empty()) add(g, ", owPrompt='%s'", fortranText(node.icon));
-    addSwitch(g, "owReadOnly", node.readOnly == 1);
-    addColours(g, node);
-    addPosition(g, node);
-    addHelp(g, node);
-    endStatement(g);
-    writeFont(g, w);
+    beginCreation(g, w);
+    add(g, ", %d,'%s '", w.node.size, fortranText(fieldText(w.node)));
+    endWithFont(g, w);
 }
 
 void createTreeView(Generation& g, const Placed& w) {
-    beginCreation(g, w, "owCreateTreeViewBox");
-    addNamed(g, "owIconSet", TREE_ICONS, w.node.subType);
-    addPosition(g, w.node);
-    endStatement(g);
+    createPlain(g, w);
     writeTreeEntries(g, w.node);
     writeFont(g, w);
 }
 
 void createTableBox(Generation& g, const Placed& w) {
-    beginCreation(g, w, "owCreateTableBox");
-    addPosition(g, w.node);
-    endStatement(g);
+    createPlain(g, w);
     for (const TableColumn& column : tableColumns(w.node)) {
         add(g, "   call owAddTableBoxColumn(%s, %d, %d", w.node.name, column.number, column.width);
         if (column.labelled) add(g, ", owLabel='%s'", fortranText(column.label));
@@ -459,16 +317,16 @@ constexpr CreationRow CREATION[] = {
     {TYPE_ICON, createIcon},
     {TYPE_LIST_BOX, createListBox},
     {TYPE_SLIDER, createSlider},
-    {TYPE_PANEL, createPanel},
+    {TYPE_PANEL, createWithFont},
     {TYPE_COMBO_BOX, createComboBox},
-    {TYPE_RADIO_BOX, createRadioBox},
+    {TYPE_RADIO_BOX, createPlain},
     {TYPE_GRAPHICS_FRAME, createGraphicsFrame},
     {TYPE_TEXT_ARRAY, createArray},
     {TYPE_VALUE_ARRAY, createArray},
     {TYPE_TOOL_BAR, createToolBar},
-    {TYPE_TAB_BOX, createTabBox},
+    {TYPE_TAB_BOX, createWithFont},
     {TYPE_GAUGE, createGauge},
-    {TYPE_PROGRESS_BAR, createProgressBar},
+    {TYPE_PROGRESS_BAR, createPlain},
     {TYPE_TTY_ENTRY, createTtyEntry},
     {TYPE_TREE_VIEW, createTreeView},
     {TYPE_TABLE_BOX, createTableBox},

@@ -95,7 +95,7 @@ subroutine GenerateForm1
 
 ! Create TTY entry Form1_TTY1 child of Form1_MainPanel
    Form1_TTY1 = owCreateTTYEntry(Form1_MainPanel, 10, 20, 0, 150, 24,'Ready|it''s "on" ', owPrompt='Prompt>', owReadOnly=OON, &
-      owOnCol=2, owOffCol=3, owTextCol=4, owHpos=OCENTRE, owVpos=OTOP, owExpand=2, owHelp='Type here')
+      owOffCol=2, owOnCol=3, owTextCol=4, owHpos=OCENTRE, owVpos=OTOP, owExpand=2, owHelp='Type here')
    call owSetWidgetStatus(Form1_TTY1, OUNSELECTABLE)
 
 ! Create TTY entry Form1_TTY2 child of Form1_MainPanel
