@@ -35,7 +35,8 @@ After afterOf(const WidgetNode& target, const PropertyRow& row) {
 
 void storeAndFollow(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     store(target, row, input);
-    if (row.keyword && row.whole) setLive(target, row.keyword, target.*row.whole);
+    const bool shows = row.after != After::Font || bearsFont(target);
+    if (row.keyword && row.whole && shows) setLive(target, row.keyword, target.*row.whole);
     if (row.id == ROW_FORM_TITLE_BAR || row.id == ROW_BAR_TITLE_BAR) activateWidget(&target);
     follow(target, afterOf(target, row));
     markEdited();

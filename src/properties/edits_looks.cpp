@@ -46,15 +46,21 @@ bool refusesImage(const std::string& path) {
     return true;
 }
 
-const std::string& iconOf(const MenuEntryRec& entry, int position) {
-    return position == 1 ? entry.icon1 : position == 2 ? entry.icon2 : entry.icon3;
-}
+// An icon of a tree entry by its position, counted from 1.
+constexpr std::string MenuEntryRec::*ICONS[] = {&MenuEntryRec::icon1, &MenuEntryRec::icon2, &MenuEntryRec::icon3};
 
 // Position of a tree view's icon row among the icons of its entries.
 int iconPosition(RowId row) { return row == ROW_ICON ? 1 : row == ROW_CLOSE_ICON ? 2 : 3; }
 
+// The icons of a tree view are those of its entries: they are what the program shows.
+void storeEntryIcons(const WidgetNode& treeView, int position, const std::string& name) {
+    for (MenuEntryRec* entry = treeView.entries; entry; entry = entry->next)
+        if (entry->kind == MENU_ENTRY) entry->*ICONS[position - 1] = name;
+}
+
 void storeIcon(WidgetNode& target, const PropertyRow& row, const std::string& name) {
     target.*row.text = name;
+    if (target.type == TYPE_TREE_VIEW) storeEntryIcons(target, iconPosition(row.id), name);
     if (row.id != ROW_ICON) return;
     target.backgroundImage = name.empty() ? "" : resourceName(name);
     if (name.empty())
@@ -67,7 +73,7 @@ void storeIcon(WidgetNode& target, const PropertyRow& row, const std::string& na
 
 bool mayReplaceEntryIcons(const WidgetNode& treeView, int position) {
     for (const MenuEntryRec* entry = treeView.entries; entry; entry = entry->next) {
-        if (entry->kind != MENU_ENTRY || iconOf(*entry, position).empty()) continue;
+        if (entry->kind != MENU_ENTRY || (entry->*ICONS[position - 1]).empty()) continue;
         return host.messageBox("Overwriting existing icons",
                                "The Treeview already has entries containing icons|This will replace all the icons with "
                                "the icon chosen",
@@ -95,7 +101,7 @@ void editColour(WidgetNode& target, const PropertyRow& row, const CellInput& inp
 
 void editFontFace(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     target.fontFace = cutBetweenLetters(input.text, NAME_LIMIT);
-    if (target.handle > 0) owSetFontAttribs(target.handle, owFontFace, target.fontFace.c_str(), 0);
+    if (target.handle > 0 && bearsFont(target)) owSetFontAttribs(target.handle, owFontFace, target.fontFace.c_str(), 0);
     storeAndFollow(target, row, {.text = target.fontFace});
 }
 

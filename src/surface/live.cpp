@@ -35,11 +35,23 @@ void placeBar(WidgetNode& bar, const WidgetNode& form) {
 }
 
 void setFont(const WidgetNode& node) {
-    const bool text = node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL;
-    if (text && node.subType == ORICHEDIT) return; // rich text carries its own
     owSetFontAttribs(node.handle, owFontFace, node.fontFace.c_str(), owPointSize, node.pointSize, owCharSet,
-                     node.charSet, owBold, node.bold, owItalic, node.italic, owUnderline, node.underline, 0);
-    if (text) owSetFontAttribs(node.handle, owStrikeout, node.strikeout, 0);
+                     node.charSet, owBold, node.bold, owItalic, node.italic, owUnderline, node.underline, owStrikeout,
+                     node.strikeout, 0);
+}
+
+// Brings up the pages of tab boxes that hold `node`, or that it is.
+void raisePages(const WidgetNode& node) {
+    for (const WidgetNode* up = &node; up && up->type != TYPE_FORM; up = up->parent)
+        if (up->parent && up->parent->type == TYPE_TAB_BOX) owSetWidgetStatus(up->handle, OCHECKED);
+}
+
+// A program shows the page that it checks, else the first.
+void raiseFirstPage(const WidgetNode& tabBox) {
+    const WidgetNode* shown = tabBox.child;
+    for (const WidgetNode* page = tabBox.child; page; page = page->next)
+        if (page->initialState == OCHECKED) shown = page;
+    if (shown) raisePages(*shown);
 }
 
 // The toolkit handle that the live widget is made under, from the one that the caller names.
@@ -63,7 +75,7 @@ void realiseOne(WidgetNode& node, int parent) {
     node.designCallbackId = type->generalId || standIn ? handle : 0;
     node.designSelectId = type->selectId || standIn ? handle + OBJECT_SELECT_OFFSET : 0;
     if (handle > 0 && !standIn) {
-        if (type->font) setFont(node);
+        if (bearsFont(node)) setFont(node);
         if (type->finish && !(parent < 0 && isBarOrPane(node))) type->finish(node);
     }
     setGridMode(0);
@@ -95,10 +107,18 @@ void setGridMode(int mode) {
         owDefineGuiGrid(DEFAULT_COLUMNS, DEFAULT_ROWS);
 }
 
+bool bearsFont(const WidgetNode& node) {
+    const bool text = node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL;
+    if (text && node.subType == ORICHEDIT) return false; // rich text carries its own
+    const LiveType* type = liveType(node.type);
+    return type && type->font;
+}
+
 void realiseWidget(WidgetNode& node, int parent, bool withSiblings) {
     for (WidgetNode* one = &node; one; one = one->next) {
         realiseOne(*one, parent);
         if (one->child) realiseWidget(*one->child, one->handle, true);
+        if (one->type == TYPE_TAB_BOX) raiseFirstPage(*one);
         if (!withSiblings || one->type == TYPE_FORM) return;
     }
 }
@@ -118,6 +138,7 @@ void replaceLive(WidgetNode& node) {
     const bool isForm = node.type == TYPE_FORM;
     realiseWidget(node, isForm ? 0 : node.parentHandle, false);
     if (isForm) defineFormCallbacks(node);
+    if (project.currentWidget && liesWithin(project.currentWidget, &node)) raisePages(*project.currentWidget);
     redrawWidget(node, isForm);
 }
 
@@ -260,8 +281,7 @@ void applyArrayGeometry(WidgetNode& node) {
 
 void activateWidget(WidgetNode* node) {
     if (!node || design.defaultsMode) return;
-    for (WidgetNode* up = node; up && up->type != TYPE_FORM; up = up->parent)
-        if (up->parent && up->parent->type == TYPE_TAB_BOX) owSetWidgetStatus(up->handle, OCHECKED);
+    raisePages(*node);
     const bool takesFocus = node->type != TYPE_TOGGLE && node->type != TYPE_TOOL_SEPARATOR;
     if (takesFocus && node->handle > 0) owSetActiveWidget(node->handle);
 }

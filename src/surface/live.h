@@ -31,6 +31,9 @@ void eraseForms(WidgetNode* list);
 // Takes the blank child off an empty tool bar or pane that is about to get its first widget.
 void clearPlaceholder(const WidgetNode& parent);
 
+// Whether the font fields show on the widget: the program gives it a font too.
+bool bearsFont(const WidgetNode& node);
+
 void fillListEntries(WidgetNode& node);
 void drawFrameCross(const WidgetNode& frame); // the cross that stands for the drawing of a graphics frame
 

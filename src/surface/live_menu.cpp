@@ -30,17 +30,14 @@ int levelBelow(const MenuEntryRec& pullDown, const MenuEntryRec* before) {
     return before ? before->level + 1 : 1;
 }
 
-// Icons of one tree entry: those of the box replace its own.
-int iconOf(const std::string& ofBox, const std::string& own) {
-    return owGetIconResource((ofBox.empty() ? own : ofBox).c_str());
-}
+// Icons of one tree entry.
+int iconOf(const std::string& name) { return owGetIconResource(name.c_str()); }
 
 int createTreeRow(const WidgetNode& box, const MenuEntryRec& entry, int parent) {
     if (box.subType != ORESOURCEICONS)
         return owCreateTreeEntry(parent, OLASTCHILD, entry.label.c_str(), owCallback, box.handle, 0);
     return owCreateTreeEntry(parent, OLASTCHILD, entry.label.c_str(), owCallback, box.handle, owIcon,
-                             iconOf(box.icon, entry.icon1), owCloseIcon, iconOf(box.closeIcon, entry.icon2), owOpenIcon,
-                             iconOf(box.openIcon, entry.icon3), 0);
+                             iconOf(entry.icon1), owCloseIcon, iconOf(entry.icon2), owOpenIcon, iconOf(entry.icon3), 0);
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 #define PLACED(n) owVpos, (n).vpos, owHpos, (n).hpos, owExpand, (n).expand
 #define HELPED(n) owHelp, (n).bubbleHelp.c_str(), owHelpJustify, (n).helpJustify
 #define ENTRY_COLOURS(n) owBack1Col, (n).colour1, owBack2Col, (n).colour2, owTextCol, (n).colour3
+#define LIST_COLOURS(n) owOffCol, (n).colour1, owOnCol, (n).colour2, owTextCol, (n).colour3
 #define BOX(n) (n).xpos, (n).ypos, (n).width, (n).height
 
 namespace {
@@ -99,11 +100,11 @@ int createIcon(const WidgetNode& n, int parent) {
 int createListBox(const WidgetNode& n, int parent) {
     if (n.displayIcons)
         return owCreateListBox(parent, BOX(n), n.contents, owType, n.subType, owStyle, n.approxSize, owSort, n.sorted,
-                               owOffCol, n.colour1, owTextCol, n.colour3, owTabList, n.tabList, owUseIcons, 1,
-                               PLACED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
+                               LIST_COLOURS(n), owTabList, n.tabList, owUseIcons, 1, PLACED(n), owCallback, AUTOMATIC,
+                               owSelectCallback, AUTOMATIC, 0);
     return owCreateListBox(parent, BOX(n), n.contents, owType, n.subType, owStyle, n.approxSize, owSort, n.sorted,
-                           owOffCol, n.colour1, owTextCol, n.colour3, owTabList, n.tabList, owDescWidth, n.fieldWidth,
-                           PLACED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
+                           LIST_COLOURS(n), owTabList, n.tabList, owDescWidth, n.fieldWidth, PLACED(n), owCallback,
+                           AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
 }
 
 int createSlider(const WidgetNode& n, int parent) {
@@ -123,8 +124,9 @@ int createPanel(const WidgetNode& n, int parent) {
 }
 
 int createComboBox(const WidgetNode& n, int parent) {
-    return owCreateComboBox(parent, BOX(n), n.contents, 1, owSort, n.sorted, owDescWidth, n.fieldWidth, owUseIcons,
-                            n.displayIcons, owTabList, n.tabList, PLACED(n), HELPED(n), owSelectCallback, AUTOMATIC, 0);
+    return owCreateComboBox(parent, BOX(n), n.contents, n.editMode, owSort, n.sorted, owDescWidth, n.fieldWidth,
+                            owUseIcons, n.displayIcons, owTabList, n.tabList, PLACED(n), HELPED(n), owSelectCallback,
+                            AUTOMATIC, 0);
 }
 
 int createFrame(const WidgetNode& n, int parent) {
@@ -269,11 +271,11 @@ const LiveType TYPES[] = {
     {TYPE_TEXT_LABEL, createTextLabel, nullptr, NO, S, FONT},
     {TYPE_VALUE_ENTRY, createValueEntry, finishValue, NO, NO, FONT},
     {TYPE_VALUE_LABEL, createValueLabel, finishValue, C, NO, FONT},
-    {TYPE_ICON, createIcon, finishButton, C, NO, NO},
+    {TYPE_ICON, createIcon, finishButton, C, NO, FONT},
     {TYPE_LIST_BOX, createListBox, finishList, C, S, FONT},
     {TYPE_SLIDER, createSlider, nullptr, C, NO, NO},
     {TYPE_PANEL, createPanel, finishPanel, C, S, FONT},
-    {TYPE_RADIO_BOX, createPanel, finishPanel, C, S, FONT},
+    {TYPE_RADIO_BOX, createPanel, finishPanel, C, S, NO}, // no program gives its title a font
     {TYPE_COMBO_BOX, createComboBox, finishList, NO, S, FONT},
     {TYPE_GRAPHICS_FRAME, createFrame, finishFrame, C, NO, NO},
     {TYPE_TEXT_ARRAY, createTextArray, applyArrayGeometry, NO, S, FONT},

@@ -9,7 +9,7 @@ struct LiveType {
     void (*finish)(WidgetNode& node);                  // what the creation call cannot carry; null for nothing
     bool generalId;                                    // the general event carries the handle...
     bool selectId;                                     // ...the select event handle + 50000
-    bool font;                                         // takes the font fields
+    bool font;                                         // takes the font fields, see bearsFont
 };
 
 const LiveType* liveType(int type); // null for a type that has no live widget

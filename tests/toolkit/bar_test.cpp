@@ -111,6 +111,9 @@ TEST(ToolBars, ButtonsReportAndTheProgramPressesThem) {
     EXPECT_EQ(identifiers(), (std::vector<int>{7001, text}));
     EXPECT_EQ(shownText(text), "Go & stop");
     EXPECT_EQ(toolTip(icon), "A button");
+    const auto rises = [](int handle) { return qobject_cast<QToolButton*>(viewOf(handle))->autoRaise(); };
+    EXPECT_TRUE(rises(icon));
+    EXPECT_FALSE(rises(text)) << "a text button whose type is not told is a push button";
     auto* view = qobject_cast<QToolButton*>(viewOf(icon));
     EXPECT_EQ(view->iconSize(), QSize(23, 23));
     owSetWidgetStatus(icon, OCHECKED);

@@ -83,3 +83,19 @@ TEST(TabBoxes, PagesHoldWidgetsAndGoWithThem) {
     EXPECT_TRUE(isShown(tabs.second));
     EXPECT_TRUE(events().empty());
 }
+
+TEST(TabBoxes, TheFontOfTheTabsStaysOutOfThePages) {
+    const Tabs tabs;
+    const int button = owCreatePushButton(tabs.first, 10, 10, 80, 24, "OK", 0);
+    const QFont before = viewOf(button)->font();
+    owSetFontAttribs(tabs.box, owPointSize, 24, owBold, 1, 0);
+    EXPECT_EQ(viewOf(button)->font(), before);
+    EXPECT_EQ(tabs.view()->tabBar()->font().pointSize(), 24);
+    const int page = owCreatePanel(tabs.box, 0, 0, 300, 150, owTitle, "Late", 0);
+    const int late = owCreatePushButton(page, 10, 10, 80, 24, "OK", 0);
+    EXPECT_EQ(viewOf(late)->font(), before);
+    int size = 0, bold = 0;
+    owEnqWidgetProp(tabs.box, owPointSize, &size, owBold, &bold, 0);
+    EXPECT_EQ(size, 24);
+    EXPECT_EQ(bold, 1);
+}

@@ -461,3 +461,15 @@ TEST_F(TextEntries, PrintsToPdf) {
     EXPECT_EQ(file.read(4), "%PDF");
     EXPECT_EQ(shown.editor()->document()->defaultFont(), shown.field()->font()); // the screen keeps its size
 }
+
+TEST_F(TextEntries, ALongTextShowsItsBeginningWhateverIsSetLater) {
+    const std::string longText(200, 'x');
+    const int text = entry(longText.c_str());
+    auto* line = qobject_cast<QLineEdit*>(field(text));
+    ASSERT_TRUE(line);
+    EXPECT_EQ(line->cursorPosition(), 0);
+    owSetWidgetProp(text, owTextCol, 5, 0);
+    EXPECT_EQ(line->cursorPosition(), 0);
+    owSetWidgetProp(text, owReadOnly, 1, owTabList, 1, 0);
+    EXPECT_EQ(line->cursorPosition(), 0);
+}

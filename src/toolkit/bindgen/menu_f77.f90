@@ -11,6 +11,7 @@ module menu_f77_routines
 
    integer :: min_width = 0, min_height = 0 ! of the next widget, WIDMIN
    integer :: horizontal = OLEFT, vertical = OBOTTOM, expansion = 0 ! WIDPOS
+   integer :: unplaced_box = 0              ! tab box that the WIDPOS behind its PANMAS still places
    integer :: title_flag = 0                ! WIDTTL; windows take it negated
    character(len=:), allocatable :: title   ! WIDSTR
    integer :: draw_mode = ONORMAL           ! DRAMOD, as an initial state
@@ -245,6 +246,7 @@ subroutine WIDMIN(width, height)
    integer, intent(in) :: width, height
    min_width = width
    min_height = height
+   unplaced_box = 0
 end subroutine
 ! The largest size is that of WIDMIN in this toolkit; the call stands in generated programs.
 subroutine WIDMAX(width, height)
@@ -256,6 +258,9 @@ subroutine WIDPOS(code, expand)
    vertical = code/3 - 1
    horizontal = mod(code, 3) - 1
    expansion = expand
+   if (unplaced_box == 0) return
+   call owSetWidgetProp(unplaced_box, owHpos=horizontal, owVpos=vertical, owExpand=expansion)
+   unplaced_box = 0
 end subroutine
 subroutine WIDTTL(flag)
    integer, intent(in) :: flag
@@ -426,11 +431,12 @@ subroutine PANIMG(widget, mode, image)
    character(*), intent(in) :: image
    if (mode == 0) call owSetWidgetProp(widget, owImage=image)
 end subroutine
+! A tab box is placed by the WIDPOS that comes right behind it; what the widget before was told is not meant for it.
 subroutine PANMAS(parent, x, y, widget)
    integer, intent(in) :: parent, x, y
    integer, intent(out) :: widget
-   widget = owCreateTabDialogueBox(parent, x, y, min_width, min_height, owHpos=horizontal, owVpos=vertical, &
-                                   owExpand=expansion)
+   widget = owCreateTabDialogueBox(parent, x, y, min_width, min_height)
+   unplaced_box = widget
 end subroutine
 subroutine RADTYP(kind)
    integer, intent(in) :: kind
@@ -585,8 +591,8 @@ subroutine TTYENT(parent, x, y, lines, string, widget)
    integer, intent(in) :: parent, x, y, lines
    character(*), intent(in) :: string
    integer, intent(out) :: widget
-   widget = owCreateTTYEntry(parent, x, y, min_width, min_height, lines, string, owOnCol=text_set%colour1, &
-                             owOffCol=text_set%colour2, owTextCol=text_set%colour3, owHpos=horizontal, &
+   widget = owCreateTTYEntry(parent, x, y, min_width, min_height, lines, string, owOffCol=text_set%colour1, &
+                             owOnCol=text_set%colour2, owTextCol=text_set%colour3, owHpos=horizontal, &
                              owVpos=vertical, owExpand=expansion)
 end subroutine
 subroutine TEXENQ(widget, string)
@@ -924,14 +930,14 @@ subroutine TEXARR(parent, x, y, columns, rows, widget)
    integer, intent(out) :: widget
    widget = owCreateTextArray(parent, x, y, min_width, min_height, columns, rows, owAxisW=axis_width, &
                               owAxisH=axis_height, owXjust=xjust, owYjust=yjust, owXtext=xtext, owYtext=ytext, &
-                              owHpos=horizontal, owVpos=vertical, owExpand=expansion)
+                              owBorderType=OPROJECTED, owHpos=horizontal, owVpos=vertical, owExpand=expansion)
 end subroutine
 subroutine VALARR(parent, x, y, columns, rows, widget)
    integer, intent(in) :: parent, x, y, columns, rows
    integer, intent(out) :: widget
    widget = owCreateValueArray(parent, x, y, min_width, min_height, columns, rows, owAxisW=axis_width, &
                                owAxisH=axis_height, owXjust=xjust, owYjust=yjust, owXtext=xtext, owYtext=ytext, &
-                               owHpos=horizontal, owVpos=vertical, owExpand=expansion)
+                               owBorderType=OPROJECTED, owHpos=horizontal, owVpos=vertical, owExpand=expansion)
 end subroutine
 subroutine ARRACM(widget, mode)
    integer, intent(in) :: widget, mode
@@ -1339,12 +1345,14 @@ subroutine GETCUR(name, cursor)
 end subroutine
 
 ! Any operation by number. Those that set values for the next creation are kept here; the rest goes to the toolkit.
+! The results may be the caller's arguments as well, so they come last.
 subroutine GUIESC(operation, a, b, c, d, e, f, out1, out2, string)
    integer, intent(in) :: operation, a, b, c, d, e, f
    integer, intent(out) :: out1, out2
    character(*), intent(in) :: string
-   out1 = 0
-   out2 = 0
+   integer :: result1, result2
+   result1 = 0
+   result2 = 0
    select case (operation)
    case (74)
       entry_border = a
@@ -1352,8 +1360,10 @@ subroutine GUIESC(operation, a, b, c, d, e, f, out1, out2, string)
       description_width = a
       use_icons = b
    case default
-      call owDispatch(operation, a, b, c, d, e, f, out1, out2, string)
+      call owDispatch(operation, a, b, c, d, e, f, result1, result2, string)
    end select
+   out1 = result1
+   out2 = result2
 end subroutine
 
 end module menu_f77_routines

@@ -212,7 +212,7 @@ Word createToolBarButton(const Arguments& call) {
     auto data = std::make_unique<ButtonData>();
     data->isText = call.integer(1) == OTEXTBUTTON;
     const int type = call.given(owIconType) ? call.keyword(owIconType) : call.given(owType) ? call.keyword(owType) : 0;
-    data->iconType = type == 0 ? static_cast<int>(OMOUSESENSITIVE) : type;
+    data->iconType = type != 0 ? type : static_cast<int>(data->isText ? OBUTTON : OMOUSESENSITIVE);
     view->setIconSize(barOf(*bar).iconSize());
     view->setFocusPolicy(Qt::NoFocus);
     view->setMinimumSize(barOf(*bar).iconSize() + QSize(6, 6));

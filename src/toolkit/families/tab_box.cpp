@@ -1,6 +1,7 @@
 // Tabbed dialogue boxes. Their children are panels: each is a page, with the panel's title and icon on its tab.
 #include "toolkit/frame/core.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QTabBar>
 #include <QTabWidget>
@@ -17,8 +18,16 @@ Widget* pageAt(Widget& box, int index) {
     return nullptr;
 }
 
+// The font of the box is that of its tabs. A page with one of its own does not hand it down to what stands there.
+void keepOwnFont(QWidget& page) {
+    QFont font = QApplication::font();
+    font.setResolveMask(~0U);
+    page.setFont(font);
+}
+
 void pageAdded(Widget& box, Widget& page) {
     if (!page.view) return;
+    keepOwnFont(*page.view);
     QTabWidget& tabs = boxOf(box);
     const QSignalBlocker quiet(&tabs);
     QWidget* view = page.view;

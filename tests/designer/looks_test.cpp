@@ -1,0 +1,126 @@
+// What a live widget shows is what the program shows: pages, fonts, colours and icons straight from the records.
+#include "desk.h"
+
+#include "properties/edits.h"
+#include "surface/live.h"
+
+#include <QComboBox>
+#include <QFont>
+#include <QWidget>
+
+namespace robot = orba::testing;
+
+namespace {
+
+enum MoreTools : int { PLACE_ICON = 17007, PLACE_COMBO = 17011, PLACE_TREE = 17024 };
+
+int live(const WidgetNode* node, int keyword) {
+    int value = -999;
+    owEnqWidgetProp(node->handle, keyword, &value, 0);
+    return value;
+}
+
+TEST(Looks, ATabBoxShowsThePageThatTheProgramShows) {
+    Desk desk;
+    WidgetNode* box = desk.place(PLACE_TAB_BOX, desk.panel, 20, 20);
+    ASSERT_TRUE(box);
+    WidgetNode* first = box->child;
+    WidgetNode* second = desk.place(PLACE_PANEL, first, 20, 20);
+    ASSERT_TRUE(second);
+    ASSERT_EQ(second->parent, box) << "a panel on a page is the next page";
+
+    selectWidget(desk.form);
+    rebuildWidget(*box);
+    EXPECT_TRUE(robot::isShown(first->handle));
+    second->initialState = 2;
+    rebuildWidget(*box);
+    EXPECT_TRUE(robot::isShown(second->handle)) << "the page that is checked";
+
+    second->initialState = 1;
+    selectWidget(second);
+    rebuildWidget(*box);
+    EXPECT_TRUE(robot::isShown(second->handle)) << "the page that is being worked on stays up";
+}
+
+TEST(Looks, FontsAreThoseThatTheProgramSets) {
+    for (const int tool : {PLACE_BUTTON, PLACE_CHECK_BOX, PLACE_LIST, PLACE_VALUE_ENTRY, PLACE_TEXT_ENTRY, PLACE_PANEL,
+                           PLACE_TAB_BOX, PLACE_ICON, PLACE_COMBO, PLACE_TREE}) {
+        Desk desk;
+        WidgetNode* widget = desk.place(tool, desk.panel, 20, 20);
+        ASSERT_TRUE(widget) << tool;
+        widget->text = "Text";
+        widget->bold = widget->strikeout = 1;
+        rebuildWidget(*widget);
+        EXPECT_EQ(live(widget, owBold), 1) << tool;
+        EXPECT_EQ(live(widget, owStrikeout), 1) << tool;
+    }
+}
+
+TEST(Looks, TheTitleOfARadioBoxHasNoFontOfItsOwn) {
+    Desk desk;
+    WidgetNode* box = desk.place(PLACE_PANEL, desk.panel, 20, 20);
+    ASSERT_TRUE(box && desk.place(TOOL_RADIO_BUTTON, box, 10, 10));
+    ASSERT_EQ(box->type, TYPE_RADIO_BOX);
+    box->bold = 1;
+    rebuildWidget(*box);
+    EXPECT_EQ(live(box, owBold), 0) << "when it is made";
+    selectWidget(box);
+    desk.setProperty("Bold", "Off");
+    desk.setProperty("Bold", "On");
+    EXPECT_EQ(box->bold, 1);
+    EXPECT_EQ(live(box, owBold), 0) << "when it is edited";
+}
+
+TEST(Looks, APageDoesNotTakeTheFontOfItsTabs) {
+    Desk desk;
+    WidgetNode* box = desk.place(PLACE_TAB_BOX, desk.panel, 20, 20);
+    WidgetNode* button = desk.place(PLACE_BUTTON, box->child, 20, 20);
+    ASSERT_TRUE(button);
+    box->pointSize = 24;
+    rebuildWidget(*box);
+    EXPECT_EQ(live(box, owPointSize), 24);
+    EXPECT_LT(robot::viewOf(button->handle)->font().pointSizeF(), 24);
+}
+
+TEST(Looks, AComboBoxIsAsEditableAsInTheProgram) {
+    Desk desk;
+    WidgetNode* combo = desk.place(PLACE_COMBO, desk.panel, 20, 20);
+    ASSERT_TRUE(combo);
+    for (const char* choice : {"Editable", "List Choice Only", "Editable"}) {
+        desk.setProperty("Editable", choice);
+        const auto* view = qobject_cast<QComboBox*>(robot::viewOf(combo->handle));
+        ASSERT_TRUE(view);
+        EXPECT_EQ(view->isEditable(), *choice == 'E') << choice;
+    }
+    selectWidget(desk.form);
+    desk.click(combo);
+    EXPECT_EQ(project.currentWidget, combo) << "a click into its field selects it";
+}
+
+TEST(Looks, TheActiveColourOfAListOutlivesItsRebuild) {
+    Desk desk;
+    WidgetNode* list = desk.place(PLACE_LIST, desk.panel, 20, 20);
+    ASSERT_TRUE(list);
+    list->colour2 = 5;
+    rebuildWidget(*list);
+    EXPECT_EQ(live(list, owOnCol), 5);
+}
+
+TEST(Looks, TheIconsOfATreeViewAreWrittenIntoItsEntries) {
+    Desk desk;
+    WidgetNode* tree = desk.place(PLACE_TREE, desk.panel, 20, 20);
+    ASSERT_TRUE(tree);
+    tree->subType = ORESOURCEICONS;
+    MenuEntryRec** end = &tree->entries;
+    for (const int kind : {MENU_BAR, MENU_ENTRY, MENU_ENTRY}) {
+        *end = new MenuEntryRec;
+        (*end)->kind = kind;
+        end = &(*end)->next;
+    }
+    editIcon(*tree, propertyRow(ROW_CLOSE_ICON), {.text = "mthumb", .number = 0, .value = 0});
+    EXPECT_EQ(tree->closeIcon, "mthumb");
+    EXPECT_EQ(tree->entries->icon2, "") << "the box itself is no entry";
+    for (const MenuEntryRec* entry = tree->entries->next; entry; entry = entry->next) EXPECT_EQ(entry->icon2, "mthumb");
+}
+
+} // namespace
