@@ -245,7 +245,7 @@ constexpr Keyword RADIO_BOX_IN_C[] = {owType,    owTitle,      owBorderType, LIN
                                       owLineCol, owLineBorder, owFillCol,    owFillBorder};
 
 constexpr Attribute FRAME[] = {
-    onWindows(named(owFrameType, &N::subType, OPENGL, "OGDI")),
+    inProgramOnly(onWindows(named(owFrameType, &N::subType, OPENGL, "OGDI"))),
     OF_ALL_PLACE,
     OF_ALL_HELP,
 };
@@ -302,7 +302,7 @@ constexpr Attribute GAUGE[] = {
     INTEGER_VALUE,
     number(owTicks1, &N::topTicks),
     number(owTicks2, &N::bottomTicks),
-    named(owAccess, &N::accessMode, GAUGE_ACCESS),
+    inProgramOnly(named(owAccess, &N::accessMode, GAUGE_ACCESS)),
     OF_ALL_PLACE,
     OF_ALL_HELP,
     OF_ALL_TAB,

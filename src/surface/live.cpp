@@ -63,6 +63,14 @@ int liveParent(WidgetNode& node, int parent) {
     return form ? form->handle : parent;
 }
 
+// The identifiers by which the widget's events arrive, and those by which they lead back to the record.
+void defineEvents(WidgetNode& node, int general, int select) {
+    node.designCallbackId = general == LiveType::BY_HANDLE ? node.handle : 0;
+    node.designSelectId = select == LiveType::BY_HANDLE ? node.handle + OBJECT_SELECT_OFFSET : 0;
+    if (general != 0) owDefineCallback(node.handle, node.designCallbackId ? node.designCallbackId : general);
+    if (select != 0) owDefineSelectCallback(node.handle, node.designSelectId ? node.designSelectId : select);
+}
+
 void realiseOne(WidgetNode& node, int parent) {
     const LiveType* type = liveType(node.type);
     if (!type) return;
@@ -72,8 +80,8 @@ void realiseOne(WidgetNode& node, int parent) {
     const bool standIn = handle <= 0 && node.type != TYPE_FORM;
     if (standIn) handle = createStandIn(node, under);
     setHandle(node, std::max(handle, 0), under);
-    node.designCallbackId = type->generalId || standIn ? handle : 0;
-    node.designSelectId = type->selectId || standIn ? handle + OBJECT_SELECT_OFFSET : 0;
+    if (handle > 0)
+        defineEvents(node, standIn ? LiveType::BY_HANDLE : type->general, standIn ? LiveType::BY_HANDLE : type->select);
     if (handle > 0 && !standIn) {
         if (bearsFont(node)) setFont(node);
         if (type->finish && !(parent < 0 && isBarOrPane(node))) type->finish(node);

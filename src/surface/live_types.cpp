@@ -1,27 +1,124 @@
-// The creation calls, one function and one row for each type.
+// The creation calls, one row for each type.
 #include "surface/live_types.h"
 
+#include "codegen/attributes.h"
 #include "codegen/quotes.h"
-
 #include "menu-c.h"
+#include "menu-words.h"
 #include "project/tree.h"
 #include "surface/commands.h"
 #include "surface/live.h"
 #include "surface/state.h"
 
 #include <algorithm>
+#include <bit>
+#include <initializer_list>
 #include <string>
+#include <vector>
 
-// Keyword pairs that most creation calls share.
-#define PLACED(n) owVpos, (n).vpos, owHpos, (n).hpos, owExpand, (n).expand
-#define HELPED(n) owHelp, (n).bubbleHelp.c_str(), owHelpJustify, (n).helpJustify
-#define ENTRY_COLOURS(n) owBack1Col, (n).colour1, owBack2Col, (n).colour2, owTextCol, (n).colour3
-#define LIST_COLOURS(n) owOffCol, (n).colour1, owOnCol, (n).colour2, owTextCol, (n).colour3
 #define BOX(n) (n).xpos, (n).ypos, (n).width, (n).height
 
 namespace {
 
-constexpr int AUTOMATIC = OIDENT; // asks for identifiers made from the handle
+// ---- Calls put together from the attributes of a type, as a program's are.
+
+// One word of a call. Texts must outlive it.
+struct Word {
+    std::int64_t bits;
+    Word(int value) : bits(value) {}
+    Word(float value) : bits(std::bit_cast<std::int64_t>(static_cast<double>(value))) {}
+    Word(const std::string& text) : Word(static_cast<const void*>(text.c_str())) {}
+    Word(const void* record) : bits(static_cast<std::int64_t>(reinterpret_cast<std::intptr_t>(record))) {}
+};
+
+class Words {
+public:
+    void add(Word word) { bits_.push_back(word.bits); }
+    void add(int keyword, Word value) {
+        add(keyword);
+        add(value);
+    }
+    int call(std::string_view routine) {
+        add(0);
+        return static_cast<int>(owCallWords(owRoutineNumber(std::string(routine).c_str()), bits_.data()));
+    }
+
+private:
+    std::vector<std::int64_t> bits_;
+};
+
+constexpr int NUMBERS[] = {
+#define KEYWORD(name) name,
+#include "codegen/keywords.def"
+#undef KEYWORD
+};
+
+bool isNamed(const Attribute& attribute, const WidgetNode& n) {
+    if (!attribute.whole) return false;
+    return !attribute.other.empty() || !nameOf(attribute.names, n.*attribute.whole).empty();
+}
+
+void addValue(Words& words, const Attribute& attribute, const WidgetNode& n) {
+    const int keyword = NUMBERS[static_cast<size_t>(attribute.keyword)];
+    switch (attribute.kind) {
+    case AttributeKind::NUMBER:
+    case AttributeKind::EDGE: words.add(keyword, n.*attribute.whole); break;
+    case AttributeKind::NAMED:
+        if (isNamed(attribute, n)) words.add(keyword, n.*attribute.whole);
+        break;
+    case AttributeKind::WHOLE: words.add(keyword, static_cast<int>(n.*attribute.real)); break;
+    case AttributeKind::TEXT: words.add(keyword, n.*attribute.text); break;
+    case AttributeKind::IMAGE: words.add(keyword, n.icon); break; // the file: a program holds it as a resource
+    case AttributeKind::RESOURCE: words.add(keyword, owGetIconResource((n.*attribute.text).c_str())); break;
+    }
+}
+
+void addPlace(Words& words, const WidgetNode& n) {
+    words.add(owVpos, n.vpos);
+    words.add(owHpos, n.hpos);
+    words.add(owExpand, n.expand);
+}
+
+void addHelp(Words& words, const WidgetNode& n) {
+    words.add(owHelp, n.bubbleHelp);
+    words.add(owHelpJustify, n.helpJustify);
+}
+
+void addAttributes(Words& words, const AttributesOfType& type, const WidgetNode& n) {
+    for (const Attribute& attribute : type.attributes) {
+        switch (attribute.keyword) {
+        case Keyword::PLACE: addPlace(words, n); break;
+        case Keyword::HELP: addHelp(words, n); break;
+        case Keyword::TAB: words.add(owTabList, n.tabList); break;
+        default:
+            if (attribute.live && isTold(attribute, n)) addValue(words, attribute, n);
+        }
+    }
+}
+
+// A field that fills a pane has room for lines whatever height its record keeps.
+int heightOf(const WidgetNode& n) {
+    const bool field = n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL;
+    const bool fillsPane = n.parent && n.parent->type == TYPE_PANE && n.expand != 0 && n.vpos == OMIDDLE;
+    return field && fillsPane ? 0 : n.height;
+}
+
+// As a program gets it: line ends as bars, which are lines again where there is room for them.
+std::string textOfCall(const WidgetNode& n) { return n.subType == ORICHEDIT ? n.text : withBars(n.text); }
+
+// `fixed` stands behind place and size.
+int create(const WidgetNode& n, int parent, std::initializer_list<Word> fixed, std::string_view routine = {}) {
+    const AttributesOfType& type = *attributesOf(n.type);
+    Words words;
+    for (const int word : {parent, n.xpos, n.ypos, n.width, heightOf(n)}) words.add(word);
+    for (const Word word : fixed) words.add(word);
+    addAttributes(words, type, n);
+    return words.call(routine.empty() ? type.routine : routine);
+}
+
+int accessOf(const WidgetNode& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_VALUE_ENTRY ? OEDIT : ODISPLAY; }
+
+// ---- The types.
 
 int createForm(const WidgetNode& n, int) {
     return owCreateComplexDialogueBox(1, BOX(n), OALL, n.text.c_str(), owMaxWidth, n.width, owMaxHeight, n.height,
@@ -30,166 +127,62 @@ int createForm(const WidgetNode& n, int) {
 }
 
 int createMainPanel(const WidgetNode& n, int parent) {
-    return owCreatePanel(parent, 0, 0, n.width, n.height, owBorderType, n.subType, owTitle, n.text.c_str(), owImage,
-                         n.icon.c_str(), owLineCol, n.colour1, owLineBorder, n.colour2, owFillCol, n.colour3,
-                         owFillBorder, n.colour4, PLACED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
+    return owCreatePanel(parent, 0, 0, n.width, n.height, owBorderType, ONOBOUNDARY, owImage, n.icon.c_str(), owLineCol,
+                         n.colour1, owLineBorder, n.colour2, owFillCol, n.colour3, owFillBorder, n.colour4, owVpos,
+                         n.vpos, owHpos, n.hpos, owExpand, n.expand, 0);
+}
+
+int createOnBar(const WidgetNode& n, int bar, int kind, const std::string& string, int type) {
+    return owCreateToolBarButton(bar, kind, string.c_str(), owIconType, type, owHelp, n.bubbleHelp.c_str(),
+                                 owHelpJustify, n.helpJustify, owTabList, n.tabList, 0);
 }
 
 int createButton(const WidgetNode& n, int parent) {
-    if (n.onToolbar)
-        return owCreateToolBarButton(parent, OTEXTBUTTON, n.text.c_str(), owIconType, OBUTTON, HELPED(n), owTabList,
-                                     n.tabList, owCallback, AUTOMATIC, 0);
-    return owCreatePushButton(parent, BOX(n), n.text.c_str(), owType, n.subType, owAccel, n.accel, owJustify, n.justify,
-                              owSize, n.size, owOnCol, n.colour1, owOffCol, n.colour2, owTextCol, n.colour3, owTabList,
-                              n.tabList, PLACED(n), HELPED(n), owCallback, AUTOMATIC, 0);
+    return n.onToolbar ? createOnBar(n, parent, OTEXTBUTTON, n.text, OBUTTON) : create(n, parent, {n.text});
+}
+int createToggle(const WidgetNode& n, int parent) { return create(n, parent, {n.text, n.initialStatus}); }
+int createText(const WidgetNode& n, int parent) {
+    const std::string text = textOfCall(n);
+    return create(n, parent, {text, n.fieldWidth, accessOf(n)});
 }
 
-int createToggle(const WidgetNode& n, int parent) {
-    return owCreateToggleButton(parent, BOX(n), n.text.c_str(), n.initialStatus, owType, n.subType, owSize, n.size,
-                                owAccel, n.accel, owOnCol, n.colour1, owOffCol, n.colour2, owTextCol, 1, owTabList,
-                                n.tabList, PLACED(n), HELPED(n), owCallback, CMD_TOGGLED, 0);
-}
-
-// As a program gets it: line ends as bars, which are lines again where there is room for them.
-std::string textOfCall(const WidgetNode& n) { return n.subType == ORICHEDIT ? n.text : withBars(n.text); }
-
-// What fills a pane has room for lines whatever height its record keeps.
-int heightOfText(const WidgetNode& n) {
-    const bool fillsPane = n.parent && n.parent->type == TYPE_PANE && n.expand != 0 && n.vpos == 0;
-    return fillsPane ? 0 : n.height;
-}
-
-int createTextEntry(const WidgetNode& n, int parent) {
-    return owCreateTextEntry(parent, n.xpos, n.ypos, n.width, heightOfText(n), textOfCall(n).c_str(), n.fieldWidth,
-                             n.editMode, owEntryType, n.subType, owTextMargin, n.sign, owSize, n.size, owBorderType,
-                             n.borderType, ENTRY_COLOURS(n), owScrollMode, n.scrollMode, owJustify, n.justify,
-                             owOLEInserts, n.oleInserts, owReadOnly, n.readOnly, owAutoURL, n.autoUrl, owTabList,
-                             n.tabList, PLACED(n), HELPED(n), owCallback, CMD_TEXT_EDITED, owSelectCallback,
-                             CMD_TEXT_SELECTED, 0);
-}
-
-int createTextLabel(const WidgetNode& n, int parent) {
-    return owCreateTextEntry(parent, n.xpos, n.ypos, n.width, heightOfText(n), textOfCall(n).c_str(), n.fieldWidth,
-                             n.editMode, owEntryType, n.subType, owTextMargin, n.sign, owSize, n.size, owBorderType,
-                             n.borderType, ENTRY_COLOURS(n), owScrollMode, n.scrollMode, owJustify, n.justify,
-                             owAutoURL, n.autoUrl, PLACED(n), HELPED(n), owSelectCallback, AUTOMATIC, 0);
-}
-
-int createValueEntry(const WidgetNode& n, int parent) {
-    return owCreateValueEntry(parent, BOX(n), static_cast<double>(n.value), n.fieldWidth, n.format, n.editMode,
-                              owValueType, n.subType, owSign, n.sign, owSize, n.size, owVmin,
-                              static_cast<double>(n.minValue), owVmax, static_cast<double>(n.maxValue), owBorderType,
-                              n.borderType, ENTRY_COLOURS(n), owReadOnly, n.readOnly, owTabList, n.tabList, PLACED(n),
-                              HELPED(n), owCallback, CMD_VALUE_EDITED, owSelectCallback, CMD_VALUE_SELECTED, 0);
-}
-
-int createValueLabel(const WidgetNode& n, int parent) {
-    return owCreateValueEntry(parent, BOX(n), static_cast<double>(n.value), n.fieldWidth, n.format, n.editMode,
-                              owValueType, n.subType, owSign, n.sign, owSize, n.size, owBorderType, n.borderType,
-                              ENTRY_COLOURS(n), owJustify, n.justify, PLACED(n), HELPED(n), owCallback, AUTOMATIC, 0);
+int createValue(const WidgetNode& n, int parent) {
+    if (n.type == TYPE_VALUE_LABEL) return create(n, parent, {n.value, n.fieldWidth, n.format, accessOf(n)});
+    return create(n, parent, {n.value, n.fieldWidth, n.format, accessOf(n), owVmin, n.minValue, owVmax, n.maxValue});
 }
 
 int createIcon(const WidgetNode& n, int parent) {
-    if (n.onToolbar)
-        return owCreateToolBarButton(parent, OICONBUTTON, n.icon.c_str(), owIconType, n.subType, HELPED(n), owTabList,
-                                     n.tabList, owCallback, AUTOMATIC, 0);
-    return owCreateIcon(parent, BOX(n), n.icon.c_str(), n.format, n.iconId, owLabel, n.text.c_str(), owType, n.subType,
-                        owSize, n.size, owTabList, n.tabList, PLACED(n), HELPED(n), owCallback, AUTOMATIC, 0);
+    return n.onToolbar ? createOnBar(n, parent, OICONBUTTON, n.icon, n.subType)
+                       : create(n, parent, {n.icon, n.format, n.iconId});
 }
-
-int createListBox(const WidgetNode& n, int parent) {
-    if (n.displayIcons)
-        return owCreateListBox(parent, BOX(n), n.contents, owType, n.subType, owStyle, n.approxSize, owSort, n.sorted,
-                               LIST_COLOURS(n), owTabList, n.tabList, owUseIcons, 1, PLACED(n), owCallback, AUTOMATIC,
-                               owSelectCallback, AUTOMATIC, 0);
-    return owCreateListBox(parent, BOX(n), n.contents, owType, n.subType, owStyle, n.approxSize, owSort, n.sorted,
-                           LIST_COLOURS(n), owTabList, n.tabList, owDescWidth, n.fieldWidth, PLACED(n), owCallback,
-                           AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
-}
+int createListBox(const WidgetNode& n, int parent) { return create(n, parent, {n.contents}); }
+int createComboBox(const WidgetNode& n, int parent) { return create(n, parent, {n.contents, n.editMode}); }
 
 int createSlider(const WidgetNode& n, int parent) {
-    return owCreateSlider(parent, BOX(n), static_cast<double>(n.minValue), static_cast<double>(n.maxValue),
-                          static_cast<double>(n.stepValue), static_cast<double>(n.value), owType, n.subType, owSize,
-                          n.size, owFillCol, n.colour3, PLACED(n), owCallback, AUTOMATIC, 0);
-}
-
-int createPanel(const WidgetNode& n, int parent) {
-    const bool titled = n.titleFlag != 0 && n.scrollMode == -1;
-    const int boundary = n.type == TYPE_RADIO_BOX ? n.borderType : n.subType;
-    const std::string title = titled || (n.parent && n.parent->type == TYPE_TAB_BOX) ? n.text : "";
-    return owCreatePanel(parent, BOX(n), owTitle, title.c_str(), owBorderType, boundary, owImage, n.icon.c_str(),
-                         owIcon, owGetIconResource(n.closeIcon.c_str()), owLineCol, n.colour1, owLineBorder, n.colour2,
-                         owFillCol, n.colour3, owFillBorder, n.colour4, owScrollMode, n.scrollMode, owTabList,
-                         n.tabList, PLACED(n), HELPED(n), owCallback, AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
-}
-
-int createComboBox(const WidgetNode& n, int parent) {
-    return owCreateComboBox(parent, BOX(n), n.contents, n.editMode, owSort, n.sorted, owDescWidth, n.fieldWidth,
-                            owUseIcons, n.displayIcons, owTabList, n.tabList, PLACED(n), HELPED(n), owSelectCallback,
-                            AUTOMATIC, 0);
+    return create(n, parent, {n.minValue, n.maxValue, n.stepValue, n.value});
 }
 
 int createFrame(const WidgetNode& n, int parent) {
     const OLIMIT limits = {n.xMin, n.xMax, n.yMin, n.yMax};
-    return owCreateGraphicsFrame(parent, BOX(n), &limits, PLACED(n), HELPED(n), owCallback, AUTOMATIC, owExposeCallback,
-                                 AUTOMATIC, 0);
+    return create(n, parent, {static_cast<const void*>(&limits)});
 }
 
-#define ARRAY_KEYWORDS(n)                                                                                              \
-    owAxisW, (n).yLabelsWidth, owAxisH, (n).xLabelsHeight, owXtext, (n).xLabels.c_str(), owYtext, (n).yLabels.c_str(), \
-        owXjust, (n).alignXLabels, owYjust, (n).alignYLabels, owScrollMode, (n).scrollMode, owBorderType, (n).subType, \
-        owAxisBackColour, (n).colour1, owSelectedCellColour, (n).colour2, owXtextColour, (n).colour3, owYtextColour,   \
-        (n).colour4, owGridBackColour, (n).cellBackground, owCellBorderColour, (n).cellBorder, owCellBorderLineType,   \
-        (n).borderType, owReadOnly, (n).readOnly, owTabAction, (n).tabAction, owTabList, (n).tabList
+int createArray(const WidgetNode& n, int parent) { return create(n, parent, {n.columns, n.rows}); }
+int createGauge(const WidgetNode& n, int parent) { return create(n, parent, {n.icon}); }
+int createTtyEntry(const WidgetNode& n, int parent) { return create(n, parent, {n.size, n.text}); }
+int createPlain(const WidgetNode& n, int parent) { return create(n, parent, {}); }
 
-int createTextArray(const WidgetNode& n, int parent) {
-    return owCreateTextArray(parent, BOX(n), n.columns, n.rows, ARRAY_KEYWORDS(n), PLACED(n), HELPED(n),
-                             owSelectCallback, AUTOMATIC, 0);
-}
-
-int createValueArray(const WidgetNode& n, int parent) {
-    return owCreateValueArray(parent, BOX(n), n.columns, n.rows, ARRAY_KEYWORDS(n), PLACED(n), HELPED(n),
-                              owSelectCallback, AUTOMATIC, 0);
-}
+// The boxes in it are widgets of their own while designing, so it is a panel that looks like it.
+int createRadioBox(const WidgetNode& n, int parent) { return create(n, parent, {}, "owCreatePanel"); }
 
 int createToolBar(const WidgetNode& n, int window) {
     return owCreateToolBar(window, n.initialPosition, n.iconSize, owTitle, n.text.c_str(), owTitleFlag, n.titleFlag,
-                           owQuitMode, OLEAVE, owCallback, AUTOMATIC);
+                           owQuitMode, OLEAVE);
 }
 
 int createPane(const WidgetNode& n, int window) {
     return owCreateDockingPane(window, n.initialPosition, BOX(n), owTitle, n.text.c_str(), owTitleFlag, n.titleFlag,
-                               owQuitMode, OLEAVE, owCallback, AUTOMATIC);
-}
-
-int createTabBox(const WidgetNode& n, int parent) {
-    return owCreateTabDialogueBox(parent, BOX(n), PLACED(n), owSelectCallback, AUTOMATIC, 0);
-}
-
-int createGauge(const WidgetNode& n, int parent) {
-    return owCreateGauge(parent, BOX(n), n.icon.c_str(), owMinimum, static_cast<int>(n.minValue), owMaximum,
-                         static_cast<int>(n.maxValue), owIntValue, static_cast<int>(n.value), owTicks1, n.topTicks,
-                         owTicks2, n.bottomTicks, owTabList, n.tabList, PLACED(n), HELPED(n), owCallback, AUTOMATIC, 0);
-}
-
-int createProgressBar(const WidgetNode& n, int parent) {
-    return owCreateProgressBar(parent, BOX(n), owProgressType, n.subType, owMinimum, static_cast<int>(n.minValue),
-                               owMaximum, static_cast<int>(n.maxValue), owIntValue, static_cast<int>(n.value),
-                               PLACED(n), 0);
-}
-
-int createTtyEntry(const WidgetNode& n, int parent) {
-    return owCreateTTYEntry(parent, BOX(n), n.size, n.text.c_str(), owPrompt, n.icon.c_str(), owTextMargin, n.sign,
-                            owOffCol, n.colour1, owOnCol, n.colour2, owTextCol, n.colour3, owReadOnly, n.readOnly,
-                            PLACED(n), HELPED(n), owSelectCallback, AUTOMATIC, 0);
-}
-
-int createTreeView(const WidgetNode& n, int parent) {
-    return owCreateTreeViewBox(parent, BOX(n), owIconSet, n.subType, PLACED(n), 0);
-}
-
-int createTableBox(const WidgetNode& n, int parent) {
-    return owCreateTableBox(parent, BOX(n), PLACED(n), owCallback, AUTOMATIC, 0);
+                               owQuitMode, OLEAVE);
 }
 
 int createSeparator(const WidgetNode& n, int parent) {
@@ -203,12 +196,9 @@ void finishForm(WidgetNode& n) {
     buildLiveMenu(n);
 }
 
+// The creation call of a button on a tool bar takes no colours.
 void finishButton(WidgetNode& n) {
     if (n.onToolbar) owSetWidgetProp(n.handle, owOnCol, n.colour1, owOffCol, n.colour2, owTextCol, n.colour3, 0);
-}
-
-void finishToggle(WidgetNode& n) {
-    if (n.subType != O3DRADIO && n.subType != O3DCHECKBOX) owSetWidgetProp(n.handle, owTextCol, n.colour3, 0);
 }
 
 void finishValue(WidgetNode& n) {
@@ -222,10 +212,15 @@ void finishList(WidgetNode& n) {
 
 void finishPanel(WidgetNode& n) {
     owSetGuiCursor(n.handle, 0, OCURSORCROSS);
-    if (n.parent && n.parent->type == TYPE_TAB_BOX) owSetWidgetStatus(n.handle, OSELECTABLE);
+    if (!n.parent || n.parent->type != TYPE_TAB_BOX) return;
+    owSetWidgetProp(n.handle, owTitle, n.text.c_str(), 0); // its tab has one in any case
+    owSetWidgetStatus(n.handle, OSELECTABLE);
 }
 
-void finishFrame(WidgetNode& n) { drawFrameCross(n); }
+void finishFrame(WidgetNode& n) {
+    owDefineExposeCallback(n.handle, n.handle + 3 * OIDENT);
+    drawFrameCross(n);
+}
 
 // The labels of a table box are one text split at bars; a column past the last label has none.
 void finishTable(WidgetNode& n) {
@@ -252,43 +247,36 @@ void finishPane(WidgetNode& n) {
                                                   owHpos, OCENTRE, owExpand, 1, 0);
 }
 
-// A type whose creation call takes no callback can be selected all the same.
-void tellOfClicks(WidgetNode& n) { owDefineCallback(n.handle, n.handle); }
-
-void finishTree(WidgetNode& n) {
-    tellOfClicks(n);
-    buildLiveTree(n);
-}
-
-constexpr bool C = true, S = true, FONT = true, NO = false;
+constexpr int BY_HANDLE = LiveType::BY_HANDLE, NONE = 0;
+constexpr bool FONT = true, NO = false;
 
 const LiveType TYPES[] = {
-    {TYPE_FORM, createForm, finishForm, NO, NO, NO},
-    {TYPE_MAIN_PANEL, createMainPanel, nullptr, C, S, NO},
-    {TYPE_BUTTON, createButton, finishButton, C, NO, FONT},
-    {TYPE_TOGGLE, createToggle, finishToggle, NO, NO, FONT},
-    {TYPE_TEXT_ENTRY, createTextEntry, nullptr, NO, NO, FONT},
-    {TYPE_TEXT_LABEL, createTextLabel, nullptr, NO, S, FONT},
-    {TYPE_VALUE_ENTRY, createValueEntry, finishValue, NO, NO, FONT},
-    {TYPE_VALUE_LABEL, createValueLabel, finishValue, C, NO, FONT},
-    {TYPE_ICON, createIcon, finishButton, C, NO, FONT},
-    {TYPE_LIST_BOX, createListBox, finishList, C, S, FONT},
-    {TYPE_SLIDER, createSlider, nullptr, C, NO, NO},
-    {TYPE_PANEL, createPanel, finishPanel, C, S, FONT},
-    {TYPE_RADIO_BOX, createPanel, finishPanel, C, S, NO}, // no program gives its title a font
-    {TYPE_COMBO_BOX, createComboBox, finishList, NO, S, FONT},
-    {TYPE_GRAPHICS_FRAME, createFrame, finishFrame, C, NO, NO},
-    {TYPE_TEXT_ARRAY, createTextArray, applyArrayGeometry, NO, S, FONT},
-    {TYPE_VALUE_ARRAY, createValueArray, applyArrayGeometry, NO, S, FONT},
-    {TYPE_TOOL_BAR, createToolBar, finishToolBar, C, NO, NO},
-    {TYPE_TAB_BOX, createTabBox, nullptr, NO, S, FONT},
-    {TYPE_GAUGE, createGauge, nullptr, C, NO, NO},
-    {TYPE_PROGRESS_BAR, createProgressBar, tellOfClicks, C, NO, NO},
-    {TYPE_TTY_ENTRY, createTtyEntry, nullptr, NO, S, FONT},
-    {TYPE_TREE_VIEW, createTreeView, finishTree, C, NO, FONT},
-    {TYPE_TABLE_BOX, createTableBox, finishTable, C, NO, FONT},
-    {TYPE_TOOL_SEPARATOR, createSeparator, nullptr, NO, NO, NO},
-    {TYPE_PANE, createPane, finishPane, C, NO, NO},
+    {TYPE_FORM, createForm, finishForm, NONE, NONE, NO},
+    {TYPE_MAIN_PANEL, createMainPanel, nullptr, BY_HANDLE, BY_HANDLE, NO},
+    {TYPE_BUTTON, createButton, finishButton, BY_HANDLE, NONE, FONT},
+    {TYPE_TOGGLE, createToggle, nullptr, CMD_TOGGLED, NONE, FONT},
+    {TYPE_TEXT_ENTRY, createText, nullptr, CMD_TEXT_EDITED, CMD_TEXT_SELECTED, FONT},
+    {TYPE_TEXT_LABEL, createText, nullptr, NONE, BY_HANDLE, FONT},
+    {TYPE_VALUE_ENTRY, createValue, finishValue, CMD_VALUE_EDITED, CMD_VALUE_SELECTED, FONT},
+    {TYPE_VALUE_LABEL, createValue, finishValue, BY_HANDLE, NONE, FONT},
+    {TYPE_ICON, createIcon, nullptr, BY_HANDLE, NONE, FONT},
+    {TYPE_LIST_BOX, createListBox, finishList, BY_HANDLE, BY_HANDLE, FONT},
+    {TYPE_SLIDER, createSlider, nullptr, BY_HANDLE, NONE, NO},
+    {TYPE_PANEL, createPlain, finishPanel, BY_HANDLE, BY_HANDLE, FONT},
+    {TYPE_RADIO_BOX, createRadioBox, finishPanel, BY_HANDLE, BY_HANDLE, NO}, // no program gives its title a font
+    {TYPE_COMBO_BOX, createComboBox, finishList, NONE, BY_HANDLE, FONT},
+    {TYPE_GRAPHICS_FRAME, createFrame, finishFrame, BY_HANDLE, NONE, NO},
+    {TYPE_TEXT_ARRAY, createArray, applyArrayGeometry, NONE, BY_HANDLE, FONT},
+    {TYPE_VALUE_ARRAY, createArray, applyArrayGeometry, NONE, BY_HANDLE, FONT},
+    {TYPE_TOOL_BAR, createToolBar, finishToolBar, BY_HANDLE, NONE, NO},
+    {TYPE_TAB_BOX, createPlain, nullptr, NONE, BY_HANDLE, FONT},
+    {TYPE_GAUGE, createGauge, nullptr, BY_HANDLE, NONE, NO},
+    {TYPE_PROGRESS_BAR, createPlain, nullptr, BY_HANDLE, NONE, NO},
+    {TYPE_TTY_ENTRY, createTtyEntry, nullptr, NONE, BY_HANDLE, FONT},
+    {TYPE_TREE_VIEW, createPlain, buildLiveTree, BY_HANDLE, NONE, FONT},
+    {TYPE_TABLE_BOX, createPlain, finishTable, BY_HANDLE, NONE, FONT},
+    {TYPE_TOOL_SEPARATOR, createSeparator, nullptr, NONE, NONE, NO},
+    {TYPE_PANE, createPane, finishPane, BY_HANDLE, NONE, NO},
 };
 
 } // namespace
@@ -299,6 +287,6 @@ const LiveType* liveType(int type) {
 }
 
 int createStandIn(const WidgetNode& n, int parent) {
-    return owCreatePanel(parent, BOX(n), owTitle, n.name.c_str(), owBorderType, OSINGLE, PLACED(n), owCallback,
-                         AUTOMATIC, owSelectCallback, AUTOMATIC, 0);
+    return owCreatePanel(parent, BOX(n), owTitle, n.name.c_str(), owBorderType, OSINGLE, owVpos, n.vpos, owHpos, n.hpos,
+                         owExpand, n.expand, 0);
 }

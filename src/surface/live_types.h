@@ -7,9 +7,11 @@ struct LiveType {
     int type;
     int (*create)(const WidgetNode& node, int parent); // in the project's unit; returns the handle
     void (*finish)(WidgetNode& node);                  // what the creation call cannot carry; null for nothing
-    bool generalId;                                    // the general event carries the handle...
-    bool selectId;                                     // ...the select event handle + 50000
+    int general;                                       // identifier of the general event and...
+    int select;                                        // ...of the select event; 0 for none
     bool font;                                         // takes the font fields, see bearsFont
+
+    static constexpr int BY_HANDLE = -1; // the event carries the handle, the select event handle + 50000
 };
 
 const LiveType* liveType(int type); // null for a type that has no live widget

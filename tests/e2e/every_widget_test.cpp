@@ -54,6 +54,10 @@ void addCells(WidgetNode& form) {
         if (type == TYPE_TAB_BOX) add(node, TYPE_PANEL, "PAGE1", 0, 0, 140, 60, "Page");
         if (type == TYPE_TREE_VIEW) addTreeEntries(node, {{0, "TRUNK", "Trunk"}, {1, "TWIG", "Twig"}});
         if (type == TYPE_PROGRESS_BAR) node.height = 20;
+        if (type == TYPE_VALUE_ARRAY) { // the place of the tab box behind it is its own
+            node.hpos = 1;
+            node.xpos = 780 - node.xpos - node.width;
+        }
     }
 }
 
@@ -98,7 +102,11 @@ TEST_P(EveryWidget, StartsShowsItsFormsAnswersAndEnds) {
     ASSERT_EQ(std::system(script.c_str()), 0) << script;
     const pid_t program = desk::start({"./every"}, {}, folder, folder + "/run.log");
     desk::settle(program);
-    desk::click(desk::waitFor(program, "Press", desk::withText("Press")));
+    const desk::Thing press = desk::waitFor(program, "Press", desk::withText("Press"));
+    const desk::Thing tabs = desk::waitFor(program, "the tab box", desk::ofKind("QTabWidget"));
+    EXPECT_EQ(tabs.x - press.x, 10 + 2 * 152 - 620);
+    EXPECT_EQ(tabs.width, 144);
+    desk::click(press);
     desk::waitFor(program, "the answer", desk::withText("Pressed"));
     desk::waitFor(program, "the second form", desk::withText("Here I am"));
     desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/every" + language.name + ".png");

@@ -69,6 +69,13 @@ Word Call::run() { return checkedCall({function, fixed, fixedCount, keywords, ke
 
 } // namespace orba
 
+extern "C" int owRoutineNumber(const char* name) {
+    for (int number = 0; number < static_cast<int>(orba::Fn::count); number++) {
+        if (std::strcmp(orba::functionRow(static_cast<orba::Fn>(number)).name, name) == 0) return number;
+    }
+    return -1;
+}
+
 extern "C" std::int64_t owCallWords(int function, const std::int64_t* words) {
     if (function < 0 || function >= static_cast<int>(orba::Fn::count) || !words) return 0;
     const orba::Fn which = static_cast<orba::Fn>(function);

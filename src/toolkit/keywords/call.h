@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/frame/arguments.h"
+#include "toolkit/include/menu-words.h"
 
 #include <cstdarg>
 #include <initializer_list>
@@ -33,8 +34,3 @@ private:
 };
 
 } // namespace orba
-
-// For the bindings of other languages: runs routine number `function` (its place in the function table). `words` holds
-// the fixed arguments in table order, texts as addresses of NUL-terminated bytes, reals as the bits of doubles; then
-// pairs of keyword and value; then 0.
-extern "C" std::int64_t owCallWords(int function, const std::int64_t* words);

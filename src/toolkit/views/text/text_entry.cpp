@@ -167,9 +167,9 @@ void TextEntry::showOptions() {
         const int limit = options_.limit > 0 && !options_.label ? options_.limit : std::numeric_limits<int>::max();
         if (line_->maxLength() != limit) {
             line_->setMaxLength(limit); // sets the text anew, and then its end is what shows
-            dropHalfLetter(*line_);
             if (!line_->hasFocus()) line_->setCursorPosition(0);
         }
+        dropHalfLetter(*line_);
         line_->setTextMargins(options_.margin, 0, options_.margin, 0);
         if (options_.label) line_->setCursor(Qt::ArrowCursor);
         line_->setContextMenuPolicy(options_.label ? Qt::NoContextMenu : Qt::DefaultContextMenu);
