@@ -1,12 +1,16 @@
 // What a live widget shows is what the program shows: pages, fonts, colours and icons straight from the records.
 #include "desk.h"
 
+#include "codegen/attributes.h"
+#include "project/widget_types.h"
 #include "properties/edits.h"
 #include "surface/live.h"
 
 #include <QComboBox>
 #include <QFont>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace robot = orba::testing;
 
@@ -131,6 +135,40 @@ TEST(Looks, TheIconsOfATreeViewAreWrittenIntoItsEntries) {
     EXPECT_EQ(tree->closeIcon, "mthumb");
     EXPECT_EQ(tree->entries->icon2, "") << "the box itself is no entry";
     for (const MenuEntryRec* entry = tree->entries->next; entry; entry = entry->next) EXPECT_EQ(entry->icon2, "mthumb");
+}
+
+constexpr int NUMBERS[] = {
+#define KEYWORD(name) name,
+#include "codegen/keywords.def"
+#undef KEYWORD
+};
+
+// One property under two keywords: the second is for creation alone, or a name that entries have for it.
+constexpr int TWINS[][2] = {{owOffCol, owBack1Col}, {owOnCol, owBack2Col}, {owFillCol, owBackCol}};
+
+bool isSameLive(int ofRow, int ofProgram) {
+    return ofRow == ofProgram ||
+           std::ranges::any_of(TWINS, [&](const auto& twin) { return twin[0] == ofRow && twin[1] == ofProgram; });
+}
+
+TEST(Looks, ARowSetsWhatAProgramIsToldOfTheSameField) {
+    int compared = 0;
+    for (const WidgetTypeRow& type : widgetTypes()) {
+        const AttributesOfType* known = attributesOf(type.type);
+        if (!known) continue;
+        WidgetNode widget;
+        widget.type = type.type;
+        for (const RowId id : sheetOf(widget)) {
+            const PropertyRow& row = propertyRow(id);
+            if (!row.whole || !row.keyword) continue;
+            const auto told = std::ranges::find(known->attributes, row.whole, &Attribute::whole);
+            if (told == known->attributes.end()) continue;
+            EXPECT_TRUE(isSameLive(row.keyword, NUMBERS[static_cast<size_t>(told->keyword)]))
+                << type.label << ": " << row.label;
+            ++compared;
+        }
+    }
+    EXPECT_GT(compared, 40);
 }
 
 } // namespace
