@@ -2,6 +2,7 @@
 
 #include "codegen/c_language.h"
 #include "codegen/generation.h"
+#include "codegen/library_names.h"
 #include "codegen/quotes.h"
 
 #include "project/preferences.h"
@@ -181,15 +182,36 @@ constexpr DispatchTexts DISPATCH = {
     .chainEnd = "      }\n\n",
 };
 
+// Words that no variable of a C++ source may have for a name.
+constexpr std::string_view RESERVED_WORDS[] = {
+    "alignas",   "alignof",  "and",      "and_eq",    "asm",          "auto",          "bitand",
+    "bitor",     "bool",     "break",    "case",      "catch",        "char",          "char16_t",
+    "char32_t",  "class",    "compl",    "const",     "const_cast",   "constexpr",     "continue",
+    "decltype",  "default",  "delete",   "do",        "double",       "dynamic_cast",  "else",
+    "enum",      "explicit", "export",   "extern",    "false",        "float",         "for",
+    "friend",    "goto",     "if",       "inline",    "int",          "long",          "mutable",
+    "namespace", "new",      "noexcept", "not",       "not_eq",       "nullptr",       "operator",
+    "or",        "or_eq",    "private",  "protected", "public",       "register",      "reinterpret_cast",
+    "return",    "short",    "signed",   "sizeof",    "static",       "static_assert", "static_cast",
+    "struct",    "switch",   "template", "this",      "thread_local", "throw",         "true",
+    "try",       "typedef",  "typeid",   "typename",  "union",        "unsigned",      "using",
+    "virtual",   "void",     "volatile", "wchar_t",   "while",        "xor",           "xor_eq"};
+
+// Names that the generated program declares itself.
+constexpr std::string_view OWN_NAMES[] = {"callid", "main"};
+
 } // namespace
 
 const Language C_LANGUAGE = {
-    .code = 99,
-    .commentPrefix = "//",
-    .extension = ".cpp",
-    .fileFilter = "*.cpp|C++ source files (*.cpp)|*.c|C source files (*.c)|*.*|All files (*.*)",
+    .number = LANGUAGE_C,
     .split = SPLIT_C,
     .commentsLikeFree = true,
+    .startsFromBlack = false,
+    .parentConstants = false,
+    .sliderHelp = false,
+    .reservedWords = RESERVED_WORDS,
+    .ownNames = OWN_NAMES,
+    .libraryNames = libraryNames,
     .blockComments = BLOCK_COMMENTS,
     .declareWidget = "int %s;\n",
     .declareEntry = "int %s;\n",

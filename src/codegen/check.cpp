@@ -3,7 +3,7 @@
 #include "codegen/check.h"
 
 #include "codegen/check_names.h"
-#include "codegen/generate.h"
+#include "codegen/generation.h"
 #include "codegen/quotes.h"
 
 #include "platform/paths.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr int CONTINUATION_LIMIT = 255; // lines that a Fortran statement may go on for
 
-bool isC() { return project.projectLanguage == 99; }
+bool isC() { return languageOfProject().family == LanguageFamily::C; }
 
 struct TextCheck {
     std::vector<Complaint>& complaints;
@@ -72,7 +72,7 @@ bool isArray(const WidgetNode& node) { return node.type == TYPE_TEXT_ARRAY || no
 bool hasHelp(const WidgetNode& node) {
     constexpr WidgetType WITHOUT[] = {TYPE_FORM,      TYPE_MAIN_PANEL, TYPE_TOOL_BAR,       TYPE_TAB_BOX,
                                       TYPE_TREE_VIEW, TYPE_TABLE_BOX,  TYPE_TOOL_SEPARATOR, TYPE_PANE};
-    if (node.type == TYPE_SLIDER) return project.projectLanguage == 77;
+    if (node.type == TYPE_SLIDER) return languageOf(project.projectLanguage).sliderHelp;
     return std::find(std::begin(WITHOUT), std::end(WITHOUT), node.type) == std::end(WITHOUT);
 }
 bool hasNamedImage(const WidgetNode& node) {
@@ -189,7 +189,8 @@ void checkPlatform(TextCheck check, const WidgetNode& node) {
 }
 
 bool continues(std::string_view line) {
-    return project.projectLanguage == 90 ? line.ends_with(" &") : line.starts_with("     +");
+    const SplitRule& split = languageOf(project.projectLanguage).split;
+    return split.mark.empty() ? line.starts_with(split.prefix) : line.ends_with(split.mark);
 }
 
 // Counts continuation lines in the source itself. The comment ahead of a statement names its widget.

@@ -78,8 +78,7 @@ void applySizing(Placed& widget, SizingRule rule) {
 
 void writeComment(Generation& g, const Placed& widget, const WidgetText& text) {
     if (g.language.commentsLikeFree) {
-        write(g, "\n%s Create %s %s child of %s\n", g.language.commentPrefix, text.noun, widget.node.name,
-              widget.parent);
+        write(g, "\n%s Create %s %s child of %s\n", g.facts.comment, text.noun, widget.node.name, widget.parent);
     } else if (widget.node.type == TYPE_BUTTON && widget.node.onToolbar == 1) {
         write(g, "C create ToolBar Button %s child of %s\n", widget.node.name, widget.parent);
     } else if (!text.nounFixed.empty()) {
@@ -173,7 +172,6 @@ void noteStartColours() {
     }
 }
 
-// Fortran 77 programs start from black, whatever the toolkit starts with.
 void writeUserColours(Generation& g) {
     bool commented = false;
     for (int index = FIXED_COLOURS; index < COLOURS; ++index) {
@@ -181,7 +179,7 @@ void writeUserColours(Generation& g) {
         float green = 0;
         float blue = 0;
         host.enquireColour(index, red, green, blue);
-        const Colour start = g.language.code == 77 ? Colour() : startColours[static_cast<std::size_t>(index)];
+        const Colour start = g.language.startsFromBlack ? Colour() : startColours[static_cast<std::size_t>(index)];
         if (scaled(red, green, blue) == start) continue;
         if (!commented) g.out += g.language.colourComment;
         commented = true;
@@ -202,7 +200,7 @@ void rememberMaster(Generation& g, const WidgetNode& form) {
 }
 
 std::string_view parentName(const Generation& g, const WidgetNode& form) {
-    if (g.language.code == 90 && isDynamic(form)) return parentConstant(form);
+    if (g.language.parentConstants && isDynamic(form)) return parentConstant(form);
     return form.parentName == "NONE" ? g.masterName : std::string_view(form.parentName);
 }
 

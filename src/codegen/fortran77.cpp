@@ -2,6 +2,7 @@
 
 #include "codegen/fortran77.h"
 #include "codegen/generation.h"
+#include "codegen/library_names.h"
 #include "codegen/quotes.h"
 
 #include "project/tree.h"
@@ -175,15 +176,21 @@ constexpr DispatchTexts DISPATCH = {
     .chainEnd = "      END IF\n\n",
 };
 
+// Names that the generated program declares itself.
+constexpr std::string_view OWN_NAMES[] = {"wdesign", "menu_f77", "callid", "oident", "istbar"};
+
 } // namespace
 
 const Language FORTRAN_77 = {
-    .code = 77,
-    .commentPrefix = "C",
-    .extension = ".for",
-    .fileFilter = "*.for|Fortran source files (*.for)|*.*|All files (*.*)",
+    .number = LANGUAGE_F77,
     .split = SPLIT_FIXED,
     .commentsLikeFree = false,
+    .startsFromBlack = true,
+    .parentConstants = false,
+    .sliderHelp = true,
+    .reservedWords = {},
+    .ownNames = OWN_NAMES,
+    .libraryNames = fixedLibraryNames,
     .blockComments = BLOCK_COMMENTS,
     .declareWidget = "      INTEGER %s\n",
     .declareEntry = "      INTEGER %s\n",

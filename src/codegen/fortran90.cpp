@@ -2,6 +2,7 @@
 
 #include "codegen/fortran90.h"
 #include "codegen/generation.h"
+#include "codegen/library_names.h"
 #include "codegen/quotes.h"
 
 #include "project/preferences.h"
@@ -36,7 +37,7 @@ template <class Visit> void eachForm(const Generation& g, bool dynamic, Visit vi
 }
 
 void writeModule(Generation& g) {
-    write(g, "%s Global Definitions\n", g.language.commentPrefix);
+    write(g, "%s Global Definitions\n", g.facts.comment);
     write(g, "Module wdesign\n");
     write(g, "use menu_f90\n\n");
     eachForm(g, true, [&](const WidgetNode& form) { write(g, "use %s_mod\n", form.name); });
@@ -54,7 +55,7 @@ void writeModule(Generation& g) {
         write(g, "return\n");
         write(g, "end subroutine\n");
     });
-    write(g, "%s GetMasterFormID Function\n", g.language.commentPrefix);
+    write(g, "%s GetMasterFormID Function\n", g.facts.comment);
     write(g, "   Integer Function GetMasterFormID()\n");
     write(g, "   GetMasterFormID = %s\n", g.forms.front()->name);
     write(g, "   end function\n");
@@ -207,6 +208,10 @@ constexpr DispatchTexts DISPATCH = {
     .chainEnd = "      end if\n\n",
 };
 
+// Names that the generated program declares itself.
+constexpr std::string_view OWN_NAMES[] = {"wdesign",    "menu_f90", "callid",         "getmasterformid",
+                                          "owdactlist", "istbar",   "slider_attribs", "arrayattribs"};
+
 } // namespace
 
 // A name may be declared only once, in whatever case: in the module of a form that bears the constant's own name the
@@ -219,12 +224,15 @@ std::string_view parentConstant(const WidgetNode& form) {
 }
 
 const Language FORTRAN_90 = {
-    .code = 90,
-    .commentPrefix = "!",
-    .extension = ".f90",
-    .fileFilter = "*.f90|Fortran source files (*.f90)|*.*|All files (*.*)",
+    .number = LANGUAGE_F90,
     .split = SPLIT_FREE,
     .commentsLikeFree = true,
+    .startsFromBlack = false,
+    .parentConstants = true,
+    .sliderHelp = false,
+    .reservedWords = {},
+    .ownNames = OWN_NAMES,
+    .libraryNames = libraryNames,
     .blockComments = BLOCK_COMMENTS,
     .declareWidget = "integer :: %s\n",
     .declareEntry = "integer ::  %s\n",

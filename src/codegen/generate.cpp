@@ -9,6 +9,7 @@
 
 #include "platform/paths.h"
 #include "platform/safe_file.h"
+#include "project/busy_cursor.h"
 #include "project/host.h"
 #include "project/tree.h"
 
@@ -43,9 +44,9 @@ std::string inComment(std::string text) {
 }
 
 void writeProgram(Generation& g) {
-    write(g, "%s Program %s\n", g.language.commentPrefix, inComment(g.base));
-    write(g, "%s%s%s", g.language.commentPrefix, DATED, localTime());
-    write(g, "%s Using ORBAWIDG Designer Version %s\n\n", g.language.commentPrefix, DESIGNER_VERSION);
+    write(g, "%s Program %s\n", g.facts.comment, inComment(g.base));
+    write(g, "%s%s%s", g.facts.comment, DATED, localTime());
+    write(g, "%s Using ORBAWIDG Designer Version %s\n\n", g.facts.comment, DESIGNER_VERSION);
     g.language.programHead(g);
     g.language.actionLoop(g);
     g.language.termination(g);
@@ -80,17 +81,18 @@ bool anyWindowCallback() {
 
 } // namespace
 
-const Language& languageOf(int code) { return code == 77 ? FORTRAN_77 : code == 90 ? FORTRAN_90 : C_LANGUAGE; }
-
-const char* sourceExtension(int language) { return languageOf(language).extension.data(); }
-const char* sourceFilter(int language) { return languageOf(language).fileFilter.data(); }
+const Language& languageOf(int number) {
+    for (const Language* language : {&FORTRAN_90, &FORTRAN_77}) {
+        if (language->number == number) return *language;
+    }
+    return C_LANGUAGE;
+}
 
 std::string projectKind() {
-    const char* language = project.projectLanguage == 77 ? "F77" : project.projectLanguage == 90 ? "F90" : "C";
     const char* platform = project.projectPlatform == 'w'   ? "Windows"
                            : project.projectPlatform == 'x' ? "X-Windows"
                                                             : "GLX-Windows";
-    return std::string(language) + " " + platform + " Project";
+    return std::string(languageOfProject().word) + " " + platform + " Project";
 }
 
 std::string sourcePath() {
@@ -115,8 +117,12 @@ bool generateText(const std::string& path, GeneratedText& generated, const TextS
     if (master == nullptr) return false;
 
     const Language& language = languageOf(project.projectLanguage);
-    Generation g{
-        .language = language, .out = generated.text, .sink = sink, .map = generated.map, .base = basePath(path)};
+    Generation g{.language = language,
+                 .facts = languageOfProject(),
+                 .out = generated.text,
+                 .sink = sink,
+                 .map = generated.map,
+                 .base = basePath(path)};
     g.windows = project.projectPlatform == 'w';
     g.windowCallbacks = anyWindowCallback();
     for (const CreationRow& row : language.creation)
@@ -134,10 +140,9 @@ bool chooseSourceFile() {
     std::string folder = project.sourceDir;
     std::string name = project.sourceName;
     for (;;) {
-        if (!host.fileDialogue("Create ORBAWIDG code", sourceFilter(project.projectLanguage), true, folder, name))
-            return false;
+        if (!host.fileDialogue("Create ORBAWIDG code", languageOfProject().filter, true, folder, name)) return false;
         if (name.empty()) return false;
-        if (name.find('.') == std::string::npos) name += sourceExtension(project.projectLanguage);
+        if (name.find('.') == std::string::npos) name += languageOfProject().extension;
         const bool taken = fileReadable(joinPath(std::string_view(folder), name));
         if (!taken || host.messageBox("Overwrite existing file?", "File already exists. Overwrite?", BOX_QUESTION,
                                       BOX_YES_NO) == ANSWER_YES) {
@@ -178,14 +183,14 @@ bool reportUnwritable() {
 bool generateSource(const std::string& path, const std::string& fileName, GeneratedText* generated) {
     SafeFile file;
     if (!openSafeFile(file, path)) return reportUnwritable();
-    host.busyCursor(true);
+    BusyCursor busy;
     storeArraySizes();
     const TextSink toFile = [&](std::string_view piece) { writeSafeFile(file, piece.data(), piece.size()); };
     GeneratedText own;
     const bool made = generated != nullptr ? generateText(path, *generated) : generateText(path, own, toFile);
     if (!made) {
         abandonSafeFile(file);
-        host.busyCursor(false);
+        busy.end();
         host.errorBox("Error during save",
                       "The project has no master form, so there is no program to generate.|Set the Form "
                       "Type of one form to Master, then try again");
@@ -199,6 +204,6 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
         if (!writeManifest(base, project.projectTitle)) reportUnwritable();
         if (!writeResourceScript(base)) reportUnwritable();
     }
-    host.busyCursor(false);
+    busy.end();
     return written || reportUnwritable();
 }

@@ -35,10 +35,6 @@ const PastedCode* pastedCodeAt(const GeneratedText& generated, int line);
 // the ones that differ. Without a call all colours from 20 on count as black.
 void noteStartColours();
 
-// ".f90", ".for" or ".cpp", and the filter of the file dialogue.
-const char* sourceExtension(int language);
-const char* sourceFilter(int language);
-
 // "F90 Windows Project" and its like, by language and platform of the project.
 std::string projectKind();
 

@@ -6,6 +6,7 @@
 #include "codegen/split.h"
 #include "codegen/text.h"
 #include "codegen/values.h"
+#include "project/language.h"
 
 #include <array>
 #include <cstdint>
@@ -57,12 +58,15 @@ struct CreationRow {
 
 // One language: fixed texts, formats with the places named behind them, and writers for what has a shape of its own.
 struct Language {
-    int code; // 77, 90 or 99
-    std::string_view commentPrefix;
-    std::string_view extension;
-    std::string_view fileFilter;
+    LanguageNumber number;
     SplitRule split;
     bool commentsLikeFree; // creation comments in the words of Fortran 90
+    bool startsFromBlack;  // its programs have no colours from 20 on, whatever the toolkit starts with
+    bool parentConstants;  // a dynamic form knows its parent by a constant of its module
+    bool sliderHelp;       // a slider's creation writes its bubble help
+    std::span<const std::string_view> reservedWords;
+    std::span<const std::string_view> ownNames; // that the program declares itself
+    std::span<const std::string_view> (*libraryNames)();
     BlockComments blockComments;
 
     std::string_view declareWidget;               // name
@@ -94,10 +98,11 @@ struct Language {
 extern const Language FORTRAN_90;
 extern const Language FORTRAN_77;
 extern const Language C_LANGUAGE;
-const Language& languageOf(int code);
+const Language& languageOf(int number);
 
 struct Generation {
     const Language& language;
+    const LanguageFacts& facts;
     std::string& out;     // the source so far, or what the sink has not taken yet
     const TextSink& sink; // empty: the whole text stays in `out`
     std::vector<PastedCode>& map;

@@ -1,5 +1,7 @@
 #include "codegen/markers.h"
 
+#include "codegen/generation.h"
+
 #include "project/code_stores.h"
 
 std::string_view slotOffset(WidgetSlot slot) {
@@ -14,11 +16,15 @@ std::string_view slotOffset(WidgetSlot slot) {
     return offsets[slot];
 }
 
-std::string_view branchHead(int language) { return language == 77 ? "IF(CALLID.EQ.(" : "if (callid == ("; }
+namespace {
+
+std::string_view withoutIndent(std::string_view text) { return text.substr(text.find_first_not_of(' ')); }
+
+} // namespace
+
+std::string_view branchHead(int language) { return withoutIndent(languageOf(language).dispatch.ifHead); }
 
 std::string statusTest(int language, int status) {
-    const std::string_view head = language == 77   ? "IF(IOWDSTAT.EQ."
-                                  : language == 90 ? "if(owdactlist%status == "
-                                                   : "if(owdactlist.status == ";
+    const std::string_view head = withoutIndent(languageOf(language).dispatch.ifStatus);
     return std::string(head) + static_cast<char>('0' + status) + ")";
 }

@@ -6,6 +6,7 @@
 #include "platform/registry.h"
 #include "platform/text_files.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "project/records.h"
 
 #include <algorithm>
@@ -180,7 +181,7 @@ int readCompilerCatalogue() {
     findCompiler();
     switchDefaults.compiler = compiler.defaultCompilerSwitches;
     switchDefaults.linker = compiler.defaultLinkerSwitches;
-    project.projectLanguage = compilerOf(compiler.profile).takesC ? 99 : 90;
+    project.projectLanguage = firstLanguage(compilerOf(compiler.profile).family);
     return compiler.profile;
 }
 
@@ -214,7 +215,7 @@ void setUpCompiler() {
 bool compilerFitsProject(bool report) {
     if (compiler.profile == COMPILER_NONE) return false;
     const Compiler& known = compilerOf(compiler.profile);
-    if (known.takesBoth || known.takesC == (project.projectLanguage == 99)) return true;
+    if (known.takesBoth || known.family == languageOfProject().family) return true;
     if (report) {
         host.errorBox("Project/Environment Configuration",
                       "This project will be incompatible with the current ORBA compiler environment|"

@@ -19,7 +19,7 @@ struct CompilerState {
 
 extern CompilerState compiler;
 
-// Fills `compiler` and the switches of new projects, and sets project.projectLanguage (99 for Visual C/C++, else 90).
+// Fills `compiler` and the switches of new projects, and sets project.projectLanguage (by the family that it takes).
 // Returns the profile.
 int readCompilerCatalogue();
 

@@ -80,11 +80,11 @@ std::string sourceForm(const CommandScene& scene) {
     std::string name = fileNameOf(scene.source);
     size_t dot = name.rfind('.');
     std::string extension = dot == std::string::npos ? "" : name.substr(dot);
-    if (scene.language == 99) return extension == ".c" ? " -x c" : "";
+    if (languageFacts(scene.language).family == LanguageFamily::C) return extension == ".c" ? " -x c" : "";
     constexpr std::string_view KNOWN[] = {".f90", ".F90", ".f95", ".F95", ".f03", ".F03", ".f08", ".F08",
                                           ".for", ".FOR", ".f",   ".F",   ".ftn", ".FTN", ".fpp", ".FPP"};
     if (std::find(std::begin(KNOWN), std::end(KNOWN), extension) != std::end(KNOWN)) return "";
-    return scene.language == 77 ? " -x f77" : " -x f95";
+    return scene.language == LANGUAGE_F77 ? " -x f77" : " -x f95";
 }
 
 std::string modules(const CommandScene& scene) {

@@ -16,7 +16,7 @@ const char* objectExtension(int compilerProfile);
 // What the names of a command stand for. Paths are as the project has them.
 struct CommandScene {
     int profile = 0;
-    int language = 90;
+    int language = LANGUAGE_F90;
     std::string main; // the generated source
     std::string base; // without its extension
     std::string exe;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/environment.h"
+#include "project/language.h"
 
 #include <array>
 #include <span>
@@ -61,7 +62,7 @@ struct BuildStep {
 };
 
 struct LanguageSteps {
-    int language; // 77, 90 or 99; 0: whatever the compiler takes
+    int language; // a LanguageNumber; 0: whatever the compiler takes
     std::span<const BuildStep> steps;
 };
 
@@ -98,8 +99,8 @@ struct Compiler {
     CompilerProfile profile = COMPILER_NONE;
     const char* word = ""; // in the build script
     const char* name = "";
-    bool takesC = false; // else Fortran; see takesBoth
-    bool takesBoth = false;
+    LanguageFamily family = LanguageFamily::Fortran;
+    bool takesBoth = false;   // whatever its family
     const char* compile = ""; // switches of new projects
     const char* link = "";
     Variant variants[2]{};

@@ -12,7 +12,9 @@
 #include "platform/environment.h"
 #include "platform/file_times.h"
 #include "platform/paths.h"
+#include "project/busy_cursor.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "project/records.h"
 
 #include <algorithm>
@@ -72,7 +74,7 @@ bool runStep(Build& build, const BuildStep& step, bool reportFailure) {
 void completeSourceRow(const Build& build, std::string& row) {
     constexpr const char* EXTENSIONS[] = {".FOR", ".for", ".F90", ".f90", ".FI", ".fi"};
     constexpr const char* GNU_EXTENSIONS[] = {".f", ".F"}; // with all that begin so: .f95, .ftn, .F03
-    if (build.exitCodes && build.scene.language == 99) return;
+    if (build.exitCodes && languageFacts(build.scene.language).family == LanguageFamily::C) return;
     for (const char* extension : EXTENSIONS) {
         if (row.find(extension) != std::string::npos) return;
     }
@@ -84,7 +86,8 @@ void completeSourceRow(const Build& build, std::string& row) {
 
 // Listed C sources are compiled every time, since nothing tells which headers they depend on.
 bool sourceCurrent(const Build& build, const std::string& source, std::int64_t compiledTime) {
-    if (build.force || (build.exitCodes && build.scene.language == 99)) return false;
+    if (build.force || (build.exitCodes && languageFacts(build.scene.language).family == LanguageFamily::C))
+        return false;
     return fileTime(source) == compiledTime && compiledTime != 0 && pathExists(objectOf(build.scene, source));
 }
 
@@ -212,9 +215,9 @@ void showWholeLog() {
     buildHooks.setLogLines(entries);
 }
 
-void finishStarted(const std::string& sourcePath) {
+void finishStarted(const std::string& sourcePath, BusyCursor& busy) {
     showWholeLog();
-    host.busyCursor(false);
+    busy.end();
     if (scanLog(compiler.profile) > 0 || lastFailed) {
         buildHooks.showLog();
         buildHooks.enableCompile(true);
@@ -252,7 +255,6 @@ void finishNotStarted() {
                             " could not be started|Install it, or put its folder on PATH and start the designer again"
                       : "Compile/Link process failed|Can not find compiler/linker in registry|"
                         "Restart ORBAWIDG Designer in compiler environment command window");
-    host.busyCursor(false);
     buildHooks.enableCompile(true);
 }
 
@@ -305,14 +307,14 @@ void compileCommand(bool force) {
     buildHooks.enableCompile(false);
     buildHooks.enableExecute(false);
     buildHooks.enableAbort(true); // ends a compiler that does not come to an end
-    host.busyCursor(true);
+    BusyCursor busy;
     buildHooks.clearLog();
     std::string path = projectSourcePath();
     int started = buildProject(force, compiler.profile, path, project.customSwitches);
     buildHooks.enableAbort(false);
     keepNotes(before, saved);
     if (started > 0) {
-        finishStarted(path);
+        finishStarted(path, busy);
     } else {
         finishNotStarted();
     }

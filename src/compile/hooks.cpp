@@ -1,18 +1,12 @@
 #include "compile/hooks.h"
 
-#include "codegen/generate.h"
 #include "compile/navigation.h"
-
-static void generateQuietly() {
-    GeneratedText generated;
-    if (generateSource(sourcePath(), project.sourceName, &generated)) noteGenerated(std::move(generated));
-}
 
 BuildHooks buildHooks = {
     .selectorTool = [] {},
     .saveFirst = [] { return false; },
     .saveProject = [] { return false; },
-    .generateSource = generateQuietly,
+    .generateSource = [] { generateNoted(); },
     .commitEditor = [] {},
     .clearLog = [] {},
     .logFont = [] {},

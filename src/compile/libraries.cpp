@@ -76,7 +76,7 @@ std::string installedLibraries(const CommandScene& scene) {
         std::string path = "\"" + escapedForQuotes(folder) + "\"";
         words.append(" -L").append(path).append(" -Xlinker -rpath -Xlinker ").append(path);
     }
-    if (scene.language != 99) {
+    if (languageFacts(scene.language).family == LanguageFamily::Fortran) {
         bool dbl = doublePrecision(scene.profile, scene.compilerSwitches) && scene.toolkit.fortranDouble;
         words += dbl ? " -lorbawidg_fd" : " -lorbawidg_f";
     }

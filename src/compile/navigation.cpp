@@ -7,8 +7,10 @@
 #include "compile/markers_search.h"
 #include "platform/letters.h"
 #include "platform/text_files.h"
+#include "project/busy_cursor.h"
 #include "project/code_stores.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "project/records.h"
 #include "project/tree.h"
 
@@ -156,19 +158,25 @@ int characterColumn(std::string_view line, int told, bool asShown) {
 void showPosition(MessagePosition position, int compilerProfile) {
     if (position.line < 1) return;
     if (position.column > 0 && compilerOf(compilerProfile).ofThisSystem) {
-        bool asShown = project.projectLanguage == 99;
+        bool asShown = languageOfProject().family == LanguageFamily::C;
         position.column = characterColumn(sourceLine(position.line), position.column, asShown);
     }
     buildHooks.commitEditor();
-    host.busyCursor(true);
+    const BusyCursor busy;
     CodeLocation location = findLocation(position.line, position.column);
     if (location.place != CodePlace::none) buildHooks.showLocation(location);
-    host.busyCursor(false);
 }
 
 } // namespace
 
 void noteGenerated(GeneratedText generated) { noted = std::move(generated); }
+
+bool generateNoted() {
+    GeneratedText generated;
+    if (!generateSource(sourcePath(), project.sourceName, &generated)) return false;
+    noteGenerated(std::move(generated));
+    return true;
+}
 
 void loadBuildSource(const std::string& sourcePath) {
     source = {};

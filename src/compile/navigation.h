@@ -21,6 +21,9 @@ MessagePosition logPosition(const std::vector<std::string>& lines, int entry, in
 // Remembers the map of a generation, for the builds that follow.
 void noteGenerated(GeneratedText generated);
 
+// Generates the source of the open project to its file and remembers the map. False after a box.
+bool generateNoted();
+
 // Loads the source of a build and finds out where code stands in it: from the map that was noted last, or from one of
 // a generation in memory, if that text is the file's, the date of its header aside. Without a map the markers do.
 void loadBuildSource(const std::string& sourcePath);

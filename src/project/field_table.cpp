@@ -1,5 +1,8 @@
 #include "project/field_table.h"
 
+#include <iterator>
+#include <string_view>
+
 namespace {
 
 using W = WidgetNode;
@@ -106,7 +109,13 @@ constexpr FieldRow table[] = {
     {.kind = FIELD_TAB_LIST, .name = "tabList", .number = &W::tabList, .since = VERSION_70},
 };
 // clang-format on
-static_assert(std::size(table) == 85); // 84 fields and the strayed one
+constexpr bool namesDiffer() {
+    for (const FieldRow& row : table)
+        for (const FieldRow* other = &row + 1; other != std::end(table); ++other)
+            if (std::string_view(row.name) == other->name) return false;
+    return true;
+}
+static_assert(std::size(table) == 85 && namesDiffer()); // 84 fields and the strayed one
 
 } // namespace
 

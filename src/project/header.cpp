@@ -69,11 +69,10 @@ void readTriples(FileReader& reader, int below) {
 } // namespace
 
 std::string headerString() {
-    const char* language = project.projectLanguage == 90 ? "F90" : project.projectLanguage == 77 ? "F77" : "C";
     // The mark of software buffering names no platform, so only a Windows project may bear it.
     const bool software = project.projectPlatform == 'w' && project.doubleBuffering != 1;
     const char platform = software ? 's' : project.projectPlatform;
-    return std::string("ORBAWIDGDESIGNV8.0-") + language + "-" + platform;
+    return std::string("ORBAWIDGDESIGNV8.0-") + languageOfProject().word + "-" + platform;
 }
 
 FileHeader readHeader(FileReader& reader) {
@@ -87,7 +86,7 @@ FileHeader readHeader(FileReader& reader) {
     if (holds(header.text, "-x")) header.platform = 'x';
     if (holds(header.text, "-g")) header.platform = 'g';
     if (holds(header.text, "-s")) header.platform = 'w';
-    header.language = holds(header.text, "-F90") ? 90 : holds(header.text, "-F77") ? 77 : 99;
+    header.language = languageOfHead(header.text.c_str());
     return header;
 }
 

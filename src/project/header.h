@@ -1,15 +1,16 @@
 // The 100 bytes that open a file: which version it is, and of which kind of project.
 #pragma once
 
+#include "project/language.h"
 #include "project/stream.h"
 
 #include <string>
 
 struct FileHeader {
-    std::string text;    // up to the first NUL
-    int version = 0;     // times ten; 0 when none is known
-    char platform = 'w'; // 'w', 'x' or 'g'
-    int language = 99;   // 77, 90 or 99
+    std::string text;          // up to the first NUL
+    int version = 0;           // times ten; 0 when none is known
+    char platform = 'w';       // 'w', 'x' or 'g'
+    int language = LANGUAGE_C; // a LanguageNumber
 };
 
 // A header that is not wholly there is empty.

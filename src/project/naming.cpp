@@ -1,5 +1,6 @@
 #include "project/naming.h"
 
+#include "project/language.h"
 #include "project/widget_types.h"
 
 #include <algorithm>
@@ -7,11 +8,9 @@
 
 namespace {
 
-constexpr int C_LANGUAGE = 99;
-
 std::string keyOf(std::string_view name) {
     std::string key(name);
-    if (project.projectLanguage != C_LANGUAGE)
+    if (!languageOfProject().caseMatters)
         for (char& c : key) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return key;
 }

@@ -1,6 +1,7 @@
 // Project files, read and written in one order.
 #include "platform/file_times.h"
 #include "platform/paths.h"
+#include "project/busy_cursor.h"
 #include "project/code_stores.h"
 #include "project/colours.h"
 #include "project/defaults.h"
@@ -258,17 +259,17 @@ bool overDamagedFile(const std::string& path) { return sameFile(project.damagedF
 bool loadProject(const std::string& folder, const std::string& givenName) {
     const std::string name = givenName.find('.') == std::string::npos ? givenName + ".wdp" : givenName;
     const std::string path = joinPath(folder, name);
-    host.busyCursor(true);
+    BusyCursor busy;
     FileReader reader;
     if (!openReader(reader, path)) {
-        host.busyCursor(false);
+        busy.end();
         host.errorBox("Error opening file", "Cannot open Project file :" + name);
         return false;
     }
     const FileHeader header = readHeader(reader);
     if (header.version == 0) {
         closeReader(reader);
-        host.busyCursor(false);
+        busy.end();
         reportUnknownHeader(header, " v8.5");
         return false;
     }
@@ -285,7 +286,7 @@ bool loadProject(const std::string& folder, const std::string& givenName) {
     project.projectTitle = titleOf(name);
     project.projectModified = changed ? 1 : 0;
     project.storedSource = project.sourceName.empty() ? "" : joinPath(project.sourceDir, project.sourceName);
-    host.busyCursor(false);
+    busy.end();
     if (reader.damaged) {
         project.damagedFile = path;
         reportIncomplete(path);
@@ -301,7 +302,7 @@ void mendLoadedProject() {
 
 bool saveProject(const std::string& folder, const std::string& name, bool quiet) {
     host.commitEditor();
-    host.busyCursor(true);
+    BusyCursor busy;
     const std::string path = joinPath(folder, name);
     if (project.projectModified) project.missingSource.stale = 1;
     FileWriter writer;
@@ -317,7 +318,7 @@ bool saveProject(const std::string& folder, const std::string& name, bool quiet)
         writeTail(writer);
         saved = closeWriter(writer, overDamagedFile(path));
     }
-    host.busyCursor(false);
+    busy.end();
     if (!saved) {
         reportSaveFailed(writer);
         return false;

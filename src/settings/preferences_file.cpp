@@ -44,7 +44,13 @@ static constexpr PreferenceField FIELDS[] = {
     {FIELD_NUMBER, &Preferences::tabSpaces, 0, WIDEST_INDENT},
     {FIELD_NUMBER, &Preferences::replaceTab},
 };
-static_assert(sizeof FIELDS / sizeof *FIELDS == 16);
+static constexpr bool eachStandsOnce() {
+    for (const PreferenceField& field : FIELDS)
+        for (const PreferenceField* other = &field + 1; other != std::end(FIELDS); ++other)
+            if (field.number == other->number) return false;
+    return true;
+}
+static_assert(std::size(FIELDS) == 16 && eachStandsOnce());
 
 static bool printable(const std::string& text) {
     return std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; });

@@ -8,6 +8,7 @@
 #include "platform/environment.h"
 #include "platform/paths.h"
 #include "project/files.h"
+#include "project/language.h"
 
 #include <cstdio>
 
@@ -53,8 +54,7 @@ Options parse(const std::vector<std::string>& words) {
 std::string ownSource() {
     const std::string& stored = project.storedSource;
     if (!stored.empty() && (folderOf(stored).empty() || folderExists(folderOf(stored)))) return stored;
-    return joinPath(std::string_view(project.projectDir),
-                    project.projectTitle + sourceExtension(project.projectLanguage));
+    return joinPath(std::string_view(project.projectDir), project.projectTitle + languageOfProject().extension);
 }
 
 int printSource(const std::string& path) {

@@ -10,6 +10,7 @@
 #include "platform/text_files.h"
 #include "project/code_stores.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "project/preferences.h"
 #include "project/tree.h"
 
@@ -249,8 +250,8 @@ TEST_F(Driver, KindAndFilesFollowTheLanguage) {
         project.projectLanguage = c.language;
         project.projectPlatform = c.platform;
         EXPECT_EQ(projectKind(), c.kind);
-        EXPECT_STREQ(sourceExtension(c.language), c.extension);
-        EXPECT_EQ(std::string(sourceFilter(c.language)).rfind("*" + std::string(c.extension) + "|", 0), 0U);
+        EXPECT_STREQ(languageFacts(c.language).extension, c.extension);
+        EXPECT_EQ(std::string(languageFacts(c.language).filter).rfind("*" + std::string(c.extension) + "|", 0), 0U);
     }
     EXPECT_EQ(basePath("/home/me.too/prog"), "/home/me.too/prog");
     EXPECT_EQ(basePath("C:\\a\\prog.x.f90"), "C:\\a\\prog.x");

@@ -7,6 +7,7 @@
 
 #include "codegen/generate.h"
 #include "project/files.h"
+#include "project/language.h"
 #include "project/records.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +35,7 @@ std::string fileText(const fs::path& path) {
 
 int languageOfExtension(const std::string& extension) {
     for (const int language : {77, 90, 99}) {
-        if (extension == sourceExtension(language)) return language;
+        if (extension == languageFacts(language).extension) return language;
     }
     return 0;
 }

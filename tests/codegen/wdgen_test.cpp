@@ -8,6 +8,7 @@
 #include "platform/text_files.h"
 #include "project/files.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "project/tree.h"
 
 #include <gtest/gtest.h>
@@ -62,7 +63,7 @@ TEST_F(Wdgen, WritesWhatTheDesignerWrites) {
         save(language, SCRIPT);
         GeneratedText generated;
         ASSERT_TRUE(generateText("tool", generated));
-        const std::string source = "tool" + std::string(sourceExtension(language));
+        const std::string source = "tool" + std::string(languageFacts(language).extension);
         ASSERT_EQ(run("tool.wdp"), 0) << errors;
         EXPECT_EQ(body(contents(path(source))), body(generated.text));
         EXPECT_EQ(errors, "");

@@ -8,6 +8,7 @@
 
 #include "codegen/generate.h"
 #include "project/code_stores.h"
+#include "project/language.h"
 #include "project/tree.h"
 
 #include <gmock/gmock.h>
@@ -65,7 +66,7 @@ struct NavigationTest : BuildRoom, testing::WithParamInterface<int> {
         setenv("PATH", "/usr/bin:/bin", 1);
         project.projectLanguage = GetParam();
         project.sourceDir = work;
-        project.sourceName = std::string("app") + sourceExtension(GetParam());
+        project.sourceName = std::string("app") + languageFacts(GetParam()).extension;
         compiler.profile = COMPILER_GNU;
         WidgetNode* first = newForm();
         renameNode(*first, "Form1");

@@ -31,7 +31,8 @@ constexpr BuildStep C_STEPS[] = {
     {StepKind::link, R"(g++ "{base}.o"{objs}{objects}{files} -o "{exe}"{libraries}{lflags})"},
 };
 
-constexpr LanguageSteps STEPS[] = {{90, FORTRAN_90_STEPS}, {77, FORTRAN_77_STEPS}, {99, C_STEPS}};
+constexpr LanguageSteps STEPS[] = {
+    {LANGUAGE_F90, FORTRAN_90_STEPS}, {LANGUAGE_F77, FORTRAN_77_STEPS}, {LANGUAGE_C, C_STEPS}};
 
 } // namespace
 
