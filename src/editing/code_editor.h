@@ -5,10 +5,6 @@
 
 #include <string>
 
-// Fills the docking pane of handle `pane` and joins the editor to the hooks. Once, at start-up.
-void buildCodeEditor(int pane);
-int codeText(); // handle of the text widget
-
 void refreshBlockList();
 void loadWidgetSlots(WidgetNode& widget);
 void showCurrentBlock();
@@ -19,26 +15,12 @@ void forgetCode(); // before a project is replaced: working copies go
 void showCode(const std::string& blockName, WidgetNode* widget, int line,
               int column); // brings up a place in the code; line from 1, column 0 for the whole line
 
-// The same for a slot, by its name in the list of blocks, of the menu or tree entry `entryName` of `owner`.
-void showEntryCode(WidgetNode* owner, const std::string& entryName, const std::string& slotName, int line, int column);
+void showBoundCode();                 // the text of the shown name, its remembered selection, line and column
+void rememberCaret();                 // of the shown name
+void showPlace(int line, int column); // brings up the editor with that line selected, or the caret in its column
 
-// Brings a name of the lists up to date.
-void nameAdded(const std::string& name);
-void nameRemoved(const std::string& name);
-void nameChanged(const std::string& from, const std::string& to);
-void clearNames();
-
-// Handlers of the events of the editor's widgets.
-void blockChosenCommand();     // CMD_CODE_BLOCK
-void widgetChosenCommand();    // CMD_WIDGET_LIST
-void selectorTabCommand();     // CMD_SELECTOR_TABS
-void menuEntryChosenCommand(); // CMD_MENU_ENTRY_LIST
-void treeEntryChosenCommand(); // CMD_TREE_ENTRY_LIST
-void codeChangedCommand();     // CMD_CODE_CHANGED
-void caretMovedCommand();      // CMD_CODE_SELECT
-void clearCodeCommand();       // CMD_CLEAR_CODE
-void clearAllCodeCommand();    // CMD_CLEAR_ALL_CODE
-void insertFileCommand();      // CMD_INSERT_FILE
-void printCodeCommand();       // CMD_PRINT_CODE
-void commitCommand();          // CMD_COMMIT_CODE
-void codeHelpCommand();        // CMD_CODE_HELP
+// Handlers of commands.
+void blockChosenCommand();  // CMD_CODE_BLOCK
+void clearCodeCommand();    // CMD_CLEAR_CODE
+void clearAllCodeCommand(); // CMD_CLEAR_ALL_CODE
+void commitCommand();       // CMD_COMMIT_CODE

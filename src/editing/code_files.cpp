@@ -1,13 +1,12 @@
-// Files and the outside: inserting a file, printing, help on the word under the caret.
-#include "editing/code_editor.h"
+#include "editing/code_files.h"
 
-#include "codegen/generate.h"
 #include "editing/editor_window.h"
 #include "editing/help_file.h"
-#include "editing/text_commands.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
+#include "platform/paths.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "surface/hooks.h"
 
 #include <algorithm>
@@ -66,10 +65,9 @@ void insertFileCommand() {
     const TextRange range = selectionOf(editor.text);
     std::string name;
     if (insertFolder.empty()) insertFolder = project.projectDir;
-    if (!host.fileDialogue("Insert File", sourceFilter(project.projectLanguage), false, insertFolder, name) ||
-        name.empty())
+    if (!host.fileDialogue("Insert File", languageOfProject().filter, false, insertFolder, name) || name.empty())
         return select(editor.text, range);
-    const std::string path = insertFolder.empty() ? name : insertFolder + "/" + name;
+    const std::string path = joinPath(insertFolder, name);
     if (!owGetTextFromFile(editor.hiddenText, path.c_str(), 0)) {
         host.errorBox("Error opening file", "File could not be opened");
         return select(editor.text, range);

@@ -1,8 +1,7 @@
-// The lists of the code editor's selector: all widgets, the entries of a menu, the entries of a tree view.
-#include "editing/code_editor.h"
+#include "editing/code_lists.h"
 
+#include "editing/code_editor.h"
 #include "editing/editor_window.h"
-#include "editing/modes.h"
 #include "menu-c.h"
 #include "project/code_stores.h"
 #include "project/tree.h"
@@ -20,18 +19,12 @@ namespace {
 
 std::vector<std::string> names; // rows of the list of widgets
 
-std::string chosenRow(int list) {
-    char row[NAME_LIMIT + 1] = "";
-    owEnqListEntry(list, 0, row, sizeof row);
-    return row;
-}
-
 int fillEntryList(int list, const WidgetNode& owner) {
     owSetListEntry(list, OCLEAR, 0);
     int rows = 0;
     for (const MenuEntryRec* entry = owner.entries; entry; entry = entry->next) {
         if (entry->kind != MENU_ENTRY || entry->name.empty()) continue;
-        owSetListEntry(list, OADD, owString, entry->name.c_str(), 0);
+        addRow(list, entry->name.c_str());
         ++rows;
     }
     return rows;
@@ -46,9 +39,9 @@ WidgetNode* firstFormWithMenu() {
 // Rows of the slots of an entry instead of a widget's.
 void showEntrySlots(const WidgetNode& owner) {
     refreshBlockList();
-    owSetListEntry(editor.blockList, OADD, owString, SLOT_SEPARATOR_ROW, 0);
+    addRow(editor.blockList, SLOT_SEPARATOR_ROW);
     for (const EntrySlot slot : offeredEntrySlots(owner))
-        owSetListEntry(editor.blockList, OADD, owString, slotTable[entrySlotKinds[slot]].name, 0);
+        addRow(editor.blockList, slotTable[entrySlotKinds[slot]].name);
 }
 
 // Shows the General slot of an entry of the copy; nothing changes for a name that is none.
@@ -104,7 +97,7 @@ void showEntryCode(WidgetNode* owner, const std::string& entryName, const std::s
 void nameAdded(const std::string& name) {
     if (!editor.widgetList || std::ranges::find(names, name) != names.end()) return;
     names.push_back(name);
-    owSetListEntry(editor.widgetList, OADD, owString, name.c_str(), 0);
+    addRow(editor.widgetList, name.c_str());
 }
 
 void nameRemoved(const std::string& name) {

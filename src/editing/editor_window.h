@@ -1,6 +1,8 @@
 // The widgets of the code editor, for the files of this room.
 #pragma once
 
+#include <string>
+
 struct EditorWindow {
     int pane = 0;
     int text = 0;
@@ -16,10 +18,13 @@ struct EditorWindow {
 
 extern EditorWindow editor;
 
-// The names of the lists, as they stand in them.
-void fillList(int list, const char* const* begin, const char* const* end);
-void selectInList(int list, const char* name);
+int codeText(); // handle of the text widget
 
-void showBoundCode();                 // the text of the shown name, its remembered selection, line and column
-void rememberCaret();                 // of the shown name
-void showPlace(int line, int column); // brings up the editor with that line selected, or the caret in its column
+// Rows of the lists by what stands in them.
+void addRow(int list, const char* text);
+void selectInList(int list, const char* name);
+std::string chosenRow(int list); // empty for none
+
+// The code's font and colours anew. With `marks` the text counts as changed, or as unchanged for modifiedValue 0.
+void refreshFont(bool marks, int modifiedValue);
+void showLineColumn(int position); // into the status bar

@@ -1,6 +1,6 @@
 #include "editing/modes.h"
 
-#include "editing/code_editor.h"
+#include "editing/editor_window.h"
 #include "menu-c.h"
 #include "surface/commands.h"
 #include "surface/hooks.h"

@@ -1,16 +1,15 @@
 #include "editing/rename.h"
 
 #include "project/host.h"
+#include "project/language.h"
 #include "project/tree.h"
 
 #include <cctype>
 
 namespace {
 
-constexpr int C_LANGUAGE = 99;
-
 bool sameLetter(char a, char b) {
-    if (project.projectLanguage == C_LANGUAGE) return a == b;
+    if (languageOfProject().caseMatters) return a == b;
     return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
 }
 

@@ -1,9 +1,10 @@
 #include "editing/source_viewer.h"
 
-#include "editing/code_editor.h"
+#include "codegen/generate.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "project/preferences.h"
 #include "surface/commands.h"
 #include "surface/event.h"
@@ -52,10 +53,6 @@ const ViewerMenu MENUS[] = {
 
 constexpr int KEY_CTRL_A = 1, KEY_CTRL_C = 3, KEY_CTRL_F = 6, KEY_F3 = OKEYF1 + 2;
 
-std::string sourcePath() {
-    return project.sourceDir.empty() ? project.sourceName : project.sourceDir + "/" + project.sourceName;
-}
-
 // Brings the file up to date as far as the user wishes; false when the command ends here.
 bool prepareSource() {
     hooks.commitEditor();
@@ -99,8 +96,8 @@ void makeFoot(int width) {
 
 void dressText() {
     owSetFontAttribs(viewer.text, owFontFace, "Courier New", owPointSize, preferences.codePointSize, 0);
-    const int language = project.projectLanguage == 77 ? 1 : project.projectLanguage == 90 ? 2 : 3;
-    if (preferences.syntaxColours) owSetSyntaxHighlighting(viewer.text, 1, owLanguage, language, 0);
+    if (preferences.syntaxColours)
+        owSetSyntaxHighlighting(viewer.text, 1, owLanguage, languageOfProject().syntaxLanguage, 0);
 }
 
 void showPosition() {

@@ -1,6 +1,5 @@
 #include "editing/text_commands.h"
 
-#include "editing/code_editor.h"
 #include "editing/editor_window.h"
 #include "editing/modes.h"
 #include "editing/text_view.h"
@@ -18,20 +17,11 @@
 
 namespace {
 
-constexpr char CODE_FONT[] = "Courier New";
 constexpr char COMMENT = '!'; // in all languages of a project
 
 void markModified() {
     codeEditing.codeModified = true;
     project.projectModified = 1;
-}
-
-int syntaxLanguage() {
-    switch (project.projectLanguage) {
-    case 77: return 1;
-    case 90: return 2;
-    default: return 3;
-    }
 }
 
 std::string expandTabs(const std::string& line) {
@@ -128,31 +118,6 @@ void textNotification(bool changed) {
 }
 
 } // namespace
-
-void refreshFont(bool marks, int modifiedValue) {
-    const int text = editor.text;
-    if (preferences.syntaxColours) {
-        owSetSyntaxHighlighting(text, 1, owLanguage, syntaxLanguage(), 0);
-        owSetFontAttribs(text, owFontFace, CODE_FONT, owPointSize, preferences.codePointSize, 0);
-    } else {
-        const TextRange range = selectionOf(text);
-        owSetSyntaxHighlighting(text, 0, 0);
-        select(text, {1, -1});
-        owSetFontAttribs(text, owFontFace, CODE_FONT, owPointSize, preferences.codePointSize, 0);
-        select(text, range);
-    }
-    owDefineChangeCallback(text, CMD_CODE_CHANGED);
-    owTextUndoAction(text, ORESETUNDO);
-    if (!marks) return;
-    codeEditing.codeModified = modifiedValue != 0;
-    if (modifiedValue) project.projectModified = 1;
-}
-
-void showLineColumn(int position) {
-    hooks.statusText(PANE_LINE, "Line: " + std::to_string(lineOf(editor.text, position)));
-    const int start = lineStart(editor.text, lineOf(editor.text, position) - 1);
-    hooks.statusText(PANE_COLUMN, "Column: " + std::to_string(position - std::max(start, 1) + 1));
-}
 
 void codeChangedCommand() { textNotification(action.status == 1); }
 

@@ -1,9 +1,6 @@
 // Commands on the text of the code editor.
 #pragma once
 
-void refreshFont(bool markModified, int modifiedValue);
-void showLineColumn(int position); // into the status bar
-
 void indentCommand();     // CMD_INDENT
 void unindentCommand();   // CMD_UNINDENT
 void commentCommand();    // CMD_COMMENT
@@ -17,3 +14,6 @@ void textPasteCommand();  // CMD_TEXT_PASTE
 void textDeleteCommand(); // CMD_TEXT_DELETE
 void textUndoCommand();   // CMD_TEXT_UNDO
 void textRedoCommand();   // CMD_TEXT_REDO
+
+void codeChangedCommand(); // CMD_CODE_CHANGED
+void caretMovedCommand();  // CMD_CODE_SELECT

@@ -5,15 +5,16 @@
 #include "compile/execute.h"
 #include "compile/hooks.h"
 #include "compile/log.h"
-#include "codegen/generate.h"
 #include "editing/code_editor.h"
+#include "editing/code_lists.h"
+#include "editing/editor_window.h"
 #include "menu-c.h"
 #include "project/host.h"
 #include "project/preferences.h"
 #include "shell/command_states.h"
 #include "shell/commands.h"
 #include "shell/environment.h"
-#include "shell/project_commands.h"
+#include "shell/saving.h"
 #include "shell/window_control.h"
 #include "surface/hooks.h"
 #include "surface/selection.h"
@@ -25,56 +26,14 @@ static int logList = 0;
 
 // ---- Generating -----------------------------------------------------------------------------------------------
 
-// Asks for the source file. While there is none, the project's own name and folder are the proposal.
-static bool askSourceFile() {
-    const std::string oldName = project.sourceName, oldFolder = project.sourceDir;
-    if (project.sourceName.empty()) project.sourceName = project.projectTitle;
-    if (project.sourceDir.empty()) project.sourceDir = project.projectDir;
-    if (chooseSourceFile()) return true;
-    project.sourceName = oldName;
-    project.sourceDir = oldFolder;
-    return false;
-}
-
-// A source that was chosen now belongs to the project. One that was saved a moment ago is saved again with it.
-static void keepChosenSource() {
-    const bool saving = preferences.generateSavesProject || preferences.saveGeneratesCode;
-    if (project.projectModified) return;
-    if (project.projectName.empty() || !saving || !saveOpenProject()) project.projectModified = 1;
-}
-
-static bool generateTo(const std::string& before) {
-    const std::string path = sourcePath();
-    if (!generateSource(path, project.sourceName)) return false;
-    if (path != before) keepChosenSource();
-    showProjectTitle();
-    enableExecute(false); // there is no program of this source yet
-    return true;
-}
-
-bool generateKnownSource() {
-    commitEditor();
-    const std::string before = sourcePath();
-    if (project.sourceName.empty() && !askSourceFile()) return false;
-    return generateTo(before);
-}
-
 void generateCommand() {
     selectTool(TOOL_SELECTOR);
     commitEditor();
     if (preferences.generateSavesProject) saveOpenProject();
-    const std::string before = sourcePath();
-    if (askSourceFile()) generateTo(before);
+    generateToChosenSource();
 }
 
 // ---- Building and running -------------------------------------------------------------------------------------
-
-void enableCompile(bool enabled) {
-    setCommandStatus(CMD_COMPILE, enabled);
-    setCommandStatus(CMD_REBUILD, enabled);
-}
-
-void enableExecute(bool enabled) { setCommandStatus(CMD_EXECUTE, enabled); }
 
 void compileAndRunCommand() { compileCommand(false); }
 void rebuildCommand() { compileCommand(true); }

@@ -203,3 +203,10 @@ void setInputMode(bool text) {
 }
 
 bool textModeInForce() { return textMode; }
+
+void enableCompile(bool enabled) {
+    setCommandStatus(CMD_COMPILE, enabled);
+    setCommandStatus(CMD_REBUILD, enabled);
+}
+
+void enableExecute(bool enabled) { setCommandStatus(CMD_EXECUTE, enabled); }

@@ -31,3 +31,7 @@ void showPreferenceLabels();
 // holds.
 void setInputMode(bool text);
 bool textModeInForce();
+
+// Compile goes with Rebuild All; the keys F5 and F6 follow.
+void enableCompile(bool enabled);
+void enableExecute(bool enabled);

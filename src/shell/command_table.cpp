@@ -1,5 +1,7 @@
 #include "compile/execute.h"
 #include "editing/code_editor.h"
+#include "editing/code_files.h"
+#include "editing/code_lists.h"
 #include "editing/name_chooser.h"
 #include "editing/source_viewer.h"
 #include "editing/text_commands.h"

@@ -5,6 +5,7 @@
 #include "platform/environment.h"
 #include "platform/paths.h"
 #include "project/host.h"
+#include "project/language.h"
 #include "project/tree.h"
 #include "properties/sheet.h"
 #include "shell/commands.h"
@@ -97,7 +98,7 @@ void helpTopicsCommand() {
     for (const HelpLibrary& library : HELP_LIBRARIES) {
         if (library.command != currentCommand()) continue;
         const std::string stem = std::string(library.stem) + HELP_VERSION;
-        const bool fixedForm = project.projectLanguage == 77 && library.fixedFormFile;
+        const bool fixedForm = languageOfProject().shortNames && library.fixedFormFile;
         if (!showHelpFile(fixedForm ? library.fixedFormFile : stem + ".chm", stem))
             host.errorBox("Error opening help file", library.missing);
     }

@@ -3,7 +3,6 @@
 #include "compile/catalogue.h"
 #include "compile/execute.h"
 #include "compile/log.h"
-#include "codegen/generate.h"
 #include "editing/code_editor.h"
 #include "editing/modes.h"
 #include "menu-c.h"
@@ -13,11 +12,10 @@
 #include "project/preferences.h"
 #include "project/tree.h"
 #include "settings/recent_projects.h"
-#include "shell/build_commands.h"
 #include "shell/command_states.h"
 #include "shell/commands.h"
-#include "shell/environment.h"
 #include "shell/menus.h"
+#include "shell/saving.h"
 #include "shell/window_control.h"
 #include "surface/live.h"
 #include "surface/selection.h"
@@ -28,80 +26,7 @@ static FilePlace formFile;
 
 void forgetFormFile() { formFile.name.clear(); }
 
-void showProjectTitle() {
-    std::string title = environment.mainTitle;
-    const std::string& name = project.projectName.empty() ? project.projectTitle : project.projectName;
-    if (!name.empty()) title += " - [" + name + " - " + projectKind() + "]";
-    owSetWidgetProp(MASTER_WINDOW, owTitle, title.c_str(), 0);
-}
-
 // ---- Saving ---------------------------------------------------------------------------------------------------
-
-static bool saveTo(const std::string& folder, const std::string& name) {
-    if (!saveProject(folder, name, false)) return false;
-    showProjectTitle();
-    addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));
-    return true;
-}
-
-// What makes a project the owner of its source and program.
-struct ProjectSource {
-    std::string folder, name;
-    MissingSource missing;
-    int stale;
-    std::int64_t exeTime;
-};
-
-static ProjectSource sourceOfProject() {
-    return {project.sourceDir, project.sourceName, project.missingSource, project.sourceStale, project.exeTime};
-}
-
-static void restoreSource(const ProjectSource& source) {
-    project.sourceDir = source.folder;
-    project.sourceName = source.name;
-    project.missingSource = source.missing;
-    project.sourceStale = source.stale;
-    project.exeTime = source.exeTime;
-}
-
-static bool chooseProjectName(bool asksOverwrite, FilePlace& place) {
-    place.folder = project.projectDir.empty() ? currentFolder() : project.projectDir;
-    place.name = project.projectTitle;
-    return chooseSaveFile("Save Project As", ".wdp", asksOverwrite, place.folder, place.name);
-}
-
-static bool saveUnderChosenName() {
-    FilePlace place;
-    if (!chooseProjectName(true, place)) return false;
-    const std::string old = joinPath(project.projectDir, project.projectName);
-    if (project.projectName.empty() || absolutePath(old) == absolutePath(joinPath(place.folder, place.name)))
-        return saveTo(place.folder, place.name);
-    const ProjectSource before = sourceOfProject();
-    startAnotherProject();
-    if (!saveTo(place.folder, place.name)) {
-        restoreSource(before);
-        return false;
-    }
-    enableExecute(false);
-    return true;
-}
-
-bool saveOpenProject() {
-    if (project.projectName.empty()) return saveUnderChosenName();
-    return saveTo(project.projectDir, project.projectName);
-}
-
-bool saveQuestion(const char* title, bool asksOverwrite) {
-    if (!project.projectModified) return true;
-    switch (host.messageBox(title, "Do you wish to save the current project first?", BOX_QUESTION, BOX_YES_NO_CANCEL)) {
-    case ANSWER_NO: return true;
-    case ANSWER_YES: break;
-    default: return false;
-    }
-    if (!project.projectName.empty()) return saveTo(project.projectDir, project.projectName);
-    FilePlace place;
-    return chooseProjectName(asksOverwrite, place) && saveTo(place.folder, place.name);
-}
 
 static void saved(bool success) {
     if (success && preferences.saveGeneratesCode) generateKnownSource();

@@ -1,32 +1,22 @@
 // Projects and forms as files: new, open, save, the question before one is left, the backup, the exit.
 #pragma once
 
+#include "shell/saving.h"
+
 #include <string>
-
-// Asks whether to save a changed project first, in a box of that title. False when the caller must stop: the user
-// cancelled, or a save failed. `asksOverwrite`: a name chosen for an untitled project is asked about when it exists.
-bool saveQuestion(const char* title, bool asksOverwrite);
-
-// Saves under the remembered name, or asks for one. False when cancelled or failed.
-bool saveOpenProject();
 
 // Reads a project in place of the open one and shows it. False after a box; the open project then stays.
 bool openProjectFile(const std::string& folder, const std::string& name);
 
 // Folder and file name of a command line: one name, perhaps between double quotes, with either kind of slash.
-struct FilePlace {
-    std::string folder;
-    std::string name; // empty: none
-};
 FilePlace placeFromCommandLine(const std::string& commandLine);
 
 // Throws the open project away and begins one with "Form1", in the language, platform and grid in force.
 void startNewProject();
 
-void showProjectTitle(); // in the title bar
-void closeProject();     // at the end of the program: live forms and records go
-void startAutoBackup();  // with the period of the preferences, or stops it
-void forgetFormFile();   // the next Save Form asks for a name
+void closeProject();    // at the end of the program: live forms and records go
+void startAutoBackup(); // with the period of the preferences, or stops it
+void forgetFormFile();  // the next Save Form asks for a name
 
 void newProjectCommand();    // CMD_NEW_PROJECT
 void openProjectCommand();   // CMD_OPEN_PROJECT

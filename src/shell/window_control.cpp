@@ -1,5 +1,6 @@
 #include "shell/window_control.h"
 
+#include "editing/build_editor.h"
 #include "editing/code_editor.h"
 #include "editing/modes.h"
 #include "menu-c.h"

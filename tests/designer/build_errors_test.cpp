@@ -3,6 +3,7 @@
 #include "compile/log.h"
 #include "compile/toolkit_places.h"
 #include "editing/code_editor.h"
+#include "editing/editor_window.h"
 #include "editing/text_view.h"
 #include "platform/paths.h"
 #include "project/code_stores.h"

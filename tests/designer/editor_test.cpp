@@ -2,6 +2,7 @@
 #include "desk.h"
 
 #include "editing/code_editor.h"
+#include "editing/code_lists.h"
 #include "editing/editor_window.h"
 #include "editing/modes.h"
 #include "editing/text_view.h"

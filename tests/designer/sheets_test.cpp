@@ -117,6 +117,11 @@ protected:
     }
 };
 
+TEST(PropertyRows, StandAtTheirIdentifiers) {
+    for (int id = 0; id < ROW_COUNT; ++id)
+        EXPECT_EQ(propertyRow(static_cast<RowId>(id)).id, id) << propertyRow(static_cast<RowId>(id)).label;
+}
+
 TEST_P(SheetOf, HasTheRowsThatAreKept) {
     const fs::path path = SHEETS / (std::to_string(GetParam()) + ".txt");
     const std::string shown = sheetText(GetParam());

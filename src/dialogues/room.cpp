@@ -1,1 +1,0 @@
-// The first file of this room goes here.

@@ -1,0 +1,20 @@
+// The lists of the code editor's selector: all widgets, the entries of a menu, the entries of a tree view.
+#pragma once
+
+#include "project/records.h"
+
+#include <string>
+
+// Brings up a place in a slot, by its name in the list of blocks, of the menu or tree entry `entryName` of `owner`.
+void showEntryCode(WidgetNode* owner, const std::string& entryName, const std::string& slotName, int line, int column);
+
+// Brings a name of the list of widgets up to date.
+void nameAdded(const std::string& name);
+void nameRemoved(const std::string& name);
+void nameChanged(const std::string& from, const std::string& to);
+void clearNames();
+
+void widgetChosenCommand();    // CMD_WIDGET_LIST
+void selectorTabCommand();     // CMD_SELECTOR_TABS
+void menuEntryChosenCommand(); // CMD_MENU_ENTRY_LIST
+void treeEntryChosenCommand(); // CMD_TREE_ENTRY_LIST
