@@ -44,11 +44,11 @@ const ViewerMenu MENUS[] = {
       {"Find|Ctrl+F", CMD_VIEWER_FIND},
       {"Find Next|F3", CMD_VIEWER_FIND_NEXT}}},
     {"Help",
-     {{"ORBAWIDG Designer Help Topics", 15225},
-      {"ORBAWIDG Help Topics", 15056},
-      {"ORBA Help Topics", 15085},
-      {"ORBAPLOT Help Topics", 15086},
-      {"ORBAMESH Help Topics", 15087}}},
+     {{"ORBAWIDG Designer Help Topics", CMD_HELP_DESIGNER},
+      {"ORBAWIDG Help Topics", CMD_HELP_TOOLKIT},
+      {"ORBA Help Topics", CMD_HELP_BASE},
+      {"ORBAPLOT Help Topics", CMD_HELP_PLOT},
+      {"ORBAMESH Help Topics", CMD_HELP_MESH}}},
 };
 
 constexpr int KEY_CTRL_A = 1, KEY_CTRL_C = 3, KEY_CTRL_F = 6, KEY_F3 = OKEYF1 + 2;

@@ -11,32 +11,6 @@
 
 namespace {
 
-enum Tool : int {
-    TOOL_PUSH_BUTTON = 17001,
-    TOOL_CHECK_BOX,
-    TOOL_LIST_BOX,
-    TOOL_SLIDER,
-    TOOL_TEXT_ENTRY,
-    TOOL_VALUE_ENTRY,
-    TOOL_ICON,
-    TOOL_TEXT_LABEL,
-    TOOL_VALUE_LABEL,
-    TOOL_PANEL,
-    TOOL_COMBO_BOX,
-    TOOL_GRAPHICS_FRAME = 17013,
-    TOOL_TEXT_ARRAY,
-    TOOL_VALUE_ARRAY,
-    TOOL_TOOL_BAR = 17017,
-    TOOL_TAB_BOX = 17019,
-    TOOL_GAUGE = 17021,
-    TOOL_PROGRESS_BAR,
-    TOOL_TTY_ENTRY,
-    TOOL_TREE_VIEW,
-    TOOL_TABLE_BOX,
-    TOOL_TOOL_SEPARATOR,
-    TOOL_PANE,
-};
-
 constexpr ToolRow tools[] = {
     {TOOL_PUSH_BUTTON, "Push Button", TYPE_BUTTON, "Button %d"},
     {TOOL_CHECK_BOX, "Check Box", TYPE_TOGGLE, "Toggle %d"},

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "project/naming.h"
+#include "project/tools.h"
 #include "project/tree.h"
 
 #include <span>
@@ -14,7 +15,6 @@ struct ToolRow {
     WidgetType type;
     const char* text; // initial text, "%d" standing for the counter of the type's word; null: from the default record
 };
-inline constexpr int TOOL_RADIO_BUTTON = 17020;
 std::span<const ToolRow> placementTools();
 const ToolRow* placementTool(int tool); // null for the selector and for unknown tools
 

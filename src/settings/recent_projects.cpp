@@ -4,6 +4,7 @@
 #include "platform/paths.h"
 #include "platform/text_files.h"
 #include "settings/places.h"
+#include "surface/commands.h"
 
 #include <algorithm>
 #include <sstream>
@@ -49,7 +50,7 @@ void loadRecentProjects(int menu) {
     for (std::size_t row = 0; row < paths.size(); row++) {
         const std::string text = caption(row);
         menuHandles.push_back(owCreateMenuEntry(menu, text.c_str(), owAccel, text[0], owCallback,
-                                                RECENT_CALLBACK + static_cast<int>(row), 0));
+                                                CMD_RECENT_FIRST + static_cast<int>(row), 0));
     }
 }
 

@@ -5,7 +5,6 @@
 #include <string>
 
 inline constexpr int RECENT_PROJECTS = 5;
-inline constexpr int RECENT_CALLBACK = 14090; // of the first entry; the others follow
 
 // Reads the list and adds its entries to the menu with the handle `menu`, behind a separator.
 void loadRecentProjects(int menu);

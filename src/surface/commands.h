@@ -1,9 +1,10 @@
-// Identifiers of the commands and events that the surface, the property sheet and the code editor handle or enable.
+// Identifiers of the commands and events that more than the shell speaks of; its own are in shell/commands.h.
 #pragma once
 
 inline constexpr int OBJECT_SELECT_OFFSET = 50000; // select identifier of a widget = handle + this
 
 enum CommandId : int {
+    CMD_RECENT_FIRST = 14090, // and the next four
     CMD_INSERT_COMMAND = 15020,
     CMD_COMMIT_CODE = 15021,
     CMD_CODE_CHANGED = 15022,
@@ -21,12 +22,16 @@ enum CommandId : int {
     CMD_TEXT_DELETE = 15045,
     CMD_TEXT_TAB = 15046,
     CMD_FIND = 15049,
+    CMD_HELP_TOOLKIT = 15056,
     CMD_TEXT_PASTE = 15059,
     CMD_REPLACE = 15061,
     CMD_TEXT_UNDO = 15067,
     CMD_UPPERCASE = 15077,
     CMD_LOWERCASE = 15078,
     CMD_CODE_SELECT = 15084,
+    CMD_HELP_BASE = 15085,
+    CMD_HELP_PLOT = 15086,
+    CMD_HELP_MESH = 15087,
     CMD_COPY = 15130,
     CMD_CUT = 15131,
     CMD_PASTE = 15132,
@@ -46,6 +51,7 @@ enum CommandId : int {
     CMD_MENU_ENTRY_LIST = 15215,
     CMD_TREE_ENTRY_LIST = 15216,
     CMD_SELECTOR_TABS = 15217,
+    CMD_HELP_DESIGNER = 15225,
     CMD_SNAP_DIALOGUE = 15229,
     CMD_DOUBLE_CLICK = 15277, // on the adopted widget
     CMD_MOVED = 15316,        // the adopted widget was moved, resized or dropped
@@ -62,12 +68,12 @@ enum CommandId : int {
     CMD_SNAP_OFF = 15421,
     CMD_SNAP_OK = 15422,
     CMD_SNAP_CANCEL = 15423,
-    CMD_SNAP_WINDOW = 15515,
     CMD_UNADOPT = 15474,
     CMD_ALIGN = 15476,
     CMD_DEFAULT_POSITIONS = 15485,
     CMD_RAISE_WINDOWS = 15486,
     CMD_NAME_WINDOW = 15505,
+    CMD_SNAP_WINDOW = 15515,
     CMD_HIERARCHY_ROW = 15529,
     CMD_INDENT = 15555,
     CMD_UNINDENT = 15556,

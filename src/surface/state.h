@@ -2,18 +2,13 @@
 // events are read. One instance, `design`.
 #pragma once
 
+#include "project/tools.h"
 #include "project/tree.h"
 #include "surface/geometry.h"
 
 #include <map>
 #include <string>
 #include <vector>
-
-enum Tool : int {
-    TOOL_SELECTOR = 17000, // 17001 to 17027 place a widget
-    TOOL_PANEL = 17010,
-    TOOL_TAB_BOX = 17019,
-};
 
 // Copies of what was copied or cut, and what paste has to know of the originals, which may be gone.
 struct PasteBuffer {

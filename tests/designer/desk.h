@@ -7,6 +7,7 @@
 #include "project/placement.h"
 #include "project/preferences.h"
 #include "project/records.h"
+#include "project/tools.h"
 #include "project/tree.h"
 #include "shell/designer.h"
 #include "surface/commands.h"
@@ -42,15 +43,15 @@ struct Desk {
 };
 
 enum PlacementTool : int {
-    PLACE_BUTTON = 17001,
-    PLACE_CHECK_BOX = 17002,
-    PLACE_LIST = 17003,
-    PLACE_SLIDER = 17004,
-    PLACE_TEXT_ENTRY = 17005,
-    PLACE_VALUE_ENTRY = 17006,
-    PLACE_TEXT_LABEL = 17008,
-    PLACE_PANEL = 17010,
-    PLACE_TOOL_BAR = 17017,
-    PLACE_TAB_BOX = 17019,
-    PLACE_PANE = 17027,
+    PLACE_BUTTON = TOOL_PUSH_BUTTON,
+    PLACE_CHECK_BOX = TOOL_CHECK_BOX,
+    PLACE_LIST = TOOL_LIST_BOX,
+    PLACE_SLIDER = TOOL_SLIDER,
+    PLACE_TEXT_ENTRY = TOOL_TEXT_ENTRY,
+    PLACE_VALUE_ENTRY = TOOL_VALUE_ENTRY,
+    PLACE_TEXT_LABEL = TOOL_TEXT_LABEL,
+    PLACE_PANEL = TOOL_PANEL,
+    PLACE_TOOL_BAR = TOOL_TOOL_BAR,
+    PLACE_TAB_BOX = TOOL_TAB_BOX,
+    PLACE_PANE = TOOL_PANE,
 };

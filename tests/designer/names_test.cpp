@@ -14,7 +14,7 @@ namespace robot = orba::testing;
 
 namespace {
 
-constexpr int TOOL_RADIO = 17020;
+constexpr int TOOL_RADIO = TOOL_RADIO_BUTTON;
 
 struct Session {
     Desk desk;

@@ -150,7 +150,7 @@ TEST_F(DesignerTest, AFailedOpenKeepsTheProjectAndItsChanges) {
 
 TEST_F(DesignerTest, ANewProjectStartsAgain) {
     start();
-    placeWidget(17001, project.forms->child, 40, 40);
+    placeWidget(TOOL_PUSH_BUTTON, project.forms->child, 40, 40);
     ASSERT_TRUE(saveProject(root.string(), "old.wdp", false));
     project.projectModified = 1;
     expectBox("Start New Project", SAVE_TEXT, OANSWERNO);

@@ -23,7 +23,7 @@
 
 using namespace orba::testing;
 
-static constexpr int BUTTON_TOOL = 15440;
+static constexpr int BUTTON_TOOL = CMD_TOOL_PUSH_BUTTON;
 
 static std::string label(int entry) {
     char text[256];
@@ -86,7 +86,7 @@ TEST_F(DesignerTest, StartsWithOneUntitledForm) {
 TEST_F(DesignerTest, OpensTheProjectOfTheCommandLine) {
     start();
     send(BUTTON_TOOL);
-    placeWidget(17001, project.forms->child, 40, 40);
+    placeWidget(TOOL_PUSH_BUTTON, project.forms->child, 40, 40);
     ASSERT_TRUE(saveProject(root.string(), "with blanks.wdp", false));
     end();
     start("\"" + file("with blanks.wdp") + "\"");
@@ -109,7 +109,7 @@ TEST_F(DesignerTest, AToolPlacesOneWidgetAndIsLaidDown) {
     start();
     click(button(BUTTON_TOOL));
     pump();
-    EXPECT_EQ(design.activeTool, 17001);
+    EXPECT_EQ(design.activeTool, TOOL_PUSH_BUTTON);
     EXPECT_EQ(owEnqWidgetStatus(button(BUTTON_TOOL)), OCHECKED);
     EXPECT_EQ(owEnqWidgetStatus(button(CMD_TOOL_SELECTOR)), OSELECTABLE);
     click(project.forms->child->handle, {50, 60});
@@ -132,7 +132,7 @@ TEST_F(DesignerTest, AToolStaysInHandWhenPreferred) {
     pump();
     click(project.forms->child->handle, {50, 160});
     pump();
-    EXPECT_EQ(design.activeTool, 17001);
+    EXPECT_EQ(design.activeTool, TOOL_PUSH_BUTTON);
     EXPECT_NE(live("Form1_Button2"), 0);
 }
 
@@ -226,14 +226,16 @@ TEST_F(DesignerTest, ToolsOfWindowsStayVisibleAndClosedElsewhere) {
     start();
     project.projectPlatform = 'x';
     refreshCommands();
-    for (const int tool : {15454, 15457, 15466, 15456, 15459, 15464, 15460, 15461, 15462, 15463, 15465}) {
+    for (const int tool : {CMD_TOOL_TAB_BOX, CMD_TOOL_TOOL_BAR, CMD_TOOL_PANE, CMD_TOOL_TEXT_ARRAY,
+                           CMD_TOOL_VALUE_ARRAY, CMD_TOOL_TABLE_BOX, CMD_TOOL_GAUGE, CMD_TOOL_PROGRESS_BAR,
+                           CMD_TOOL_TTY_ENTRY, CMD_TOOL_TREE_VIEW, CMD_TOOL_TOOL_SEPARATOR}) {
         EXPECT_EQ(owEnqWidgetStatus(button(tool)), OUNSELECTABLE) << tool;
         EXPECT_TRUE(isShown(button(tool))) << tool;
     }
     EXPECT_EQ(owEnqWidgetStatus(button(BUTTON_TOOL)), OSELECTABLE);
     project.projectPlatform = 'w';
     refreshCommands();
-    EXPECT_EQ(owEnqWidgetStatus(button(15464)), OSELECTABLE);
+    EXPECT_EQ(owEnqWidgetStatus(button(CMD_TOOL_TABLE_BOX)), OSELECTABLE);
 }
 
 TEST_F(DesignerTest, AnUnknownIdentifierDoesNothing) {
@@ -375,7 +377,7 @@ TEST_F(DesignerTest, TopicsFollowWhatLastTookTheInput) {
     EXPECT_EQ(helpTopic(), "Object Hierarchy");
     design.helpContext = "Form";
     EXPECT_EQ(helpTopic(), "Form");
-    const WidgetNode* box = placeWidget(17002, project.forms->child, 40, 40).widget;
+    const WidgetNode* box = placeWidget(TOOL_CHECK_BOX, project.forms->child, 40, 40).widget;
     ASSERT_NE(box, nullptr);
     project.currentWidget = const_cast<WidgetNode*>(box);
     EXPECT_EQ(helpTopic(), "Check Box");

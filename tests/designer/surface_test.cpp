@@ -315,7 +315,7 @@ TEST(Surface, MenuOfAFormIsLive) {
 
 TEST(Surface, EntriesOfATreeViewAreLive) {
     Desk desk;
-    constexpr int PLACE_TREE = 17024;
+    constexpr int PLACE_TREE = TOOL_TREE_VIEW;
     WidgetNode* tree = desk.place(PLACE_TREE, desk.panel, 20, 20);
     tree->entries = chainOf({{MENU_BAR, 0, ""},
                              {MENU_ENTRY, 0, "Fruit"},
