@@ -24,9 +24,8 @@ if grep -nE '[!=]= nullptr' <<<"$came"; then
   echo "A pointer is its own condition: write \"if (pointer)\" or \"if (!pointer)\"." && failed=1
 fi
 
-mapfile -t sources < <(printf '%s\n' "${files[@]}" | grep -E '^src/.*\.cpp$' | grep -v '_windows\.cpp$' || true)
-if [ ${#sources[@]} -gt 0 ] && [ -f "$build/compile_commands.json" ]; then
-  clang-tidy-14 --quiet -p "$build" "${sources[@]}" || failed=1
+if [ -f "$build/compile_commands.json" ]; then
+  git diff -U0 "$base" -- 'src/*.cpp' ':!*_windows.cpp' | clang-tidy-diff-14.py -p1 -path "$build" -quiet || failed=1
 fi
 [ $failed -eq 0 ] && echo "${#files[@]} files keep the rules."
 exit $failed
