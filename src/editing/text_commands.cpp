@@ -35,22 +35,46 @@ std::string expandTabs(const std::string& line) {
     return expanded;
 }
 
-// Runs `change` on each line that begins inside the selection, tabs turned into blanks; the selection's end moves
-// along. A caret at the start of a line, and a selection that ends there, leave that line alone.
+// Where the lines lie that begin inside the selection; empty for none. A caret at the start of a line, and a selection
+// that ends there, leave that line alone.
+TextRange wholeLines(int text, TextRange selected) {
+    const int line = lineOf(text, selected.start) - 1;
+    const int first = lineStart(text, line);
+    if (first == 0 || first >= selected.end) return {first, first};
+    const int last = lineOf(text, std::max(selected.end - 1, first)) - 1;
+    const int start = lineStart(text, last);
+    return {first, start + lineLength(text, start)};
+}
+
+// Behind the line that begins at `from`, without its end.
+size_t lineEnd(const std::string& lines, size_t from) {
+    return std::min(lines.find_first_of("\r\n", from), lines.size());
+}
+
+std::string changedLines(const std::string& lines, std::string (*change)(const std::string& line)) {
+    std::string changed;
+    for (size_t from = 0;;) {
+        const size_t end = lineEnd(lines, from);
+        changed += change(expandTabs(lines.substr(from, end - from)));
+        if (end == lines.size()) return changed;
+        from = end + (lines.compare(end, 2, "\r\n") == 0 ? 2 : 1);
+        changed += lines.substr(end, from - end);
+    }
+}
+
+// Runs `change` on each of those lines, tabs turned into blanks, as one edit; the selection's end moves along.
 void changeLines(std::string (*change)(const std::string& line)) {
     const int text = editor.text;
-    TextRange range = selectionOf(text);
-    for (int line = lineOf(text, range.start) - 1;; ++line) {
-        const int first = lineStart(text, line);
-        if (first == 0 || first >= range.end) break;
-        const TextRange old = {first, first + lineLength(text, first)};
-        const std::string before = extract(text, old);
-        const std::string after = change(expandTabs(before));
-        if (after == before) continue;
+    TextRange selected = selectionOf(text);
+    const TextRange old = wholeLines(text, selected);
+    const bool any = old.start > 0 && old.start < selected.end;
+    const std::string before = extract(text, old);
+    const std::string after = any ? changedLines(before, change) : before;
+    if (after != before) {
         replaceRange(text, old, after);
-        range.end += characters(after) - characters(before);
+        selected.end += characters(after) - (old.end - old.start);
     }
-    select(text, range);
+    select(text, selected);
     markModified();
 }
 

@@ -13,6 +13,9 @@
 #include <QApplication>
 #include <QWidget>
 
+#include <algorithm>
+#include <utility>
+
 namespace robot = orba::testing;
 
 namespace {
@@ -119,6 +122,24 @@ TEST(Editor, CommandsOnLines) {
     }
 }
 
+TEST(Editor, AnyNumberOfLinesIsOneEdit) {
+    Desk desk;
+    preferences.selectedIndent = 3;
+    showBlock(desk, "User Routines/Functions");
+    std::string before;
+    for (int line = 0; line < 5000; ++line) before += "a line of code\n";
+    for (const int command : {CMD_COMMENT, CMD_INDENT}) {
+        owSetTextSetting(codeText(), before.c_str(), 0);
+        const std::string lines = linesOf(codeText());
+        select(codeText(), {1, -1});
+        desk.command(command);
+        EXPECT_NE(linesOf(codeText()), lines);
+        owTextUndoAction(codeText(), OUNDO);
+        EXPECT_EQ(linesOf(codeText()), lines);
+        EXPECT_FALSE(owTextUndoAction(codeText(), OCANUNDO));
+    }
+}
+
 TEST(Editor, CodeOfAMenuEntryReachesTheMenu) {
     Desk desk;
     auto* bar = new MenuEntryRec;
@@ -212,14 +233,14 @@ TEST(Editor, MainPanelsAreNotListedWhateverTheFormIsCalled) {
 // What nothing answers to yet is grey.
 TEST(Editor, IconsWithoutACommandAreGrey) {
     Desk desk;
-    int icons = 0;
-    for (const QWidget* widget : QApplication::allWidgets()) {
-        if (widget->toolTip() == "Insert ORBA Command")
-            EXPECT_EQ(widget->isEnabled(), hooks.hasCommand(CMD_INSERT_COMMAND));
-        if (widget->toolTip() == "Increase Indent") EXPECT_TRUE(widget->isEnabled());
-        icons += widget->toolTip() == "Insert ORBA Command" || widget->toolTip() == "Increase Indent";
+    const std::pair<const char*, bool> icons[] = {{"Insert ORBA Command", hooks.hasCommand(CMD_INSERT_COMMAND)},
+                                                  {"Increase Indent", true}};
+    for (const auto& [tip, enabled] : icons) {
+        const QWidgetList all = QApplication::allWidgets();
+        const auto icon = std::ranges::find_if(all, [&](const QWidget* one) { return one->toolTip() == tip; });
+        ASSERT_NE(icon, all.end()) << tip;
+        EXPECT_EQ((*icon)->isEnabled(), enabled) << tip;
     }
-    EXPECT_EQ(icons, 2);
 }
 
 } // namespace

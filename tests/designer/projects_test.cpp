@@ -1,11 +1,15 @@
 // Projects and forms as files, the questions before one is left, generation, and the built program.
 #include "designer_fixture.h"
 
+#include "compile/hooks.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
+#include "project/defaults.h"
 #include "project/files.h"
+#include "project/host.h"
 #include "project/placement.h"
 #include "project/preferences.h"
+#include "project_script.h"
 #include "settings/recent_projects.h"
 #include "shell/project_commands.h"
 #include "surface/state.h"
@@ -213,6 +217,44 @@ TEST_F(DesignerTest, GenerateSavesFirstAndAsksForTheSource) {
     EXPECT_EQ(project.sourceName, "bridge.f90");
 }
 
+TEST_F(DesignerTest, AChosenSourceBelongsToItsProjectAndToNoOther) {
+    start();
+    expectBrowser("Save Project As", file("bridge"));
+    expectBrowser("Create ORBAWIDG code", file("bridge"));
+    send(CMD_GENERATE);
+    EXPECT_EQ(project.projectModified, 0);
+    end();
+    start(file("bridge.wdp"));
+    EXPECT_EQ(project.sourceName, "bridge.f90");
+    std::string source, later;
+    readTextFile(file("bridge.f90"), source);
+    expectBrowser("Save Project As", file("tunnel"));
+    send(CMD_SAVE_PROJECT_AS);
+    EXPECT_EQ(project.sourceName, "");
+    project.forms->text = "Tunnel";
+    project.sourceStale = 1;
+    expectBrowser("Create ORBAWIDG code", "");
+    expectBox("Source not generated", "Compilation aborted.", OANSWEROK);
+    send(CMD_COMPILE);
+    readTextFile(file("bridge.f90"), later);
+    EXPECT_EQ(later, source);
+    project.projectModified = 0;
+}
+
+TEST_F(DesignerTest, TheLogIsEmptiedWithItsProject) {
+    start();
+    expectBrowser("Save Project As", file("bridge"));
+    send(CMD_SAVE_PROJECT_AS);
+    static int emptied;
+    emptied = 0;
+    buildHooks.clearLog = [] { ++emptied; };
+    send(CMD_NEW_PROJECT);
+    EXPECT_EQ(emptied, 1);
+    expectBrowser("Open Project", file("bridge.wdp"));
+    send(CMD_OPEN_PROJECT);
+    EXPECT_EQ(emptied, 2);
+}
+
 TEST_F(DesignerTest, ACancelledGenerationLeavesNoName) {
     preferences = {};
     start();
@@ -251,6 +293,35 @@ TEST_F(DesignerTest, AProjectThatIsOnlyOpenedAndSavedIsTheSameFile) {
         readTextFile(own, after);
         EXPECT_EQ(difference(before, after), "") << name;
     }
+}
+
+// So are the projects of all golden sources, which have every type of widget, in each language, once a designer has
+// saved them: what only live widgets know, such as the place where a docked bar will float, then stands in the file.
+TEST_F(DesignerTest, EveryProjectThatIsOnlyOpenedAndSavedIsTheSameFile) {
+    const auto openAndSave = [&] {
+        std::string bytes;
+        start(file("golden.wdp"));
+        send(CMD_SAVE_PROJECT);
+        end();
+        readTextFile(file("golden.wdp"), bytes);
+        return bytes;
+    };
+    for (const auto& entry : std::filesystem::directory_iterator(ORBA_SOURCE_DIR "/tests/codegen/golden")) {
+        if (entry.path().extension() != ".project") continue;
+        for (const int language : {77, 90, 99}) {
+            std::string script;
+            readTextFile(entry.path().string(), script);
+            host = {}; // no designer runs
+            makeDefaults();
+            project.projectLanguage = language;
+            readProjectScript(script);
+            host.defineColour(255, 0, 0, 0); // the last colours are those of the widget defaults, and in no project
+            ASSERT_TRUE(saveProject(root.string(), "golden.wdp", true));
+            const std::string before = openAndSave();
+            EXPECT_EQ(difference(before, openAndSave()), "") << entry.path().stem() << " in " << language;
+        }
+    }
+    reports(); // some of the scripts ask for sizes and styles that no live widget has
 }
 
 // ---- The built program ----------------------------------------------------------------------------------------

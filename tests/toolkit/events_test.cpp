@@ -5,6 +5,10 @@
 
 #include <QWidget>
 
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWindow>
 #include <fstream>
 #include <gtest/gtest.h>
 
@@ -211,6 +215,33 @@ TEST(Timers, RepeatUntilStopped) {
     owDefineTimerCallback(0, 901);
     settle(50);
     EXPECT_TRUE(identifiers().empty());
+}
+
+// While a long command runs its own button and Esc end it; what else is clicked waits.
+TEST(LongCommands, StopAtTheirButtonAndAtEsc) {
+    const Toolkit toolkit;
+    constexpr int STOP = 901, OTHER = 902;
+    const int stop = owCreatePushButton(toolkit.panel, 10, 10, 80, 24, "Abort", owCallback, STOP, 0);
+    const int other = owCreatePushButton(toolkit.panel, 10, 60, 80, 24, "Other", owCallback, OTHER, 0);
+    settle();
+    QWidget* top = viewOf(toolkit.master)->window();
+    const auto click = [&](int handle) {
+        const QWidget* view = viewOf(handle);
+        const QPoint at = view->rect().center();
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QCoreApplication::postEvent(top->windowHandle(),
+                                        new QMouseEvent(type, view->mapTo(top, at), view->mapToGlobal(at),
+                                                        Qt::LeftButton, Qt::LeftButton, Qt::NoModifier));
+    };
+    EXPECT_EQ(owStopAsked(STOP), 0);
+    click(other);
+    EXPECT_EQ(owStopAsked(STOP), 0);
+    click(stop);
+    EXPECT_EQ(owStopAsked(STOP), 1);
+    EXPECT_EQ(owStopAsked(STOP), 0) << "asked once";
+    QCoreApplication::postEvent(top->windowHandle(), new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+    EXPECT_EQ(owStopAsked(STOP), 1);
+    EXPECT_TRUE(identifiers().empty()) << "neither the stop nor what waits is an event of the command";
 }
 
 } // namespace
