@@ -195,7 +195,7 @@ void checkScreen() {
                    std::string("screen: a ") + part->metaObject()->className() + " is not painted any more");
     expect(!QApplication::overrideCursor(), "screen: the busy cursor stays");
     expect(!QApplication::activeModalWidget(), "screen: a box is still up");
-    expect(orba::session.programDepth == 0, "events: the toolkit takes the user for the program");
+    expect(!orba::session.program, "events: the toolkit takes the user for the program");
     expect(orba::session.openBoxes == 0, "events: the toolkit believes that a box is up");
     if (!master->isMinimized()) expect(!isBlank(master->grab().toImage()), "screen: the main window is blank");
 }

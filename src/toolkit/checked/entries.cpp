@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <optional>
 
 namespace orba {
 namespace {
@@ -435,12 +436,11 @@ Word checkedCall(const Arguments& call) {
     const char* outer = traceName;
     traceName = functionRow(call.function).name;
     Word result = 0;
-    const int program = call.function == Fn::owAction ? 0 : 1;
-    session.programDepth += program;
+    std::optional<ProgramDoing::Mark> program; // but what comes while it waits for the user
+    if (call.function != Fn::owAction) program.emplace(session.program);
     if (checksPass(call) && hasHandleFor(call.function)) {
         if (const Handler handler = handlerOf(call.function)) result = handler(call);
     }
-    session.programDepth -= program;
     traceName = outer;
     return result;
 }

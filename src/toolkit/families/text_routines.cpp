@@ -140,16 +140,8 @@ Word findText(const Arguments& call) {
 // ---------------------------------------------------------------------------------------- undo and clipboard
 
 // These stand for the user's own keys: what they change is reported as if the user had pressed them.
-struct UserAction {
-    UserAction() : depth(std::exchange(session.programDepth, 0)) {}
-    ~UserAction() { session.programDepth = depth; }
-    UserAction(const UserAction&) = delete;
-    UserAction& operator=(const UserAction&) = delete;
-    int depth;
-};
-
 Word undoAction(const Arguments& call) {
-    const UserAction user;
+    const ProgramDoing::StandIn user(session.program);
     TextEntry& entry = entryOf(call);
     switch (call.integer(1)) {
     case OUNDO: entry.undo(); return entry.canUndo();
@@ -162,7 +154,7 @@ Word undoAction(const Arguments& call) {
 }
 
 Word clipboardAction(const Arguments& call) {
-    const UserAction user;
+    const ProgramDoing::StandIn user(session.program);
     TextEntry& entry = entryOf(call);
     switch (call.integer(1)) {
     case OCUT: entry.cut(); break;

@@ -1,6 +1,7 @@
 // Tree view boxes and their entries. An entry is a widget of its own without a view; it keeps its item in the box.
 #include "toolkit/frame/core.h"
 #include "toolkit/views/icons/icons.h"
+#include "toolkit/views/program_doing.h"
 
 #include <QDropEvent>
 #include <QFocusEvent>
@@ -54,7 +55,7 @@ public:
 
     int handle = 0; // of the box
     int iconSet = ONONE;
-    bool byProgram = false;
+    ProgramDoing program;
 
     void selectItem(QTreeWidgetItem* item) {
         wanted_ = item;
@@ -69,12 +70,11 @@ public:
     }
     void showSelection() {
         if (!wanted_) return;
-        byProgram = true;
+        const ProgramDoing::Mark mark(program);
         const int across = horizontalScrollBar()->value();
         setCurrentItem(wanted_);
         scrollToItem(wanted_);
         horizontalScrollBar()->setValue(across);
-        byProgram = false;
         wanted_ = nullptr;
     }
 
@@ -170,7 +170,7 @@ void TreeView::opened(QTreeWidgetItem* item, int open) {
     Widget* entry = widgetOf(handleOf(item));
     if (!entry) return;
     showPicture(*entry);
-    if (!byProgram) post(*entry, Slot::change, open);
+    if (!program) post(*entry, Slot::change, open);
 }
 
 void showPictures(Widget& widget) {
@@ -227,12 +227,11 @@ void entryErased(Widget& entry) {
     TreeView& box = boxOf(entry);
     QTreeWidgetItem* item = itemOf(entry);
     box.forget(item);
-    box.byProgram = true;
+    const ProgramDoing::Mark mark(box.program);
     QTreeWidgetItem* above = item->parent() ? item->parent() : box.invisibleRootItem();
     const int last = above->childCount() - 1;
     if (above->child(last) == item) above->takeChild(last); // without a search among its siblings
     delete item;
-    box.byProgram = false;
     const bool childless = entry.parent->kind == Kind::treeEntry && itemOf(*entry.parent)->childCount() == 0;
     if (childless) showPicture(*entry.parent); // it is no branch any more
 }
@@ -272,7 +271,7 @@ Word treeViewAction(const Arguments& call) {
     if (entry.kind != Kind::treeEntry) return 0;
     TreeView& box = boxOf(entry);
     QTreeWidgetItem* item = itemOf(entry);
-    box.byProgram = true;
+    const ProgramDoing::Mark mark(box.program);
     switch (call.integer(1)) {
     case OCLOSEENTRY: item->setExpanded(false); break;
     case OOPENENTRY: item->setExpanded(true); break;
@@ -281,7 +280,6 @@ Word treeViewAction(const Arguments& call) {
     case OSELECTENTRY: box.selectItem(item); break;
     default: break;
     }
-    box.byProgram = false;
     return 0;
 }
 

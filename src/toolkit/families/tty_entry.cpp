@@ -43,7 +43,7 @@ public:
 
     // Output goes ahead of the prompt, and of what has been typed behind it.
     void print(const QString& text) {
-        Quiet quiet(*this);
+        const ProgramDoing::Mark mark(program_);
         const QString typed = asking_ ? input() : QString();
         QString out = text;
         if (!out.endsWith(u'\n')) out += u'\n';
@@ -52,7 +52,7 @@ public:
     }
 
     void ask(const QString& typed = {}) {
-        Quiet quiet(*this);
+        const ProgramDoing::Mark mark(program_);
         asking_ = true;
         promptAt_ = end();
         replaceFrom(promptAt_, prompt_ + typed);
@@ -99,7 +99,7 @@ private:
     }
 
     void setInput(const QString& text) {
-        Quiet quiet(*this);
+        const ProgramDoing::Mark mark(program_);
         replaceFrom(inputAt_, text);
         toEnd();
     }
@@ -119,7 +119,7 @@ private:
         at_ = int(history_.size());
         draft_.clear();
         {
-            Quiet quiet(*this);
+            const ProgramDoing::Mark mark(program_);
             replaceFrom(end(), QStringLiteral("\n"));
         }
         asking_ = false;

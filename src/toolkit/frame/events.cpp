@@ -169,7 +169,7 @@ void defineCallback(Widget& widget, Slot slot, int identifier) {
 bool hasCallback(const Widget& widget, Slot slot) { return widget.callbacks[static_cast<std::size_t>(slot)] != 0; }
 
 void post(int handle, Slot slot, int status, QPointF position, const QString& text) {
-    if (session.programDepth > 0) return;
+    if (session.program) return;
     if (slot == Slot::select && handle == session.expectedFocus && handle != 0) {
         session.expectedFocus = 0;
         return;

@@ -35,9 +35,9 @@ void preferX11() {
 
 // The call that does it is under way.
 void resetSession() {
-    const int depth = session.programDepth;
+    const ProgramDoing program = session.program;
     session = Session{};
-    session.programDepth = depth;
+    session.program = program;
 }
 
 Word initializeMenu(const Arguments&) {

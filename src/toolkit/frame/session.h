@@ -1,6 +1,8 @@
 // The toolkit's state from owInitializeMenu to owCloseMenu.
 #pragma once
 
+#include "toolkit/views/program_doing.h"
+
 #include <QEventLoop>
 #include <QHash>
 #include <QPointF>
@@ -43,7 +45,7 @@ struct Session {
     bool managed = false;  // owManage ran
     int openBoxes = 0;     // boxes of the toolkit that wait for an answer
     int expectedFocus = 0; // widget that gets the focus once its window is active
-    int programDepth = 0;  // above 0 while the program's own calls run: what Qt signals then is no user's doing
+    ProgramDoing program;  // its own calls run: what Qt signals then is no user's doing
 };
 
 extern Session session;

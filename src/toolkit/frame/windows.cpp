@@ -17,8 +17,6 @@
 namespace orba {
 namespace {
 
-// How long geometry changes after a change by the program count as the window manager's answer to it.
-constexpr int SETTLING_MILLISECONDS = 400;
 constexpr int ACTIVATION_RETRY = 120; // milliseconds
 
 QSize screenSize() { return QGuiApplication::primaryScreen()->geometry().size(); }
@@ -30,10 +28,9 @@ Widget* windowRecord(const FormWindow& window) {
 
 // On a platform without window manager every change is done at once, inside the program's call.
 bool isSettling(const Widget& window) {
-    if (session.programDepth > 0) return true;
+    if (session.program) return true;
     static const bool managed = QGuiApplication::platformName() == QLatin1String("xcb");
-    const WindowData& data = windowData(window);
-    return managed && data.settling.isValid() && data.settling.elapsed() < SETTLING_MILLISECONDS;
+    return managed && windowData(window).program.settling();
 }
 
 // The place that a window is measured in: the screen, or the client area of the MDI master.
@@ -77,26 +74,21 @@ void closeRequested(Widget& window) {
     obeyQuitMode(window);
 }
 
-// The program made a window active: what Qt tells of it for a while is no user's doing.
-QElapsedTimer sinceActivation;
-
-void expectActivation() { sinceActivation.start(); }
-
-bool activationIsExpected() { return sinceActivation.isValid() && sinceActivation.elapsed() < SETTLING_MILLISECONDS; }
+ProgramDoing activation; // by the program: what Qt tells of it for a while is no user's doing
 
 void activated(Widget& window) {
-    if (!activationIsExpected() && !isSettling(window)) post(window, Slot::select, 1);
+    if (!activation.settling() && !isSettling(window)) post(window, Slot::select, 1);
 }
 
 void deactivated(Widget& window) {
-    if (!activationIsExpected() && !QApplication::activePopupWidget()) post(window, Slot::general, OLOSTFOCUS);
+    if (!activation.settling() && !QApplication::activePopupWidget()) post(window, Slot::general, OLOSTFOCUS);
 }
 
 } // namespace
 
 WindowData& windowData(const Widget& window) { return static_cast<WindowData&>(*window.data); }
 
-void startSettling(Widget& window) { windowData(window).settling.start(); }
+void startSettling(Widget& window) { windowData(window).program.settle(); }
 
 QWidget* windowArea(const Widget& window) { return static_cast<QMainWindow*>(window.view.data())->centralWidget(); }
 
@@ -164,7 +156,7 @@ void showWindow(Widget& window, bool front) {
     QWidget* outer = outerOf(window);
     if (!outer->isVisible()) {
         startSettling(window);
-        expectActivation();
+        activation.settle();
         if (!data.shown) {
             fitWindow(window);
             outer->move(topLeftOf(window));
@@ -191,7 +183,7 @@ void showWindow(Widget& window, bool front) {
 }
 
 void inputByUser() {
-    sinceActivation.invalidate();
+    activation.userCame();
     session.expectedFocus = 0;
 }
 
@@ -203,19 +195,19 @@ void activateView(QWidget* view) {
     QWidget* top = view->window(); // a floating pane is a window of its own
     if (QMdiSubWindow* frame = windowData(*window).frame) {
         if (frame->mdiArea()->activeSubWindow() != frame) {
-            expectActivation();
+            activation.settle();
             frame->mdiArea()->setActiveSubWindow(frame);
         }
     }
     if (top->isActiveWindow()) return;
-    expectActivation();
+    activation.settle();
     session.expectedFocus = widgetAt(view)->handle;
     top->activateWindow();
     // A window manager refuses a request that is older than the user's last input to another window, such as the
     // release of the click that led to it. Once that has been read, the request is made again.
     QTimer::singleShot(ACTIVATION_RETRY, view, [view, handle = session.expectedFocus] {
         if (session.expectedFocus != handle || view->window()->isActiveWindow()) return;
-        expectActivation();
+        activation.settle();
         view->activateWindow();
     });
 }
@@ -260,7 +252,7 @@ void FormWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange) return;
     const Widget* window = windowRecord(*this);
-    if (!window || session.programDepth > 0) return;
+    if (!window || session.program) return;
     const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
     if ((before & Qt::WindowMinimized) != (windowState() & Qt::WindowMinimized))
         post(*window, Slot::general, OMINIMIZED);

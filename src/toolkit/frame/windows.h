@@ -2,8 +2,8 @@
 #pragma once
 
 #include "toolkit/frame/widget.h"
+#include "toolkit/views/program_doing.h"
 
-#include <QElapsedTimer>
 #include <QMainWindow>
 
 class QMdiArea;
@@ -16,7 +16,7 @@ struct WindowData : FamilyData {
     bool wholeWindow = false; // the size counts the bars as well (an MDI master)
     int initState = ONORMAL;
     bool shown = false;             // was on the screen before
-    QElapsedTimer settling;         // runs after a change by the program, while the window manager follows
+    ProgramDoing program;           // changes it, and the window manager follows
     QRect known;                    // last geometry that Qt told of
     QMdiSubWindow* frame = nullptr; // of a dialogue box inside an MDI master
 };

@@ -162,7 +162,7 @@ bool ArrayModel::setData(const QModelIndex& index, const QVariant& value, int ro
         cell.filled = !cell.text.isEmpty();
     }
     emit dataChanged(index, index);
-    if (grid_.quiet_ == 0 && grid_.hooks_.changed) grid_.hooks_.changed(column, row);
+    if (!grid_.program_ && grid_.hooks_.changed) grid_.hooks_.changed(column, row);
     return true;
 }
 
@@ -291,19 +291,20 @@ ArrayGrid::ArrayGrid(const ArrayOptions& options, const ArrayHooks& hooks, QWidg
     horizontalHeader()->setDefaultSectionSize(std::max(smallestCell, options.cellWidth));
     verticalHeader()->setDefaultSectionSize(std::max(smallestCell, options.cellHeight));
     connect(itemDelegate(), &QAbstractItemDelegate::commitData, this, [this] {
-        if (quiet_ == 0 && hooks_.committed && currentIndex().isValid())
+        if (!program_ && hooks_.committed && currentIndex().isValid())
             hooks_.committed(currentIndex().column() + 1, currentIndex().row() + 1);
     });
     showOptions();
 }
 
-ArrayGrid::~ArrayGrid() { ++quiet_; }
+ArrayGrid::~ArrayGrid() { program_.forGood(); }
 
 void ArrayGrid::setOptions(const ArrayOptions& options) {
     options_ = options;
-    ++quiet_;
-    model_->resize(std::max(1, options.columns), std::max(1, options.rows));
-    --quiet_;
+    {
+        const ProgramDoing::Mark mark(program_);
+        model_->resize(std::max(1, options.columns), std::max(1, options.rows));
+    }
     showOptions();
 }
 
@@ -454,19 +455,17 @@ void ArrayGrid::removeRow(int row) {
 
 void ArrayGrid::setActiveCell(int column, int row) {
     if (!hasCell(column, row)) return;
-    ++quiet_;
+    const ProgramDoing::Mark mark(program_);
     setCurrentIndex(model_->index(row - 1, column - 1));
-    --quiet_;
 }
 
 void ArrayGrid::selectCells(int column1, int row1, int column2, int row2) {
     if (!hasCell(column1, row1) || !hasCell(column2, row2)) return clearSelection();
-    ++quiet_;
+    const ProgramDoing::Mark mark(program_);
     setCurrentIndex(model_->index(row1 - 1, column1 - 1));
     selectionModel()->select(QItemSelection(model_->index(std::min(row1, row2) - 1, std::min(column1, column2) - 1),
                                             model_->index(std::max(row1, row2) - 1, std::max(column1, column2) - 1)),
                              QItemSelectionModel::ClearAndSelect);
-    --quiet_;
 }
 
 void ArrayGrid::selectedCells(int& column1, int& row1, int& column2, int& row2) const {
@@ -571,7 +570,7 @@ void ArrayGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint 
 void ArrayGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     viewport()->update();
-    if (quiet_ == 0 && current.isValid() && hooks_.selected) hooks_.selected(current.column() + 1, current.row() + 1);
+    if (!program_ && current.isValid() && hooks_.selected) hooks_.selected(current.column() + 1, current.row() + 1);
 }
 
 void ArrayGrid::focusInEvent(QFocusEvent* event) {
@@ -583,9 +582,9 @@ void ArrayGrid::mousePressEvent(QMouseEvent* event) {
     const QModelIndex before = currentIndex();
     QTableView::mousePressEvent(event);
     // A press on the cell that is current already, or beside the cells, tells the program all the same.
-    if (quiet_ == 0 && !indexAt(event->pos()).isValid() && hooks_.pressedElsewhere)
+    if (!program_ && !indexAt(event->pos()).isValid() && hooks_.pressedElsewhere)
         hooks_.pressedElsewhere();
-    else if (before.isValid() && before == currentIndex() && quiet_ == 0 && hooks_.selected)
+    else if (before.isValid() && before == currentIndex() && !program_ && hooks_.selected)
         hooks_.selected(before.column() + 1, before.row() + 1);
 }
 

@@ -3,6 +3,7 @@
 
 #include "toolkit/include/menu-c.h"
 #include "toolkit/views/panel.h"
+#include "toolkit/views/program_doing.h"
 #include "toolkit/views/text/value_format.h"
 
 #include <QColor>
@@ -104,7 +105,7 @@ private:
     ArrayOptions options_;
     ArrayHooks hooks_;
     ArrayModel* model_;
-    int quiet_ = 0;
+    ProgramDoing program_;
 };
 
 } // namespace orba

@@ -35,9 +35,8 @@ const Side& sideOf(Dock dock) {
     return sides[1];
 }
 
-constexpr int restMilliseconds = 250;   // a bar that has not moved for so long has been let go
-constexpr int settleMilliseconds = 500; // moves so soon after the program's are the window manager's answer
-constexpr int sideWidth = 24;           // pixels at a side of the window that take a bar
+constexpr int restMilliseconds = 250; // a bar that has not moved for so long has been let go
+constexpr int sideWidth = 24;         // pixels at a side of the window that take a bar
 
 bool isSide(Dock dock) { return dock != Dock::hidden && dock != Dock::floating; }
 bool isColumn(Dock dock) { return dock == Dock::left || dock == Dock::right; }
@@ -72,7 +71,7 @@ ToolBar::ToolBar(QMainWindow* window, Dock dock, int iconSize, const QString& ti
     connect(&drag_, &QTimer::timeout, this, [this] { dragged(); });
     dockAt(dock_);
     connect(this, &QToolBar::topLevelChanged, this, [this](bool floating) {
-        if (byProgram_) return;
+        if (program_) return;
         moved_ = true;
         if (floating) dock_ = Dock::floating;
     });
@@ -91,8 +90,8 @@ void ToolBar::dockAt(Dock dock) {
 }
 
 void ToolBar::place(Dock dock, QPoint position, int width) {
-    byProgram_ = true;
-    placed_.start();
+    const ProgramDoing::Mark mark(program_);
+    program_.settle();
     if (width > 0) floatWidth_ = width;
     if (dock == Dock::floating) {
         floatPosition_ = position;
@@ -108,7 +107,6 @@ void ToolBar::place(Dock dock, QPoint position, int width) {
         setMaximumWidth(QWIDGETSIZE_MAX);
         show();
     }
-    byProgram_ = false;
 }
 
 void ToolBar::floatNow() {
@@ -145,10 +143,9 @@ Dock ToolBar::dock() const { return isHidden() ? Dock::hidden : currentDock(); }
 QPoint ToolBar::floatPosition() const { return isWindow() ? frameGeometry().topLeft() : floatPosition_; }
 
 void ToolBar::setShown(bool shown) {
-    byProgram_ = true;
+    const ProgramDoing::Mark mark(program_);
     setVisible(shown);
     if (shown) raise();
-    byProgram_ = false;
 }
 
 void ToolBar::setTitle(const QString& title) { setWindowTitle(title); }
@@ -157,16 +154,15 @@ void ToolBar::setTitleBar(DockTitle titleBar) {
     titleBar_ = titleBar;
     if (!isWindow()) return;
     const bool shown = isVisible();
-    byProgram_ = true;
+    const ProgramDoing::Mark mark(program_);
     decorate();
     setVisible(shown);
-    byProgram_ = false;
 }
 
 bool ToolBar::event(QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress) pressedAt_ = pos();
     const bool handled = QToolBar::event(event);
-    if (event->type() != QEvent::MouseButtonRelease || byProgram_) return handled;
+    if (event->type() != QEvent::MouseButtonRelease || program_) return handled;
     const Dock now = currentDock();
     const bool changed = moved_ || now != dock_ || (pressedAt_ && pos() != *pressedAt_);
     pressedAt_.reset();
@@ -176,10 +172,9 @@ bool ToolBar::event(QEvent* event) {
     if (now == Dock::floating && changed) { // torn off: it gets its frame once the drag is over
         const QPoint position = frameGeometry().topLeft();
         QTimer::singleShot(0, this, [this, position] {
-            byProgram_ = true;
+            const ProgramDoing::Mark mark(program_);
             floatPosition_ = position;
             floatNow();
-            byProgram_ = false;
         });
     }
     if (report) report(changed ? DockEvent::moved : DockEvent::touched);
@@ -193,11 +188,11 @@ void ToolBar::closeEvent(QCloseEvent* event) {
 
 void ToolBar::moveEvent(QMoveEvent* event) {
     QToolBar::moveEvent(event);
-    if (!isWindow() || byProgram_) return;
+    if (!isWindow() || program_) return;
     floatPosition_ = frameGeometry().topLeft();
     if (QGuiApplication::mouseButtons() != Qt::NoButton)
         moved_ = true;
-    else if (isVisible() && placed_.isValid() && placed_.elapsed() > settleMilliseconds)
+    else if (isVisible() && program_.settled())
         drag_.start();
 }
 
@@ -353,13 +348,13 @@ DockPane::DockPane(QMainWindow* window, Dock dock, QWidget* body, QPoint positio
     setTitleBar(titleBar);
     dockAt(dock_);
     connect(this, &QDockWidget::topLevelChanged, this, [this](bool floating) {
-        if (byProgram_) return;
+        if (program_) return;
         dock_ = floating ? Dock::floating : dock_;
         settle();
         tellLater(DockEvent::moved);
     });
     connect(this, &QDockWidget::dockLocationChanged, this, [this](Qt::DockWidgetArea area) {
-        if (byProgram_) return;
+        if (program_) return;
         userMoved_ = true;
         for (const Side& side : sides)
             if (side.pane == area) dock_ = side.dock;
@@ -381,7 +376,7 @@ void DockPane::dockAt(Dock dock) {
 }
 
 void DockPane::place(Dock dock, QPoint position, QSize size) {
-    ++byProgram_;
+    const ProgramDoing::Mark mark(program_);
     if (dock == Dock::floating) {
         dock_ = dock;
         floatPosition_ = position;
@@ -406,7 +401,6 @@ void DockPane::place(Dock dock, QPoint position, QSize size) {
         show();
     }
     settle();
-    --byProgram_;
 }
 
 namespace {
@@ -494,11 +488,10 @@ Dock DockPane::dock() const {
 QPoint DockPane::floatPosition() const { return isFloating() ? frameGeometry().topLeft() : floatPosition_; }
 
 void DockPane::setShown(bool shown) {
-    ++byProgram_;
+    const ProgramDoing::Mark mark(program_);
     setVisible(shown);
     if (shown) raise();
     settle();
-    --byProgram_;
 }
 
 void DockPane::setTitleBar(DockTitle titleBar) {
@@ -540,7 +533,7 @@ bool DockPane::eventFilter(QObject* watched, QEvent* event) {
 
 bool DockPane::event(QEvent* event) {
     const bool handled = QDockWidget::event(event);
-    if (event->type() == QEvent::MouseButtonRelease && !told_ && !byProgram_ && report) report(DockEvent::touched);
+    if (event->type() == QEvent::MouseButtonRelease && !told_ && !program_ && report) report(DockEvent::touched);
     return handled;
 }
 
@@ -551,14 +544,14 @@ void DockPane::closeEvent(QCloseEvent* event) {
 
 void DockPane::moveEvent(QMoveEvent* event) {
     QDockWidget::moveEvent(event);
-    if (!isFloating() || byProgram_) return;
+    if (!isFloating() || program_) return;
     floatPosition_ = frameGeometry().topLeft();
     if (QGuiApplication::mouseButtons() != Qt::NoButton) tellLater(DockEvent::moved);
 }
 
 void DockPane::resizeEvent(QResizeEvent* event) {
     QDockWidget::resizeEvent(event);
-    const bool byUser = !byProgram_ && QGuiApplication::mouseButtons() != Qt::NoButton;
+    const bool byUser = !program_ && QGuiApplication::mouseButtons() != Qt::NoButton;
     if (isHidden() || !byUser) return;
     if (isFloating())
         floatSize_ = size();

@@ -1,8 +1,9 @@
 // Tool bars and docking panes: windows that live at a side of a main window or float above it.
 #pragma once
 
+#include "toolkit/views/program_doing.h"
+
 #include <QDockWidget>
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <QToolBar>
@@ -66,13 +67,12 @@ private:
     DockTitle titleBar_;
     QPoint floatPosition_;
     int floatWidth_ = 0;
-    bool byProgram_ = false;
+    ProgramDoing program_;
     bool moved_ = false;
     bool userMoved_ = false;          // the user has changed its place since the program last set one
     std::optional<QPoint> pressedAt_; // where it stood when the mouse went down on it
     Dock side_ = Dock::top;           // where it was docked last
     QTimer drag_;                     // runs out when a move by the window's frame has come to rest
-    QElapsedTimer placed_;            // since the program placed it
 };
 
 // A button of a tool bar. Its pressed look is the program's to set; a click only tells.
@@ -153,7 +153,7 @@ private:
     DockTitle titleBar_;
     QPoint floatPosition_;
     QSize dockedSize_, floatSize_;
-    int byProgram_ = 0;
+    ProgramDoing program_;
     bool userMoved_ = false; // as of a tool bar
     bool told_ = false;      // a report of a drag is on its way
 };

@@ -15,6 +15,7 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <QToolTip>
+#include <optional>
 
 namespace orba {
 
@@ -231,16 +232,14 @@ void PropertyView::insertRow(int number, PropertyRow row) {
 
 bool PropertyView::removeRow(int number) {
     if (!row(number)) return false;
-    byProgram_ = true;
+    const ProgramDoing::Mark mark(program_);
     model_->remove(number - 1);
-    byProgram_ = false;
     return true;
 }
 
 void PropertyView::clearRows() {
-    byProgram_ = true;
+    const ProgramDoing::Mark mark(program_);
     model_->clear();
-    byProgram_ = false;
     changedRow_ = 0;
 }
 
@@ -333,9 +332,11 @@ int PropertyView::currentRow() const { return currentIndex().isValid() ? current
 
 void PropertyView::makeCurrent(int number, bool byUser) {
     if (!row(number)) return;
-    byProgram_ = !byUser;
-    setCurrentIndex(model_->index(number - 1, 1));
-    byProgram_ = false;
+    {
+        std::optional<ProgramDoing::Mark> mark;
+        if (!byUser) mark.emplace(program_);
+        setCurrentIndex(model_->index(number - 1, 1));
+    }
     scrollTo(model_->index(number - 1, 1));
 }
 
@@ -343,7 +344,7 @@ void PropertyView::currentChanged(const QModelIndex& current, const QModelIndex&
     QTableView::currentChanged(current, previous);
     viewport()->update();
     placeCellWidget();
-    if (!byProgram_ && current.isValid() && current.row() != previous.row()) emit rowSelected(current.row() + 1);
+    if (!program_ && current.isValid() && current.row() != previous.row()) emit rowSelected(current.row() + 1);
 }
 
 void PropertyView::setLabelWidth(int pixels) { horizontalHeader()->resizeSection(0, qMax(30, pixels)); }
@@ -534,9 +535,8 @@ void PropertyView::keyPressEvent(QKeyEvent* event) {
 
 void PropertyView::focusInEvent(QFocusEvent* event) {
     const QModelIndex before = currentIndex();
-    byProgram_ = true;
+    const ProgramDoing::Mark mark(program_);
     QTableView::focusInEvent(event);
-    byProgram_ = false;
     if (!before.isValid() && rowCount() > 0) makeCurrent(1, false);
 }
 

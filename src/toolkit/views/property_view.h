@@ -2,6 +2,8 @@
 // raise no signal; what the user does raises exactly one of the three signals.
 #pragma once
 
+#include "toolkit/views/program_doing.h"
+
 #include <QAbstractItemDelegate>
 #include <QColor>
 #include <QPointer>
@@ -115,7 +117,7 @@ private:
     int changedRow_ = 0;
     int pressedButton_ = 0; // row whose button is held down
     bool dragging_ = false; // the splitter between the columns
-    bool byProgram_ = false;
+    ProgramDoing program_;
     bool readOnly_ = false;
     bool gridLines_ = true;
     int rowHeight_ = 0; // 0 follows the font

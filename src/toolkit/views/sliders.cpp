@@ -18,7 +18,7 @@ constexpr int mostSteps = 1000000;
 
 Slider::Slider(QWidget* parent) : QSlider(parent) {
     connect(this, &QSlider::valueChanged, this, [this](int value) {
-        if (quiet_) return;
+        if (program_) return;
         const double range = options_.maximum - options_.minimum;
         number_ = maximum() > 0 ? options_.minimum + range * value / maximum() : options_.minimum;
         if (moved) moved();
@@ -30,7 +30,7 @@ void Slider::setOptions(const SliderOptions& options) {
     if (!(options_.maximum > options_.minimum)) options_.maximum = options_.minimum + 1;
     const double range = options_.maximum - options_.minimum;
     const double step = options_.step > 0 ? std::min(options_.step, range) : range / 100;
-    ++quiet_;
+    const ProgramDoing::Mark mark(program_);
     setOrientation(options_.vertical ? Qt::Vertical : Qt::Horizontal);
     setInvertedAppearance(options_.reversed);
     setInvertedControls(options_.reversed);
@@ -39,7 +39,6 @@ void Slider::setOptions(const SliderOptions& options) {
     setPageStep(std::max(1, maximum() / 10));
     setTickPosition(options_.ticks > 0 ? QSlider::TicksBelow : QSlider::NoTicks);
     if (options_.ticks > 0) setTickInterval(std::max(1, maximum() / options_.ticks));
-    --quiet_;
     setNumber(number_);
 }
 
@@ -48,10 +47,9 @@ double Slider::number() const { return number_; }
 void Slider::setNumber(double value) {
     if (!std::isfinite(value)) value = options_.minimum;
     number_ = std::clamp(value, options_.minimum, options_.maximum);
-    ++quiet_;
+    const ProgramDoing::Mark mark(program_);
     QSlider::setValue(
         int(std::round((number_ - options_.minimum) / (options_.maximum - options_.minimum) * maximum())));
-    --quiet_;
 }
 
 // A press on the groove brings the handle there at once.

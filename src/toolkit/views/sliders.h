@@ -1,6 +1,8 @@
 // Widgets that show a number as a place: slider, gauge, progress bar; and the spinner that steps a value entry.
 #pragma once
 
+#include "toolkit/views/program_doing.h"
+
 #include <QIcon>
 #include <QPointer>
 #include <QProgressBar>
@@ -39,7 +41,7 @@ protected:
 private:
     SliderOptions options_;
     double number_ = 0; // as set, until the user moves it: a value between two steps stays what it is
-    int quiet_ = 0;
+    ProgramDoing program_;
 };
 
 // ------------------------------------------------------------------------------------------------------- gauge

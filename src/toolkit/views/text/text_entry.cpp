@@ -73,7 +73,7 @@ bool TextEntry::wantsSingleLine() const {
 void TextEntry::chooseField() {
     if (choosing_) return;
     choosing_ = true;
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     const bool single = wantsSingleLine();
     if (!field() || single != singleLine()) {
         const bool hadFocus = field() && field()->hasFocus();
@@ -278,13 +278,13 @@ void TextEntry::userChanged() {
     // Colours of words are signalled like changes; then only the text itself tells.
     if (edit_ && (highlighter_ || options_.autoUrl) && std::exchange(coloured_, index().text()) == index().text())
         return;
-    if (quiet_) return;
+    if (program_) return;
     changedSinceFocus_ = true;
     if (hooks_.changed) hooks_.changed();
 }
 
 void TextEntry::userMoved() {
-    if (quiet_ || !focused_ || frozen_) return;
+    if (program_ || !focused_ || frozen_) return;
     // Raw cursor positions: this runs for each key, and an index of a large text is not free.
     const int start = line_ ? line_->cursorPosition() : edit_->textCursor().position();
     const int end = line_ ? int(line_->selectedText().size()) : edit_->textCursor().anchor();
@@ -398,7 +398,7 @@ bool TextEntry::eventFilter(QObject* watched, QEvent* event) {
 // ------------------------------------------------------------------------------------ content set by the program
 
 void TextEntry::setText(std::string_view text, bool asRtf) {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     forgetIndex();
     changedSinceFocus_ = false;
     const QByteArray bytes = QByteArray::fromRawData(text.data(), qsizetype(text.size()));
@@ -440,7 +440,7 @@ std::string TextEntry::text(bool asRtf) const {
 int TextEntry::textLength() const { return int(text(loadedRich_).size()); }
 
 void TextEntry::replaceSelection(std::string_view text, bool asRtf) {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     forgetIndex();
     if (line_) {
         line_->insert(fromProgram(text));
@@ -489,7 +489,7 @@ std::string TextEntry::selectedText() const {
 }
 
 void TextEntry::select(int start, int end) {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     const bool nothing = start <= 0 && end == 0;
     if (nothing) {
         start = end = caret();
@@ -535,7 +535,7 @@ void TextEntry::undo() { line_ ? line_->undo() : edit_->undo(); }
 void TextEntry::redo() { line_ ? line_->redo() : edit_->redo(); }
 
 void TextEntry::resetUndo() {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     if (edit_) return edit_->document()->clearUndoRedoStacks();
     const int start = line_->selectionStart(), length = line_->selectionLength(), caret = line_->cursorPosition();
     line_->setText(line_->text()); // the only way to make a line forget

@@ -2,6 +2,7 @@
 // line edit or a text edit inside and changes between them when its height does.
 #pragma once
 
+#include "toolkit/views/program_doing.h"
 #include "toolkit/views/text/syntax_highlighter.h"
 #include "toolkit/views/text/text_index.h"
 
@@ -126,13 +127,7 @@ public:
     std::unique_ptr<QTextDocument> printable(int pointSize, bool selectionOnly) const; // a copy to print
 
 protected:
-    struct Quiet { // while one lives, no hook is called
-        explicit Quiet(TextEntry& entry) : entry(entry) { ++entry.quiet_; }
-        ~Quiet() { --entry.quiet_; }
-        Quiet(const Quiet&) = delete;
-        Quiet& operator=(const Quiet&) = delete;
-        TextEntry& entry;
-    };
+    ProgramDoing program_; // while a mark lives, no hook is called
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -167,7 +162,6 @@ private:
     QPointer<QLineEdit> line_;
     QPointer<QTextEdit> edit_;
     QPointer<SyntaxHighlighter> highlighter_;
-    int quiet_ = 0;
     QString coloured_; // the text at its last change, while words in it are coloured
     int frozen_ = 0;
     bool focused_ = false;

@@ -95,7 +95,7 @@ void TextEntry::clearFormats() {
 }
 
 void TextEntry::setTextFont(const TextFont& font) {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     if (!formatsWholeText()) {
         QTextCursor cursor = edit_->textCursor();
         const QTextCharFormat format = charFormat(font);
@@ -113,7 +113,7 @@ void TextEntry::setTextFont(const TextFont& font) {
 }
 
 void TextEntry::setPlainFont(const QFont& font) {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     if (edit_ && rich() && !loadedRich_) clearFormats();
     field()->setFont(font);
     placeField();
@@ -143,7 +143,7 @@ TextFont TextEntry::textFont() const {
 // --------------------------------------------------------------------------------------------------- paragraphs
 
 void TextEntry::setParagraph(const Paragraph& paragraph) {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     if (line_ || !rich()) {
         if (paragraph.justify) {
             options_.justify = *paragraph.justify;
@@ -189,7 +189,7 @@ QList<double> TextEntry::tabStops() const {
 
 void TextEntry::setTabStops(const QList<double>& stops) {
     if (!edit_) return;
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     QList<QTextOption::Tab> tabs;
     for (double stop : stops) tabs.append(QTextOption::Tab(stop, QTextOption::LeftTab));
     QTextBlockFormat format;
@@ -226,7 +226,7 @@ bool TextEntry::save(const std::string& path) const {
 
 void TextEntry::setHighlighting(SyntaxLanguage language, std::function<QColor(int)> colour) {
     if (!edit_) return;
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     if (language == SyntaxLanguage::None) {
         delete std::exchange(highlighter_, nullptr).data(); // what it signals on its way finds it gone
         showLinks(*edit_->document(), options_.autoUrl);
@@ -243,7 +243,7 @@ void TextEntry::setHighlighting(SyntaxLanguage language, std::function<QColor(in
 }
 
 void TextEntry::refreshHighlighting() {
-    Quiet quiet(*this);
+    const ProgramDoing::Mark mark(program_);
     if (highlighter_) highlighter_->refresh();
 }
 
