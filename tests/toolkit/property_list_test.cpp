@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QTableView>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 using namespace orba::testing;
@@ -182,6 +183,33 @@ TEST(PropertyLists, ChoosingFromAComboCell) {
     ASSERT_EQ(own.size(), 1U);
     EXPECT_EQ(own[0].callback, 15397) << "a callback of its own goes before the list's";
     EXPECT_EQ(sheet.text(Sheet::TYPE), "Default Button");
+}
+
+// A key that the row's cell has no use for ends there.
+TEST(PropertyLists, AnyKeyOnAnyRowComesToAnEnd) {
+    const Sheet sheet;
+    for (int row = Sheet::NAME; row <= Sheet::LABEL; ++row) {
+        SCOPED_TRACE(row);
+        owSelectProperty(sheet.list, row);
+        viewOf(sheet.list)->setFocus();
+        for (const char* key : {"x", "?", " ", "1", "S"}) typeKeys(key);
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_F9, Qt::Key_Insert}) typeKey(key);
+        EXPECT_TRUE(viewOf(sheet.list)->isVisible());
+        while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+    }
+    events();
+}
+
+TEST(PropertyLists, TheWheelOverACellChangesNoValue) {
+    const Sheet sheet;
+    owSelectProperty(sheet.list, Sheet::TYPE);
+    settle();
+    QWidget* combo = viewOf(sheet.combo);
+    const QPointF at(combo->rect().center());
+    QWheelEvent wheel(at, combo->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(combo, &wheel);
+    settle();
+    EXPECT_EQ(sheet.text(Sheet::TYPE), "Standard");
 }
 
 TEST(PropertyLists, NumbersAreEnteredWithReturnAndByLeaving) {

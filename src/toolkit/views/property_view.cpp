@@ -498,7 +498,17 @@ void PropertyView::moveEditor(int step) {
         }
 }
 
+// A key that the cell has no use for goes on to the cell's parents, this table among them.
+void PropertyView::handToCell(QKeyEvent* event) {
+    QWidget* target = editor_ ? editor_.data() : cellWidget();
+    if (!target) return event->ignore();
+    handing_ = true;
+    QApplication::sendEvent(target, event);
+    handing_ = false;
+}
+
 void PropertyView::keyPressEvent(QKeyEvent* event) {
+    if (handing_) return event->ignore();
     const int number = currentRow();
     switch (event->key()) {
     case Qt::Key_Up: makeCurrent(number - 1, true); return;
@@ -524,10 +534,11 @@ void PropertyView::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
     const bool isText =
         !typed.isEmpty() && typed.at(0).isPrint() && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
-    if (isText && (editable(number) || cellWidget())) {
+    const QWidget* cell = cellWidget();
+    const bool hadKey = cell && (cell->hasFocus() || cell->isAncestorOf(QApplication::focusWidget()));
+    if (isText && !hadKey && (editable(number) || cell)) {
         editRow(number);
-        QWidget* target = editor_ ? editor_.data() : cellWidget();
-        if (target) QApplication::sendEvent(target, event);
+        handToCell(event);
         return;
     }
     event->ignore();
@@ -547,6 +558,10 @@ bool PropertyView::eventFilter(QObject* watched, QEvent* event) {
     if (!editor) return QTableView::eventFilter(watched, event);
     const auto* widget = qobject_cast<QWidget*>(watched);
     const bool inside = widget && (widget == editor || editor->isAncestorOf(widget));
+    if (event->type() == QEvent::Wheel && inside) {
+        event->ignore(); // scrolls the table; a value is never changed by the way
+        return true;
+    }
     if (event->type() == QEvent::MouseButtonPress && widget && !inside && !QApplication::activePopupWidget() &&
         widget->window() == window())
         finishEditing();

@@ -109,6 +109,7 @@ private:
     bool editable(int number) const;
     void finishEditing(); // takes over and closes the open editor
     void moveEditor(int step);
+    void handToCell(QKeyEvent* event);
     bool movesOn(const QKeyEvent* event, QWidget* editor);
 
     PropertyModel* model_;
@@ -117,6 +118,7 @@ private:
     int changedRow_ = 0;
     int pressedButton_ = 0; // row whose button is held down
     bool dragging_ = false; // the splitter between the columns
+    bool handing_ = false;  // a key is with the current row's cell and must not come back
     ProgramDoing program_;
     bool readOnly_ = false;
     bool gridLines_ = true;
