@@ -6,7 +6,7 @@
 // code font, which depends on the system.
 void loadPreferences(int defaultPointSize);
 
-// Switches the colours of the code off for this session: there are no attributes to show it with.
+// Switches the colours of the code off until the next start: there are no attributes to show them with.
 void syntaxNotAvailable();
 
 // Writes the file. Tells the user when it cannot.
