@@ -1,6 +1,6 @@
 #include "codegen/attributes.h"
 
-#include <array>
+#include "project/widget_types.h"
 
 namespace {
 
@@ -57,7 +57,6 @@ constexpr Attribute inProgramOnly(Attribute row) {
 // --- Conditions.
 
 bool isUserDefined(const N& n) { return n.subType == 1; }
-bool isEntry(const N& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_VALUE_ENTRY; }
 bool isTitled(const N& n) { return n.titleFlag != 0; }
 bool isTitledPanel(const N& n) { return isTitled(n) && n.scrollMode == -1; }
 bool hasText(const N& n) { return !n.text.empty(); }
@@ -72,7 +71,7 @@ constexpr Attribute SIZE = lean(number(owSize, &N::size, 100));
 constexpr Attribute ACCELERATOR = number(owAccel, &N::accel, 0);
 constexpr Attribute DRAG = inProgramOnly(toggle(owDragMode, &N::dragMode));
 constexpr Attribute READ_ONLY = toggle(owReadOnly, &N::readOnly);
-constexpr Attribute READ_ONLY_ENTRY = lean(READ_ONLY, isEntry);
+constexpr Attribute READ_ONLY_ENTRY = lean(READ_ONLY, isEdited);
 constexpr Attribute SCROLL_MODE = onWindows(named(owScrollMode, &N::scrollMode, SCROLL_BARS, "ONOBARS"));
 constexpr Attribute SORT = named(owSort, &N::sorted, LIST_SORT);
 constexpr Attribute USE_ICONS = toggle(owUseIcons, &N::displayIcons);
@@ -165,7 +164,7 @@ constexpr Attribute VALUE[] = {
     BACK_1,
     BACK_2,
     TEXT_COLOUR,
-    lean(FIELD_BORDER, isEntry),
+    lean(FIELD_BORDER, isEdited),
     named(owCharSet, &N::charSet, ALPHANUMERIC),
     OF_ALL_PLACE,
     READ_ONLY_ENTRY,
@@ -331,6 +330,8 @@ constexpr Keyword TREE_IN_C[] = {owIconSet};
 constexpr Attribute PLACED_ONLY[] = {OF_ALL_PLACE};
 
 constexpr AttributesOfType TYPES[] = {
+    {TYPE_FORM, "", {}, {}},
+    {TYPE_MAIN_PANEL, "", {}, {}},
     {TYPE_BUTTON, "owCreatePushButton", BUTTON, BUTTON_IN_C},
     {TYPE_TOGGLE, "owCreateToggleButton", TOGGLE, TOGGLE_IN_C},
     {TYPE_TEXT_ENTRY, "owCreateTextEntry", FIELD, FIELD_IN_C},
@@ -346,19 +347,17 @@ constexpr AttributesOfType TYPES[] = {
     {TYPE_GRAPHICS_FRAME, "owCreateGraphicsFrame", FRAME, FRAME_IN_C},
     {TYPE_TEXT_ARRAY, "owCreateTextArray", ARRAY, ARRAY_IN_C},
     {TYPE_VALUE_ARRAY, "owCreateValueArray", ARRAY, ARRAY_IN_C},
+    {TYPE_TOOL_BAR, "", {}, {}},
     {TYPE_TAB_BOX, "owCreateTabDialogueBox", PLACED_ONLY, {}},
     {TYPE_GAUGE, "owCreateGauge", GAUGE, GAUGE_IN_C},
     {TYPE_PROGRESS_BAR, "owCreateProgressBar", PROGRESS, PROGRESS_IN_C},
     {TYPE_TTY_ENTRY, "owCreateTTYEntry", TTY, TTY_IN_C},
     {TYPE_TREE_VIEW, "owCreateTreeViewBox", TREE, TREE_IN_C},
     {TYPE_TABLE_BOX, "owCreateTableBox", PLACED_ONLY, {}},
+    {TYPE_TOOL_SEPARATOR, "", {}, {}},
+    {TYPE_PANE, "", {}, {}},
 };
-
-constexpr auto BY_TYPE = [] {
-    std::array<const AttributesOfType*, TYPE_PANE - TYPE_FORM + 1> rows{};
-    for (const AttributesOfType& row : TYPES) rows[static_cast<std::size_t>(row.type - TYPE_FORM)] = &row;
-    return rows;
-}();
+static_assert(Missing<missingRow(TYPES)>::none);
 
 // Every attribute of a type is told in C too, once.
 constexpr bool cTellsAll() {
@@ -384,8 +383,9 @@ constexpr std::string_view NAMES[] = {
 
 std::string_view keywordName(Keyword keyword) { return NAMES[static_cast<std::size_t>(keyword)]; }
 
-const AttributesOfType* attributesOf(int type) {
-    return type >= TYPE_FORM && type <= TYPE_PANE ? BY_TYPE[static_cast<std::size_t>(type - TYPE_FORM)] : nullptr;
+const AttributesOfType* attributesOf(WidgetType type) {
+    const AttributesOfType* row = rowOf(TYPES, type);
+    return row != nullptr && !row->routine.empty() ? row : nullptr;
 }
 
 bool isTold(const Attribute& attribute, const WidgetNode& node) {

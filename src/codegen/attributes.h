@@ -58,13 +58,13 @@ struct Attribute {
 
 struct AttributesOfType {
     WidgetType type;
-    std::string_view routine;
+    std::string_view routine;              // empty for a type that is created in words of its own
     std::span<const Attribute> attributes; // in the order of Fortran 90
     std::span<const Keyword> inC;          // those of C and its line ends, between help and place
 };
 
 // Null for the types that are created in words of their own: windows, bars and what stands on them.
-const AttributesOfType* attributesOf(int type);
+const AttributesOfType* attributesOf(WidgetType type);
 
 // Whether an attribute is told at all where standards are told too: in C and by live creation.
 bool isTold(const Attribute& attribute, const WidgetNode& node);

@@ -62,13 +62,13 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
 
 void beginRoutine(Generation& g, const WidgetNode& form) {
     if (g.masterWritten) write(g, "}\n"); // of the form before
-    const std::uint64_t types = typesBelow(form);
+    const TypeSet types = typesBelow(form);
     write(g, "void Generate%s(void)\n", form.name);
     write(g, "{\n");
-    if (holdsType(types, TYPE_GRAPHICS_FRAME)) write(g, "   static OLIMIT Graphics_frame;\n");
-    if (holdsType(types, TYPE_SLIDER)) write(g, "   static OWIDGET Slider_attribs;\n");
+    if (types.holds(TYPE_GRAPHICS_FRAME)) write(g, "   static OLIMIT Graphics_frame;\n");
+    if (types.holds(TYPE_SLIDER)) write(g, "   static OWIDGET Slider_attribs;\n");
     if (hasStatusBar(form)) write(g, "   int ISTBAR[32];\n");
-    if (holdsType(types, TYPE_TEXT_ARRAY) || holdsType(types, TYPE_VALUE_ARRAY)) {
+    if (types.holds(TYPE_TEXT_ARRAY) || types.holds(TYPE_VALUE_ARRAY)) {
         write(g, "   static OARRAYCELL arrayattribs;\n");
     }
 }

@@ -3,7 +3,7 @@
 
 #include "codegen/generation.h"
 
-extern const std::span<const CreationRow> C_CREATION;
+extern const CreationRows& C_CREATION;
 
 // At the start of each further line of a statement.
 inline constexpr std::string_view CONTINUATION = "              \t";

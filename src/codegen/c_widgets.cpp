@@ -341,7 +341,7 @@ void createTableBox(Generation& g, const Placed& w) {
     writeFont(g, w);
 }
 
-constexpr CreationRow CREATION[] = {
+constexpr CreationRows CREATION = {
     {TYPE_FORM, createCForm},
     {TYPE_MAIN_PANEL, createCMainPanel},
     {TYPE_BUTTON, createButton},
@@ -369,10 +369,11 @@ constexpr CreationRow CREATION[] = {
     {TYPE_TOOL_SEPARATOR, createToolSeparator},
     {TYPE_PANE, createPane},
 };
+static_assert(Missing<missingRow(CREATION)>::none);
 
 } // namespace
 
-const std::span<const CreationRow> C_CREATION = CREATION;
+const CreationRows& C_CREATION = CREATION;
 
 void writeOrigin(Generation& g, const WidgetNode& node) {
     writeNamed(g, "owHpos", HORIZONTAL_ORIGIN, node.hpos);

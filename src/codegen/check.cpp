@@ -68,12 +68,9 @@ struct OtherText {
     bool (*written)(const WidgetNode&);
 };
 
-bool isArray(const WidgetNode& node) { return node.type == TYPE_TEXT_ARRAY || node.type == TYPE_VALUE_ARRAY; }
 bool hasHelp(const WidgetNode& node) {
-    constexpr WidgetType WITHOUT[] = {TYPE_FORM,      TYPE_MAIN_PANEL, TYPE_TOOL_BAR,       TYPE_TAB_BOX,
-                                      TYPE_TREE_VIEW, TYPE_TABLE_BOX,  TYPE_TOOL_SEPARATOR, TYPE_PANE};
     if (node.type == TYPE_SLIDER) return languageOf(project.projectLanguage).sliderHelp;
-    return std::find(std::begin(WITHOUT), std::end(WITHOUT), node.type) == std::end(WITHOUT);
+    return is(node, HAS_HELP);
 }
 bool hasNamedImage(const WidgetNode& node) {
     if (node.type == TYPE_FORM || node.type == TYPE_ICON) return node.format == 3;
@@ -109,9 +106,8 @@ TextUse textUse(const WidgetNode& node) {
 }
 
 const char* textProperty(const WidgetNode& node) {
-    constexpr WidgetType TITLED[] = {TYPE_FORM, TYPE_PANEL, TYPE_RADIO_BOX, TYPE_TOOL_BAR, TYPE_PANE};
     if (textUse(node) == SEVERAL_LINES) return "Text";
-    return std::find(std::begin(TITLED), std::end(TITLED), node.type) != std::end(TITLED) ? "Title" : "Label";
+    return is(node, IS_TITLED) ? "Title" : "Label";
 }
 
 void checkOwnText(TextCheck& check, const WidgetNode& node) {

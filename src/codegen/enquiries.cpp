@@ -9,15 +9,6 @@
 #include <algorithm>
 #include <limits>
 
-bool isDynamic(const WidgetNode& form) {
-    return form.formType == FORM_DYNAMIC_SDI || form.formType == FORM_DYNAMIC_MDI;
-}
-bool isMdiChild(const WidgetNode& form) {
-    return form.formType == FORM_STATIC_MDI || form.formType == FORM_DYNAMIC_MDI;
-}
-bool isMaster(const WidgetNode& node) {
-    return node.type == TYPE_FORM && (node.formType == FORM_MASTER_SDI || node.formType == FORM_MASTER_MDI);
-}
 bool hasStatusBar(const WidgetNode& form) { return project.projectPlatform == 'w' && form.statusBar != nullptr; }
 
 // A lone blank is what an empty field of the preferences holds.
@@ -38,15 +29,11 @@ bool hasListEntries(const WidgetNode& list) {
     return list.contents == 0 && list.listEntries != nullptr && !list.listEntries->text.empty();
 }
 
-std::uint64_t typesBelow(const WidgetNode& form) {
-    std::uint64_t types = 0;
-    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
-        if (node->type >= TYPE_FORM && node->type <= TYPE_PANE) types |= std::uint64_t{1} << (node->type - TYPE_FORM);
-    }
+TypeSet typesBelow(const WidgetNode& form) {
+    TypeSet types;
+    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) types.add(node->type);
     return types;
 }
-
-bool holdsType(std::uint64_t types, WidgetType type) { return (types >> (type - TYPE_FORM) & 1) != 0; }
 
 int difference(int a, int b) { return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b)); }
 
@@ -58,13 +45,10 @@ int wholeNumber(float value) {
 
 bool hasStandardFace(const WidgetNode& node) { return node.fontFace == "MS Sans Serif" && node.pointSize == 10; }
 
-bool isPlainText(const WidgetNode& node) {
-    return (node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL) && node.subType != 1;
-}
+bool isPlainText(const WidgetNode& node) { return isText(node) && node.subType != 1; }
 
 std::string fieldText(const WidgetNode& node) {
-    const bool rich = (node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL) && !isPlainText(node);
-    return rich ? withoutRichLineFeeds(node.text) : node.text;
+    return isText(node) && !isPlainText(node) ? withoutRichLineFeeds(node.text) : node.text;
 }
 
 bool needsFont(const Generation& g, const Placed& widget) {
@@ -74,8 +58,8 @@ bool needsFont(const Generation& g, const Placed& widget) {
         node.bold == 0 && node.italic == 0 && node.underline == 0 && node.strikeout == 0 && node.charSet == 0;
     if (!hasStandardFace(node) || !plain) return true;
     if (!isPlainText(node)) return false;
-    const bool inPane = node.parent != nullptr && node.parent->type == TYPE_PANE;
-    const bool singleLine = (project.gridMode != 0 ? node.height == 1 : node.height <= 25) && !inPane;
+    const bool singleLine =
+        (project.gridMode != 0 ? node.height == 1 : node.height <= 25) && !standsIn(node, TYPE_PANE);
     return !singleLine && node.justify != -1;
 }
 

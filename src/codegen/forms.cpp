@@ -13,60 +13,9 @@
 
 namespace {
 
-// How a widget's size becomes the size of its creation call. With `expand` on, a size that the toolkit works out
-// itself is written as 0.
-enum SizingRule {
-    AS_IT_IS,        // both sizes as they are
-    BY_ORIGIN,       // each size that the origin centres gives way
-    WIDTH_GIVES_WAY, // the width alone, wherever the origin is
-    LIST_BY_ORIGIN,  // as by origin, with a width of 1 where that is 0
-};
-
-struct WidgetText {
-    WidgetType type;
-    SizingRule rule;
-    std::string_view noun;      // of the comment in Fortran 90 and C
-    std::string_view nounFixed; // in Fortran 77; empty for no comment
-};
-
-constexpr WidgetText WIDGET_TEXTS[] = {
-    {TYPE_BUTTON, BY_ORIGIN, "button", "button"},
-    {TYPE_TOGGLE, WIDTH_GIVES_WAY, "toggle button", "toggle button"},
-    {TYPE_TEXT_ENTRY, BY_ORIGIN, "text widget", "editable text entry"},
-    {TYPE_TEXT_LABEL, BY_ORIGIN, "text widget", "text label"},
-    {TYPE_VALUE_ENTRY, WIDTH_GIVES_WAY, "value entry", "editable value entry"},
-    {TYPE_VALUE_LABEL, WIDTH_GIVES_WAY, "value entry", "static value entry"},
-    {TYPE_ICON, BY_ORIGIN, "icon", "icon"},
-    {TYPE_LIST_BOX, LIST_BY_ORIGIN, "list box", "list box"},
-    {TYPE_SLIDER, BY_ORIGIN, "slider", "slider"},
-    {TYPE_PANEL, AS_IT_IS, "panel", "panel"},
-    {TYPE_COMBO_BOX, WIDTH_GIVES_WAY, "combo box", "combo box"},
-    {TYPE_RADIO_BOX, BY_ORIGIN, "radio box child", "radio box child"},
-    {TYPE_GRAPHICS_FRAME, BY_ORIGIN, "graphics frame", "graphics frame"},
-    {TYPE_TEXT_ARRAY, BY_ORIGIN, "text array", "text array"},
-    {TYPE_VALUE_ARRAY, BY_ORIGIN, "value array", "value array"},
-    {TYPE_TOOL_BAR, AS_IT_IS, "ToolBar", "ToolBar"},
-    {TYPE_TAB_BOX, BY_ORIGIN, "tabdded dialogue box", "tabbed dialogue box"},
-    {TYPE_GAUGE, BY_ORIGIN, "gauge", "gauge"},
-    {TYPE_PROGRESS_BAR, BY_ORIGIN, "progress bar", "progress bar"},
-    {TYPE_TTY_ENTRY, BY_ORIGIN, "TTY entry", "TTY entry"},
-    {TYPE_TREE_VIEW, BY_ORIGIN, "tree view", "tree view"},
-    {TYPE_TABLE_BOX, BY_ORIGIN, "table box view", "table box view"},
-    {TYPE_TOOL_SEPARATOR, AS_IT_IS, "ToolBar Separator", "ToolBar Separator"},
-    {TYPE_PANE, AS_IT_IS, "Docking Pane", ""},
-};
-
-const WidgetText* widgetText(int type) {
-    static const auto byType = [] {
-        std::array<const WidgetText*, TYPE_PANE - TYPE_FORM + 1> rows{};
-        for (const WidgetText& row : WIDGET_TEXTS) rows[static_cast<std::size_t>(row.type - TYPE_FORM)] = &row;
-        return rows;
-    }();
-    return type >= TYPE_FORM && type <= TYPE_PANE ? byType[static_cast<std::size_t>(type - TYPE_FORM)] : nullptr;
-}
-
-void applySizing(Placed& widget, SizingRule rule) {
+void applySizing(Placed& widget) {
     const WidgetNode& node = widget.node;
+    const SizingRule rule = cardOf(node).sizing;
     if (node.expand == 0 || rule == AS_IT_IS) return;
     if (rule == WIDTH_GIVES_WAY) {
         widget.width = 0;
@@ -76,13 +25,17 @@ void applySizing(Placed& widget, SizingRule rule) {
     if (node.vpos == 0) widget.height = 0;
 }
 
-void writeComment(Generation& g, const Placed& widget, const WidgetText& text) {
+void writeComment(Generation& g, const Placed& widget) {
+    const TypeCard& card = cardOf(widget.node);
+    const std::string_view noun =
+        card.nounFixed != nullptr && !g.language.commentsLikeFree ? card.nounFixed : card.noun;
+    if (noun.empty()) return;
     if (g.language.commentsLikeFree) {
-        write(g, "\n%s Create %s %s child of %s\n", g.facts.comment, text.noun, widget.node.name, widget.parent);
+        write(g, "\n%s Create %s %s child of %s\n", g.facts.comment, noun, widget.node.name, widget.parent);
     } else if (widget.node.type == TYPE_BUTTON && widget.node.onToolbar == 1) {
         write(g, "C create ToolBar Button %s child of %s\n", widget.node.name, widget.parent);
-    } else if (!text.nounFixed.empty()) {
-        write(g, "C create %s %s child of %s\n", text.nounFixed, widget.node.name, widget.parent);
+    } else {
+        write(g, "C create %s %s child of %s\n", noun, widget.node.name, widget.parent);
     }
 }
 
@@ -107,12 +60,9 @@ void writeStatus(Generation& g, const WidgetNode& node) {
 
 // A widget's own text; what hangs below it follows by the walk.
 void writeWidget(Generation& g, const Placed& widget) {
-    const int type = widget.node.type;
-    if (type >= TYPE_FORM && type <= TYPE_PANE) {
-        if (const WidgetText* text = widgetText(type)) writeComment(g, widget, *text);
-        const CreationWriter create = g.creation[static_cast<std::size_t>(type - TYPE_FORM)];
-        if (create != nullptr) create(g, widget);
-    }
+    writeComment(g, widget);
+    const CreationRow* creation = rowOf(g.language.creation, widget.node.type);
+    if (creation != nullptr && creation->write != nullptr) creation->write(g, widget);
     writeDefineCalls(g, widget.node);
     writeStatus(g, widget.node);
 }
@@ -122,9 +72,9 @@ void writeWidget(Generation& g, const Placed& widget) {
 void writeFormRoutine(Generation& g, const WidgetNode& form) {
     for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
         // Tool bars and panes live on the window itself, not on its main panel.
-        const bool onWindow = node->type == TYPE_TOOL_BAR || node->type == TYPE_PANE || node->parent == nullptr;
+        const bool onWindow = isBarOrPane(*node) || node->parent == nullptr;
         Placed widget{*node, form, onWindow ? form.name : node->parent->name, node->width, node->height};
-        if (const WidgetText* text = widgetText(node->type)) applySizing(widget, text->rule);
+        applySizing(widget);
         writeWidget(g, widget);
         passOn(g);
     }

@@ -3,7 +3,7 @@
 
 #include "codegen/generation.h"
 
-extern const std::span<const CreationRow> FORTRAN_77_CREATION;
+extern const CreationRows& FORTRAN_77_CREATION;
 
 void writeHelpStatement(Generation& g, std::string_view name, std::string_view help); // nothing for an empty one
 

@@ -145,7 +145,7 @@ void beginRoutine(Generation& g, const WidgetNode& form) {
         write(g, "      END SUBROUTINE\n");
     }
     write(g, "      SUBROUTINE GENERATE%s\n", form.name);
-    if (holdsType(typesBelow(form), TYPE_SLIDER)) {
+    if (typesBelow(form).holds(TYPE_SLIDER)) {
         write(g, "      INTEGER OWDIVALUES(42)\n");
         write(g, "      REAL OWDRVALUES(6)\n");
         write(g, "      CHARACTER * 256 OWDTEXTSTRING\n");
@@ -536,7 +536,7 @@ void createToolSeparator(Generation& g, const Placed& w) {
 }
 
 // Docking panes are unknown to the old interface.
-constexpr CreationRow CREATION[] = {
+constexpr CreationRows CREATION = {
     {TYPE_FORM, createForm},
     {TYPE_MAIN_PANEL, createMainPanel},
     {TYPE_BUTTON, createButton},
@@ -562,11 +562,13 @@ constexpr CreationRow CREATION[] = {
     {TYPE_TREE_VIEW, createTreeView},
     {TYPE_TABLE_BOX, createTableBox},
     {TYPE_TOOL_SEPARATOR, createToolSeparator},
+    {TYPE_PANE, nullptr},
 };
+static_assert(Missing<missingRow(CREATION)>::none);
 
 } // namespace
 
-const std::span<const CreationRow> FORTRAN_77_CREATION = CREATION;
+const CreationRows& FORTRAN_77_CREATION = CREATION;
 
 void writeHelpStatement(Generation& g, std::string_view name, std::string_view help) {
     if (!help.empty()) writeSplit(g, "      CALL WIDHLP(%s,2,'%s')\n", name, fortranText(help));

@@ -3,7 +3,7 @@
 
 #include "codegen/generation.h"
 
-extern const std::span<const CreationRow> FORTRAN_90_CREATION;
+extern const CreationRows& FORTRAN_90_CREATION;
 
 // The constant of a dynamic form's module that stands for its parent.
 std::string_view parentConstant(const WidgetNode& form);

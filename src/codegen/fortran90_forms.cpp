@@ -69,11 +69,11 @@ void writeStatusBar(Generation& g, const WidgetNode& form) {
 
 void createFreeForm(Generation& g, const Placed& w) {
     const WidgetNode& form = w.node;
-    const std::uint64_t types = typesBelow(form);
+    const TypeSet types = typesBelow(form);
     write(g, "subroutine Generate%s\n", form.name);
-    if (holdsType(types, TYPE_SLIDER)) write(g, "type (OWIDGET) :: Slider_attribs\n");
+    if (types.holds(TYPE_SLIDER)) write(g, "type (OWIDGET) :: Slider_attribs\n");
     if (hasStatusBar(form)) write(g, "integer :: ISTBAR(32)\n");
-    if (holdsType(types, TYPE_TEXT_ARRAY) || holdsType(types, TYPE_VALUE_ARRAY)) {
+    if (types.holds(TYPE_TEXT_ARRAY) || types.holds(TYPE_VALUE_ARRAY)) {
         write(g, "type(OARRAYCELL) arrayattribs\n");
     }
 

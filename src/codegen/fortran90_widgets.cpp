@@ -305,7 +305,7 @@ void createTableBox(Generation& g, const Placed& w) {
     writeFont(g, w);
 }
 
-constexpr CreationRow CREATION[] = {
+constexpr CreationRows CREATION = {
     {TYPE_FORM, createFreeForm},
     {TYPE_MAIN_PANEL, createFreeMainPanel},
     {TYPE_BUTTON, createButton},
@@ -333,10 +333,11 @@ constexpr CreationRow CREATION[] = {
     {TYPE_TOOL_SEPARATOR, createToolSeparator},
     {TYPE_PANE, createPane},
 };
+static_assert(Missing<missingRow(CREATION)>::none);
 
 } // namespace
 
-const std::span<const CreationRow> FORTRAN_90_CREATION = CREATION;
+const CreationRows& FORTRAN_90_CREATION = CREATION;
 
 void addPosition(Generation& g, const WidgetNode& node) {
     addNamed(g, "owHpos", HORIZONTAL_ORIGIN, node.hpos);

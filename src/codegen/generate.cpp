@@ -125,8 +125,6 @@ bool generateText(const std::string& path, GeneratedText& generated, const TextS
                  .base = basePath(path)};
     g.windows = project.projectPlatform == 'w';
     g.windowCallbacks = anyWindowCallback();
-    for (const CreationRow& row : language.creation)
-        g.creation[static_cast<std::size_t>(row.type - TYPE_FORM)] = row.write;
     noteForms(g, master);
     writeProgram(g);
     if (sink) {
@@ -158,8 +156,7 @@ namespace {
 // Sizes that the user has dragged on live arrays come into the records.
 void storeArraySizes() {
     for (WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
-        if (node->type == TYPE_TEXT_ARRAY || node->type == TYPE_VALUE_ARRAY || node->type == TYPE_TABLE_BOX)
-            host.storeArrayGeometry(*node);
+        if (is(*node, HAS_CELLS)) host.storeArrayGeometry(*node);
     }
 }
 

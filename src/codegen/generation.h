@@ -7,9 +7,9 @@
 #include "codegen/text.h"
 #include "codegen/values.h"
 #include "project/language.h"
+#include "project/widget_types.h"
 
 #include <array>
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -53,8 +53,9 @@ using CreationWriter = void (*)(Generation&, const Placed&);
 
 struct CreationRow {
     WidgetType type;
-    CreationWriter write;
+    CreationWriter write; // null for a type that the language has no words for
 };
+using CreationRows = CreationRow[WIDGET_TYPES];
 
 // One language: fixed texts, formats with the places named behind them, and writers for what has a shape of its own.
 struct Language {
@@ -86,7 +87,7 @@ struct Language {
     void (*programHead)(Generation&);
     void (*actionLoop)(Generation&);
     void (*termination)(Generation&);
-    std::span<const CreationRow> creation;
+    const CreationRows& creation;
     void (*menuBar)(Generation&, const MenuEntryRec& bar, const WidgetNode& form);
     void (*pullDown)(Generation&, const MenuEntryRec& menu, std::string_view above);
     void (*menuEntry)(Generation&, const MenuEntryRec& entry, std::string_view owner);
@@ -121,8 +122,7 @@ struct Generation {
     std::vector<const WidgetNode*> forms{}; // in walking order: the master first
     // The forms that each menu entry opens, in chain order, by the name of their parent.
     std::unordered_map<std::string_view, std::vector<const WidgetNode*>> formsByParent{};
-    std::unordered_set<const WidgetNode*> ownModules{};               // forms written as modules of their own so far
-    std::array<CreationWriter, TYPE_PANE - TYPE_FORM + 1> creation{}; // by type
+    std::unordered_set<const WidgetNode*> ownModules{}; // forms written as modules of their own so far
 };
 
 // --- Writing. A format's places are filled as in text.h.
@@ -143,18 +143,14 @@ void pasteCode(Generation& g, PastedCode place, std::string_view code, bool inde
 
 // --- Enquiries.
 
-bool isDynamic(const WidgetNode& form);
-bool isMdiChild(const WidgetNode& form);
-bool isMaster(const WidgetNode& node);
 bool hasStatusBar(const WidgetNode& form); // one that a Windows program shows
 bool checksConfiguration();                // the program looks for its configuration file itself
 bool hasWindowCode(const WidgetNode& node);
 bool needsGeneralCallback(const WidgetNode& node); // for its own code or for a window slot
 bool hasListEntries(const WidgetNode& list);       // of the user's own
-std::uint64_t typesBelow(const WidgetNode& form);  // one bit for each type of the form and below
-bool holdsType(std::uint64_t types, WidgetType type);
-int difference(int a, int b); // without overflow: a file may hold any numbers
-int wholeNumber(float value); // truncated, held to what an integer can be
+TypeSet typesBelow(const WidgetNode& form);        // of the form and below
+int difference(int a, int b);                      // without overflow: a file may hold any numbers
+int wholeNumber(float value);                      // truncated, held to what an integer can be
 
 // The font of a widget asks for a statement. `standardFace`: it has the standard face and size.
 bool hasStandardFace(const WidgetNode& node);

@@ -5,6 +5,7 @@
 #include "menu-c.h"
 #include "project/code_stores.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/dialogue_keys.h"
 #include "surface/event.h"
@@ -24,7 +25,7 @@ struct Family {
     int command;
     const char* title; // of the chooser
     Source source;
-    int types[2];
+    WidgetType types[2];
 };
 
 const Family FAMILIES[] = {
@@ -71,11 +72,11 @@ const Family FAMILIES[] = {
 };
 
 // The order in which all child widgets are listed.
-constexpr int ALL_TYPES[] = {TYPE_BUTTON,      TYPE_COMBO_BOX,   TYPE_GAUGE,      TYPE_GRAPHICS_FRAME, TYPE_ICON,
-                             TYPE_LIST_BOX,    TYPE_PANE,        TYPE_PANEL,      TYPE_PROGRESS_BAR,   TYPE_RADIO_BOX,
-                             TYPE_SLIDER,      TYPE_TAB_BOX,     TYPE_TABLE_BOX,  TYPE_TEXT_ARRAY,     TYPE_TEXT_ENTRY,
-                             TYPE_TEXT_LABEL,  TYPE_TOGGLE,      TYPE_TOOL_BAR,   TYPE_TREE_VIEW,      TYPE_TTY_ENTRY,
-                             TYPE_VALUE_ARRAY, TYPE_VALUE_ENTRY, TYPE_VALUE_LABEL};
+constexpr WidgetType ALL_TYPES[] = {
+    TYPE_BUTTON,    TYPE_COMBO_BOX,  TYPE_GAUGE,        TYPE_GRAPHICS_FRAME, TYPE_ICON,       TYPE_LIST_BOX,
+    TYPE_PANE,      TYPE_PANEL,      TYPE_PROGRESS_BAR, TYPE_RADIO_BOX,      TYPE_SLIDER,     TYPE_TAB_BOX,
+    TYPE_TABLE_BOX, TYPE_TEXT_ARRAY, TYPE_TEXT_ENTRY,   TYPE_TEXT_LABEL,     TYPE_TOGGLE,     TYPE_TOOL_BAR,
+    TYPE_TREE_VIEW, TYPE_TTY_ENTRY,  TYPE_VALUE_ARRAY,  TYPE_VALUE_ENTRY,    TYPE_VALUE_LABEL};
 
 struct Chooser {
     int popup = 0;
@@ -85,11 +86,7 @@ struct Chooser {
 
 using Names = std::vector<std::string>;
 
-bool isDynamic(const WidgetNode& form) {
-    return form.formType == FORM_DYNAMIC_SDI || form.formType == FORM_DYNAMIC_MDI;
-}
-
-void addType(Names& names, int type) {
+void addType(Names& names, WidgetType type) {
     for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
         if (node->type == type) names.push_back(node->name);
 }
@@ -127,11 +124,11 @@ Names namesOf(const Family& family) {
     Names names;
     switch (family.source) {
     case Source::Types:
-        for (const int type : family.types)
-            if (type) addType(names, type);
+        for (const WidgetType type : family.types)
+            if (type != TYPE_NONE) addType(names, type);
         break;
     case Source::AllWidgets:
-        for (const int type : ALL_TYPES) addType(names, type);
+        for (const WidgetType type : ALL_TYPES) addType(names, type);
         break;
     case Source::Forms: addForms(names, false); break;
     case Source::DynamicForms: addForms(names, true); break;

@@ -113,9 +113,7 @@ int entrySlotIndexOf(std::string_view name) {
 
 std::vector<WidgetSlot> offeredSlots(const WidgetNode& node) {
     std::vector<WidgetSlot> slots;
-    const WidgetTypeRow* row = widgetType(node.type);
-    if (!row) return slots;
-    for (const OfferedSlot& offered : row->slots) {
+    for (const OfferedSlot& offered : cardOf(node).slots) {
         if (offered.condition == SLOT_ON_WINDOWS && project.projectPlatform != 'w') continue;
         if (offered.condition == SLOT_ON_MASTER_MDI && node.formType != FORM_MASTER_MDI) continue;
         slots.push_back(offered.slot);

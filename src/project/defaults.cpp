@@ -2,15 +2,16 @@
 
 #include "project/host.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 
-#include <algorithm>
+#include <initializer_list>
 
-const std::array<WidgetType, DEFAULT_RECORDS> defaultOrder = {
-    TYPE_FORM,         TYPE_TAB_BOX,     TYPE_PANEL,      TYPE_TOOL_BAR,   TYPE_LIST_BOX,       TYPE_COMBO_BOX,
-    TYPE_BUTTON,       TYPE_TOGGLE,      TYPE_TEXT_LABEL, TYPE_TEXT_ENTRY, TYPE_TEXT_ARRAY,     TYPE_VALUE_LABEL,
-    TYPE_VALUE_ENTRY,  TYPE_VALUE_ARRAY, TYPE_SLIDER,     TYPE_ICON,       TYPE_GRAPHICS_FRAME, TYPE_GAUGE,
-    TYPE_PROGRESS_BAR, TYPE_TTY_ENTRY,   TYPE_TREE_VIEW,  TYPE_TABLE_BOX,  TYPE_TOOL_SEPARATOR, TYPE_PANE,
-};
+const std::array<WidgetType, DEFAULT_RECORDS> defaultOrder = [] {
+    std::array<WidgetType, DEFAULT_RECORDS> order{};
+    for (const TypeCard& card : typeCards())
+        if (card.defaultPlace > 0) order[static_cast<std::size_t>(card.defaultPlace - 1)] = card.type;
+    return order;
+}();
 
 std::array<WidgetNode*, DEFAULT_RECORDS> defaultRecords{};
 
@@ -35,18 +36,19 @@ struct Built {
     WidgetType type;
     int width;
     int height;
-    std::vector<Value> values;
+    std::initializer_list<Value> values;
 };
 
 // clang-format off
-const std::vector<Value> arrayValues = {
+constexpr std::initializer_list<Value> arrayValues = {
     {&W::columns, 10}, {&W::rows, 10}, {&W::subType, 4}, {&W::borderType, 2}, {&W::colour1, 12}, {&W::colour3, 1},
     {&W::colour4, 1}, {&W::yLabelsWidth, -1}, {&W::xLabelsHeight, -1}, {&W::xLabels, "*digits"},
     {&W::yLabels, "*digits"}, {&W::tabAction, 1}, {&W::tabList, 0}};
 
-const std::vector<Built> builtIn = {
+constexpr Built builtIn[] = {
     {TYPE_FORM, 400, 550, {{&W::titleFlag, -1}, {&W::format, 4}, {&W::initialState, 0}, {&W::icon, "Gee"},
                            {&W::parentName, "NONE"}}},
+    {TYPE_MAIN_PANEL, 0, 0, {}}, // made from the form's
     {TYPE_BUTTON, 75, 25, {{&W::size, 100}, {&W::justify, 0}}},
     {TYPE_TOGGLE, 100, 25, {{&W::size, 100}, {&W::colour3, 1}}},
     {TYPE_TEXT_ENTRY, 100, 25, {{&W::size, 100}, {&W::fieldWidth, 255}, {&W::scrollMode, 32763}, {&W::colour3, 16},
@@ -60,6 +62,7 @@ const std::vector<Built> builtIn = {
     {TYPE_SLIDER, 75, 25, {{&W::size, 100}, {&W::maxValue, 5.0F}, {&W::stepValue, 1.0F}, {&W::subType, 32764}}},
     {TYPE_PANEL, 175, 125, {{&W::titleFlag, 1}, {&W::subType, 6}, {&W::scrollMode, -1}}},
     {TYPE_COMBO_BOX, 125, 100, {{&W::editMode, 1}}},
+    {TYPE_RADIO_BOX, 0, 0, {}}, // made from a panel
     {TYPE_GRAPHICS_FRAME, 125, 75, {{&W::xMax, 1000.0F}, {&W::yMax, 750.0F}}},
     {TYPE_TEXT_ARRAY, 150, 150, arrayValues},
     {TYPE_VALUE_ARRAY, 150, 150, arrayValues},
@@ -75,6 +78,7 @@ const std::vector<Built> builtIn = {
     {TYPE_PANE, 150, 150, {{&W::xpos, -1}, {&W::initialPosition, 2}, {&W::titleFlag, 1}}},
 };
 // clang-format on
+static_assert(Missing<missingRow(builtIn)>::none);
 
 void give(WidgetNode& node, const Value& value) {
     if (value.number) node.*value.number = static_cast<int>(value.amount);
@@ -84,9 +88,9 @@ void give(WidgetNode& node, const Value& value) {
 
 } // namespace
 
-WidgetNode* makeDefaultRecord(int type) {
-    const auto row = std::find_if(builtIn.begin(), builtIn.end(), [&](const Built& b) { return b.type == type; });
-    if (row == builtIn.end()) return nullptr;
+WidgetNode* makeDefaultRecord(WidgetType type) {
+    const Built* row = rowOf(builtIn, type);
+    if (!row || cardOf(type).defaultPlace == 0) return nullptr;
     auto* node = new WidgetNode();
     node->type = type;
     node->justify = -1;
@@ -105,17 +109,17 @@ WidgetNode* makeDefaultRecord(int type) {
     return node;
 }
 
-WidgetNode* defaultRecord(int type) {
-    const auto place = std::find(defaultOrder.begin(), defaultOrder.end(), type);
-    if (place == defaultOrder.end()) return nullptr;
-    WidgetNode*& record = defaultRecords[static_cast<std::size_t>(place - defaultOrder.begin())];
+WidgetNode* defaultRecord(WidgetType type) {
+    const int place = cardOf(type).defaultPlace;
+    if (place == 0) return nullptr;
+    WidgetNode*& record = defaultRecords[static_cast<std::size_t>(place - 1)];
     if (!record) record = makeDefaultRecord(type);
     return record;
 }
 
 void makeDefaults() {
     freeDefaults();
-    for (int type : defaultOrder) defaultRecord(type);
+    for (const WidgetType type : defaultOrder) defaultRecord(type);
 }
 
 void freeDefaults() {

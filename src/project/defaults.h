@@ -9,14 +9,14 @@
 inline constexpr int DEFAULT_RECORDS = 24;
 
 // Types of the records in the order of the file.
-extern const std::array<WidgetType, DEFAULT_RECORDS> defaultOrder;
+extern const std::array<WidgetType, DEFAULT_RECORDS> defaultOrder; // by the cards of the types
 
 // The set in force, by the order above; owned here. Null while the set is empty.
 extern std::array<WidgetNode*, DEFAULT_RECORDS> defaultRecords;
 
-WidgetNode* makeDefaultRecord(int type); // built-in values; the caller owns it
-WidgetNode* defaultRecord(int type);     // of the set, built in when the set is empty; null for a type without one
-void makeDefaults();                     // the built-in set
+WidgetNode* makeDefaultRecord(WidgetType type); // built-in values; the caller owns it
+WidgetNode* defaultRecord(WidgetType type); // of the set, built in when the set is empty; null for a type without one
+void makeDefaults();                        // the built-in set
 void freeDefaults();
 
 // From "wdesign.wdd" in `dataDir`, or built in when there is none.

@@ -5,23 +5,13 @@
 #include "project/host.h"
 #include "project/records_io.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 
 namespace {
 
-// Records that later versions added to the file.
-int sinceVersion(int type) {
-    switch (type) {
-    case TYPE_TREE_VIEW:
-    case TYPE_TABLE_BOX: return VERSION_40;
-    case TYPE_TOOL_SEPARATOR: return VERSION_50;
-    case TYPE_PANE: return VERSION_70;
-    default: return VERSION_10;
-    }
-}
-
 // One record, without siblings. Of another type than its place asks for, or with nothing left to read: built in.
-WidgetNode* readDefault(RecordSource& source, int type) {
-    if (source.version < sinceVersion(type) || source.reader.ended) return makeDefaultRecord(type);
+WidgetNode* readDefault(RecordSource& source, WidgetType type) {
+    if (source.version < cardOf(type).defaultSince || source.reader.ended) return makeDefaultRecord(type);
     WidgetNode* record = readRecords(source);
     deleteList(record->next);
     record->next = nullptr;
@@ -69,7 +59,7 @@ bool saveDefaults(const std::string& path) {
     if (saved) {
         writeHeader(writer);
         writeColours(writer);
-        for (int type : defaultOrder) writeRecord(writer, *defaultRecord(type));
+        for (const WidgetType type : defaultOrder) writeRecord(writer, *defaultRecord(type));
         saved = closeWriter(writer, false);
     }
     if (!saved) {

@@ -50,7 +50,7 @@ WidgetNode* mainPanelFor(const WidgetNode& form) {
 // the file may claim.
 bool mendCells(WidgetNode& node) {
     constexpr int MOST = 10000; // beyond those whose sizes the file holds
-    if (node.type != TYPE_TEXT_ARRAY && node.type != TYPE_VALUE_ARRAY && node.type != TYPE_TABLE_BOX) return false;
+    if (!is(node, HAS_CELLS)) return false;
     const auto mendCount = [](int& count, const std::vector<int>& sizes) {
         const int held = static_cast<int>(sizes.size());
         const int sound = count < 0 || count > held + MOST ? held : count;
@@ -78,7 +78,7 @@ std::string resourceName(std::string_view path) {
     return name.substr(0, name.find('.'));
 }
 
-WidgetNode* createFromDefaults(int type, int x, int y) {
+WidgetNode* createFromDefaults(WidgetType type, int x, int y) {
     WidgetNode* source = defaultRecord(type);
     if (!source) return nullptr;
     WidgetNode* node = copyNode(source, false);
@@ -178,8 +178,8 @@ bool mendProject() {
 void recountCounters() {
     std::array<bool, COUNTERS> inUse{};
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
-        const WidgetTypeRow* row = widgetType(node->type);
-        if (row && row->counter != COUNTER_NONE) inUse[static_cast<std::size_t>(row->counter)] = true;
+        const Counter counter = cardOf(*node).counter;
+        if (counter != COUNTER_NONE) inUse[static_cast<std::size_t>(counter)] = true;
     }
     for (std::size_t i = 0; i < inUse.size(); ++i)
         if (!inUse[i]) project.counters[i] = 1;

@@ -30,7 +30,7 @@ constexpr FieldRow table[] = {
     string("parentName", &W::parentName),
     string("bubbleHelp", &W::bubbleHelp, VERSION_20),
     number("formType", &W::formType),
-    number("type", &W::type),
+    {.kind = FIELD_TYPE, .name = "type"},
     number("reserved", &W::reserved),
     number("parentHandle", &W::storedParentHandle),
     number("xpos", &W::xpos),

@@ -32,6 +32,7 @@ inline constexpr std::size_t OLD_BLOCK_BYTES = 32768; // of a code block before 
 
 enum FieldKind {
     FIELD_NUMBER,
+    FIELD_TYPE,   // of the widget, by its code
     FIELD_REAL_G, // "%g"
     FIELD_REAL_F, // "%f"
     FIELD_STRING,

@@ -2,10 +2,9 @@
 #include "project/host.h"
 #include "project/placement.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 
 namespace {
-
-bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
 
 bool refuse(const char* title, const char* text) {
     host.errorBox(title, text);
@@ -65,7 +64,7 @@ void takeOver(const WidgetNode& form) {
 
 bool fitForMasterMdi(const WidgetNode& form) {
     const WidgetNode* first = form.child ? form.child->child : nullptr;
-    return !first || first->type == TYPE_TOOL_BAR || first->type == TYPE_PANE ||
+    return !first || isBarOrPane(*first) ||
            refuse("Change to Master MDI",
                   "Form cannot contain any children for it to be master MDI|Remove child widgets before changing");
 }

@@ -29,16 +29,13 @@ template <typename Visit> void eachName(const WidgetNode& node, Visit visit) {
     }
 }
 
-bool hasDefaultName(const WidgetNode& node) {
-    const WidgetTypeRow* row = widgetType(node.type);
-    return row && row->counter != COUNTER_NONE;
-}
+bool hasDefaultName(const WidgetNode& node) { return cardOf(node).counter != COUNTER_NONE; }
 
 std::string nextDefaultName(const WidgetNode& node, NamesInUse& names) {
-    const WidgetTypeRow* row = widgetType(node.type);
+    const TypeCard& card = cardOf(node);
     const WidgetNode* form = formOf(&node, project.forms);
-    const std::string stem = (form ? form->name : std::string()) + "_" + row->word;
-    int& counter = project.counters[static_cast<std::size_t>(row->counter)];
+    const std::string stem = (form ? form->name : std::string()) + "_" + card.word;
+    int& counter = project.counters[static_cast<std::size_t>(card.counter)];
     std::string name;
     int last = 0;
     do {

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <initializer_list>
+#include <iterator>
 
 namespace {
 
@@ -44,68 +44,45 @@ constexpr char MASTER_MDI[] = "Master MDI Form";
 constexpr char MASTER_MDI_BARE[] = "Cannot place widgets on Master MDI form";
 constexpr char SEPARATOR_PLACE[] = "Toolbar Separators can only be placed on toolbars";
 
-using Codes = std::initializer_list<int>;
-
-bool among(const Codes& codes, int code) { return std::find(codes.begin(), codes.end(), code) != codes.end(); }
-
-const Codes containers = {TYPE_MAIN_PANEL, TYPE_PANEL,   TYPE_RADIO_BOX, TYPE_GRAPHICS_FRAME,
-                          TYPE_TOOL_BAR,   TYPE_TAB_BOX, TYPE_PANE};
-
-// What a click with a tool needs, tested in this order. A rule holds for one type of parent and names the tools that it
-// takes, or for one tool and names the parents that it needs.
+// What a click with a tool needs, tested in this order. A rule holds for one type of parent, which takes what its card
+// says, or for one tool and names the parents that it needs.
 struct PlacementRule {
-    int parent; // 0: any
-    int tool;   // 0: any
-    Codes fits; // tools of a parent's rule, parents of a tool's rule
+    WidgetType parent; // none: any
+    int tool;          // 0: any
+    TypeSet parents;   // of a tool's rule
     const char* refusal;
 };
-const PlacementRule placementRules[] = {
-    {TYPE_TOOL_BAR,
-     0,
-     {TOOL_COMBO_BOX, TOOL_ICON, TOOL_TOOL_SEPARATOR, TOOL_PUSH_BUTTON},
-     "Toolbars can only have combo boxes, buttons, |separators and icons as its children"},
+constexpr PlacementRule placementRules[] = {
+    {TYPE_TOOL_BAR, 0, {}, "Toolbars can only have combo boxes, buttons, |separators and icons as its children"},
     {TYPE_PANE,
      0,
-     {TOOL_LIST_BOX, TOOL_PANEL, TOOL_TAB_BOX, TOOL_TABLE_BOX, TOOL_TREE_VIEW, TOOL_TEXT_ENTRY},
+     {},
      "Docking Panes can only have list boxes, panels, |tab dialogue and table boxes and treeviews|as its children"},
-    {TYPE_TAB_BOX, 0, {TOOL_PANEL}, "Tabbed dialogue boxes can only have panels as children"},
-    {TYPE_RADIO_BOX, 0, {TOOL_RADIO_BUTTON}, "This widget can only have radio buttons as its children"},
-    {0, TOOL_TOOL_BAR, {TYPE_MAIN_PANEL}, "Tool bar widgets can only be placed on forms"},
-    {0, TOOL_PANE, {TYPE_MAIN_PANEL}, "Docking Pane widgets can only be placed on forms"},
-    {0, TOOL_TOOL_SEPARATOR, {TYPE_TOOL_BAR}, SEPARATOR_PLACE},
-    {0,
+    {TYPE_TAB_BOX, 0, {}, "Tabbed dialogue boxes can only have panels as children"},
+    {TYPE_RADIO_BOX, 0, {}, "This widget can only have radio buttons as its children"},
+    {TYPE_NONE, TOOL_TOOL_BAR, {TYPE_MAIN_PANEL}, "Tool bar widgets can only be placed on forms"},
+    {TYPE_NONE, TOOL_PANE, {TYPE_MAIN_PANEL}, "Docking Pane widgets can only be placed on forms"},
+    {TYPE_NONE, TOOL_TOOL_SEPARATOR, {TYPE_TOOL_BAR}, SEPARATOR_PLACE},
+    {TYPE_NONE,
      TOOL_RADIO_BUTTON,
      {TYPE_RADIO_BOX, TYPE_PANEL}, // and no page of a tab box
      "Radio buttons can only be placed inside empty panels"},
-    {TYPE_GRAPHICS_FRAME,
-     0,
-     {TOOL_PANEL, TOOL_TEXT_ENTRY, TOOL_TEXT_LABEL, TOOL_VALUE_ENTRY, TOOL_VALUE_LABEL},
-     "This widget can only have panels, text or value entries as its children"},
+    {TYPE_GRAPHICS_FRAME, 0, {}, "This widget can only have panels, text or value entries as its children"},
 };
 
-// What a chain may hold to be put under a parent of one type.
+// What is said of a chain that holds what a parent of one type does not take.
 struct PasteRule {
-    int parent;
-    bool allows; // false: `types` are those that it refuses
-    Codes types;
+    WidgetType parent;
     const char* refusal;
 };
-const PasteRule pasteRules[] = {
-    {TYPE_PANEL, false, {TYPE_PANE, TYPE_TOOL_BAR}, "Panels can not support Panes or Tool bars"},
-    {TYPE_RADIO_BOX, true, {TYPE_TOGGLE}, "Radio boxes can only support Toggles"},
-    {TYPE_TAB_BOX, true, {TYPE_PANEL}, "Tab Dialogue boxes can only support Panels"},
-    {TYPE_TOOL_BAR,
-     true,
-     {TYPE_BUTTON, TYPE_ICON, TYPE_COMBO_BOX},
-     "Toolbars can only support Buttons, Icons and Combo Boxes"},
+constexpr PasteRule pasteRules[] = {
+    {TYPE_PANEL, "Panels can not support Panes or Tool bars"},
+    {TYPE_RADIO_BOX, "Radio boxes can only support Toggles"},
+    {TYPE_TAB_BOX, "Tab Dialogue boxes can only support Panels"},
+    {TYPE_TOOL_BAR, "Toolbars can only support Buttons, Icons and Combo Boxes"},
     {TYPE_PANE,
-     true,
-     {TYPE_TEXT_ENTRY, TYPE_LIST_BOX, TYPE_PANEL, TYPE_TAB_BOX, TYPE_TREE_VIEW, TYPE_TABLE_BOX},
      "Panes can only support List Boxes, Panels, Tabbed Dialogue Boxes,|Table Boxes, Tree Views and Text Editors"},
-    {TYPE_GRAPHICS_FRAME,
-     true,
-     {TYPE_TEXT_ENTRY, TYPE_TEXT_LABEL, TYPE_VALUE_ENTRY, TYPE_VALUE_LABEL, TYPE_PANEL},
-     "Graphics Frames can only support Panels, Text or Value Entries as children"},
+    {TYPE_GRAPHICS_FRAME, "Graphics Frames can only support Panels, Text or Value Entries as children"},
 };
 
 bool refuse(const char* title, const char* text) {
@@ -115,29 +92,33 @@ bool refuse(const char* title, const char* text) {
 
 void markProjectChanged() { project.projectModified = project.sourceStale = 1; }
 
-bool isTabPage(const WidgetNode& node) { return node.parent && node.parent->type == TYPE_TAB_BOX; }
+// A radio box takes toggles that are radio buttons from the start.
+bool takes(const WidgetNode& parent, const ToolRow& tool) {
+    const bool checkBox = parent.type == TYPE_RADIO_BOX && tool.tool != TOOL_RADIO_BUTTON;
+    return cardOf(parent).takes.holds(tool.type) && !checkBox;
+}
 
-bool keepsRule(const PlacementRule& rule, int tool, const WidgetNode& parent) {
-    if (rule.parent != 0) return rule.parent != parent.type || among(rule.fits, tool);
-    if (rule.tool != tool) return true;
-    if (tool == TOOL_RADIO_BUTTON && parent.type == TYPE_PANEL && isTabPage(parent)) return false;
-    return among(rule.fits, parent.type);
+bool keepsRule(const PlacementRule& rule, const ToolRow& tool, const WidgetNode& parent) {
+    if (rule.parent != TYPE_NONE) return rule.parent != parent.type || takes(parent, tool);
+    if (rule.tool != tool.tool) return true;
+    if (tool.tool == TOOL_RADIO_BUTTON && isTabPage(parent)) return false;
+    return rule.parents.holds(parent.type);
 }
 
 // The record that takes the new widget; null after a refusal.
-WidgetNode* checkedParent(int tool, WidgetNode* parent) {
+WidgetNode* checkedParent(const ToolRow& tool, WidgetNode* parent) {
     if (!parent) {
         refuse("No parent selected", "You must select a parent widget");
         return nullptr;
     }
     const WidgetNode* form = formOf(parent, project.forms);
-    const bool docked = parent->type == TYPE_TOOL_BAR || parent->type == TYPE_PANE;
-    if (form && form->formType == FORM_MASTER_MDI && tool != TOOL_TOOL_BAR && tool != TOOL_PANE && !docked) {
+    const bool docked = isBarOrPane(*parent) || tool.tool == TOOL_TOOL_BAR || tool.tool == TOOL_PANE;
+    if (form && form->formType == FORM_MASTER_MDI && !docked) {
         refuse(MASTER_MDI, MASTER_MDI_BARE);
         return nullptr;
     }
     parent = containerFor(parent);
-    if (!among(containers, parent->type)) {
+    if (cardOf(*parent).takes.empty()) {
         refuse(NO_PARENT, NO_CHILDREN);
         return nullptr;
     }
@@ -175,11 +156,7 @@ std::string numbered(const char* pattern, int number) {
     return text;
 }
 
-int& counterOf(int type) {
-    static int none;
-    const WidgetTypeRow* row = widgetType(type);
-    return row && row->counter != COUNTER_NONE ? project.counters[static_cast<std::size_t>(row->counter)] : none;
-}
+int& counterOf(WidgetType type) { return project.counters[static_cast<std::size_t>(cardOf(type).counter)]; }
 
 void settleByPlatform(WidgetNode& node, bool inRadioBox) {
     const bool windows = project.projectPlatform == 'w';
@@ -218,7 +195,7 @@ const ToolRow* placementTool(int tool) {
 Placement placeWidget(int tool, WidgetNode* givenParent, float clickX, float clickY) {
     Placement placement;
     const ToolRow* row = placementTool(tool);
-    WidgetNode* parent = row ? checkedParent(tool, givenParent) : nullptr;
+    WidgetNode* parent = row ? checkedParent(*row, givenParent) : nullptr;
     if (!parent) return placement;
     clickToPixels(*parent, clickX, clickY);
     WidgetNode* node = createFromDefaults(row->type, wholePosition(clickX), wholePosition(clickY));
@@ -238,17 +215,17 @@ Placement placeWidget(int tool, WidgetNode* givenParent, float clickX, float cli
 }
 
 Refusal refusalToHold(const WidgetNode& target, const Records& records) {
-    if (!among(containers, target.type)) return {NO_PARENT, NO_CHILDREN};
+    const TypeSet& taken = cardOf(target).takes;
+    if (taken.empty()) return {NO_PARENT, NO_CHILDREN};
     const WidgetNode* form = formOf(&target, project.forms);
-    const bool bar = target.type == TYPE_TOOL_BAR || target.type == TYPE_PANE;
-    const bool masterMdi = form && form->formType == FORM_MASTER_MDI && !bar;
+    const bool masterMdi = form && form->formType == FORM_MASTER_MDI && !isBarOrPane(target);
     for (const WidgetNode* node : records) {
-        const bool docked = node->type == TYPE_TOOL_BAR || node->type == TYPE_PANE;
-        if (masterMdi && !docked) return {MASTER_MDI, MASTER_MDI_BARE};
-        for (const PasteRule& rule : pasteRules)
-            if (rule.parent == target.type && among(rule.types, node->type) != rule.allows)
-                return {NO_PARENT, rule.refusal};
-        if (node->type == TYPE_TOOL_SEPARATOR) return {NO_PARENT, SEPARATOR_PLACE};
+        if (masterMdi && !isBarOrPane(*node)) return {MASTER_MDI, MASTER_MDI_BARE};
+        const bool separator = node->type == TYPE_TOOL_SEPARATOR; // placed anew, never pasted
+        const bool fits = taken.holds(node->type) && !(separator && target.type == TYPE_TOOL_BAR);
+        const auto* rule = std::ranges::find(pasteRules, target.type, &PasteRule::parent);
+        if (!fits && rule != std::end(pasteRules)) return {NO_PARENT, rule->refusal};
+        if (separator) return {NO_PARENT, SEPARATOR_PLACE};
     }
     return {};
 }

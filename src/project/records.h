@@ -8,36 +8,38 @@
 #include <string>
 #include <vector>
 
-// Type codes as files hold them. A cleared record that has no type yet holds none.
+// Dense, so that a table over the types is an array. Files know them by codes, see widget_types.h.
 enum WidgetType : int {
-    TYPE_NONE = 2000,
-    TYPE_FORM = 2001,       // a window; top level only
-    TYPE_MAIN_PANEL = 2002, // one per form, its only child
-    TYPE_BUTTON = 2003,
-    TYPE_TOGGLE = 2005, // check box; a radio button as the child of a radio box
-    TYPE_TEXT_ENTRY = 2006,
-    TYPE_TEXT_LABEL = 2007,
-    TYPE_VALUE_ENTRY = 2008,
-    TYPE_VALUE_LABEL = 2009,
-    TYPE_ICON = 2010,
-    TYPE_LIST_BOX = 2012,
-    TYPE_SLIDER = 2013,
-    TYPE_PANEL = 2015,
-    TYPE_COMBO_BOX = 2016,
-    TYPE_RADIO_BOX = 2017, // a panel converted when its first radio button is placed
-    TYPE_GRAPHICS_FRAME = 2018,
-    TYPE_TEXT_ARRAY = 2022,
-    TYPE_VALUE_ARRAY = 2023,
-    TYPE_TOOL_BAR = 2025,
-    TYPE_TAB_BOX = 2027,
-    TYPE_GAUGE = 2028,
-    TYPE_PROGRESS_BAR = 2029,
-    TYPE_TTY_ENTRY = 2030,
-    TYPE_TREE_VIEW = 2031,
-    TYPE_TABLE_BOX = 2032,
-    TYPE_TOOL_SEPARATOR = 2033,
-    TYPE_PANE = 2034, // docking pane
+    TYPE_NONE,       // of a cleared record; also "any" and "no other" in tables
+    TYPE_FORM,       // a window; top level only
+    TYPE_MAIN_PANEL, // one per form, its only child
+    TYPE_BUTTON,
+    TYPE_TOGGLE, // check box; a radio button as the child of a radio box
+    TYPE_TEXT_ENTRY,
+    TYPE_TEXT_LABEL,
+    TYPE_VALUE_ENTRY,
+    TYPE_VALUE_LABEL,
+    TYPE_ICON,
+    TYPE_LIST_BOX,
+    TYPE_SLIDER,
+    TYPE_PANEL,
+    TYPE_COMBO_BOX,
+    TYPE_RADIO_BOX, // a panel converted when its first radio button is placed
+    TYPE_GRAPHICS_FRAME,
+    TYPE_TEXT_ARRAY,
+    TYPE_VALUE_ARRAY,
+    TYPE_TOOL_BAR,
+    TYPE_TAB_BOX,
+    TYPE_GAUGE,
+    TYPE_PROGRESS_BAR,
+    TYPE_TTY_ENTRY,
+    TYPE_TREE_VIEW,
+    TYPE_TABLE_BOX,
+    TYPE_TOOL_SEPARATOR,
+    TYPE_PANE,    // docking pane
+    TYPE_UNKNOWN, // the file's code names no type: the record is kept as it is, neither shown nor generated
 };
+inline constexpr int WIDGET_TYPES = TYPE_UNKNOWN - TYPE_FORM;
 
 enum FormType : int {
     FORM_STATIC_SDI = 0,
@@ -159,7 +161,8 @@ struct WidgetNode {
     std::string name;                // variable name in generated source, unique in the project
     int selected = 0;                // 1 on the current widget
     MenuEntryRec* entries = nullptr; // form: menu; tree view: its entries
-    int type = TYPE_NONE;
+    WidgetType type = TYPE_NONE;
+    int unknownCode = 0;  // of an unknown type, as its file has it
     int parentHandle = 0; // live handle of the parent; not stored
     int reserved = 0;     // kept through load and save; nothing reads it
     int hpos = 0;         // -1 left, 0 centre, 1 right

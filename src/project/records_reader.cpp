@@ -2,14 +2,13 @@
 #include "project/code_stores.h"
 #include "project/records_io.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
 namespace {
-
-bool isArray(int type) { return type == TYPE_TEXT_ARRAY || type == TYPE_VALUE_ARRAY; }
 
 void readTextField(RecordSource& source, WidgetNode& node) {
     if (source.version >= VERSION_30) {
@@ -25,7 +24,7 @@ void takeAbsent(RecordSource& source, WidgetNode& node, const FieldRow& row) {
     switch (row.kind) {
     case FIELD_NUMBER: node.*row.number = row.absent; break;
     case FIELD_STRING: node.*row.string = row.absentText; break;
-    case FIELD_TAB_LIST: node.*row.number = isArray(node.type) ? 0 : 1; break;
+    case FIELD_TAB_LIST: node.*row.number = isArray(node) ? 0 : 1; break;
     case FIELD_GRID_MODE:
         if (source.version < row.since && source.gridMode) *source.gridMode = row.absent;
         break;
@@ -33,10 +32,18 @@ void takeAbsent(RecordSource& source, WidgetNode& node, const FieldRow& row) {
     }
 }
 
+void readType(FileReader& reader, WidgetNode& node) {
+    int code = codeOf(node);
+    readNumber(reader, code);
+    node.type = typeOfCode(code);
+    node.unknownCode = node.type == TYPE_UNKNOWN ? code : 0;
+}
+
 void readField(RecordSource& source, WidgetNode& node, const FieldRow& row) {
     switch (row.kind) {
     case FIELD_NUMBER:
     case FIELD_TAB_LIST: readNumber(source.reader, node.*row.number); break;
+    case FIELD_TYPE: readType(source.reader, node); break;
     case FIELD_REAL_G:
     case FIELD_REAL_F: readReal(source.reader, node.*row.real); break;
     case FIELD_STRING: readString(source.reader, node.*row.string); break;
@@ -65,7 +72,7 @@ const Upgrade upgrades[] = {
     {VERSION_50,
      [](WidgetNode& node) {
          if (node.type == TYPE_BUTTON) node.justify = 0;
-         if (isArray(node.type)) node.borderType = 2;
+         if (isArray(node)) node.borderType = 2;
      }},
     {VERSION_30,
      [](WidgetNode& node) {
@@ -80,18 +87,19 @@ const Upgrade upgrades[] = {
              node.borderType = 0;
              if (node.colour2 == 0) node.colour2 = 12;
          }
-         if ((node.type == TYPE_TEXT_LABEL || node.type == TYPE_TEXT_ENTRY) && node.colour3 == 0) node.colour3 = 16;
+         if (isText(node) && node.colour3 == 0) node.colour3 = 16;
          if (node.type != TYPE_FORM) node.initialState = 1;
      }},
     {VERSION_30,
      [](WidgetNode& node) {
          constexpr int OLD_ICON = 2011;
          constexpr int OLD_SLIDERS[] = {2014, 2020, 2021};
-         for (int slider : OLD_SLIDERS)
-             if (node.type == slider) node.type = TYPE_SLIDER;
-         if (node.type != TYPE_ICON && node.type != OLD_ICON) return;
-         node.subType = node.type == OLD_ICON ? 1 : 7;
-         node.type = TYPE_ICON;
+         const int code = node.unknownCode;
+         if (std::ranges::find(OLD_SLIDERS, code) != std::end(OLD_SLIDERS)) node.type = TYPE_SLIDER;
+         if (code == OLD_ICON) node.type = TYPE_ICON;
+         if (node.type != TYPE_UNKNOWN) node.unknownCode = 0;
+         if (node.type != TYPE_ICON) return;
+         node.subType = code == OLD_ICON ? 1 : 7;
          node.icon = node.text.substr(0, NAME_LIMIT);
          node.text.clear();
      }},

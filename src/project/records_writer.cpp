@@ -2,30 +2,19 @@
 #include "project/code_stores.h"
 #include "project/host.h"
 #include "project/records_io.h"
+#include "project/widget_types.h"
 
 #include <algorithm>
 #include <cstdlib>
 
 namespace {
 
-// fieldWidth of these is a width that the user sets; of the others it is the length of the text.
-bool widthIsUsers(int type) {
-    switch (type) {
-    case TYPE_TEXT_ENTRY:
-    case TYPE_TEXT_LABEL:
-    case TYPE_VALUE_ENTRY:
-    case TYPE_VALUE_LABEL:
-    case TYPE_LIST_BOX:
-    case TYPE_COMBO_BOX: return true;
-    default: return false;
-    }
-}
-
 void writeField(FileWriter& writer, const WidgetNode& node, const FieldRow& row) {
     if (row.until < CURRENT_VERSION) return;
     switch (row.kind) {
     case FIELD_NUMBER:
     case FIELD_TAB_LIST: writeNumber(writer, node.*row.number); break;
+    case FIELD_TYPE: writeNumber(writer, codeOf(node)); break;
     case FIELD_REAL_G:
     case FIELD_REAL_F: writeReal(writer, node.*row.real, row.kind); break;
     case FIELD_STRING: writeString(writer, node.*row.string); break;
@@ -49,7 +38,8 @@ void writeSlot(FileWriter& writer, const CallbackSlot& slot) {
 
 void writeFields(FileWriter& writer, WidgetNode& node) {
     node.text.resize(cutBetweenLetters(node.text, TEXT_LIMIT).size());
-    if (!widthIsUsers(node.type)) node.fieldWidth = static_cast<int>(node.text.size());
+    // Of the other types it is the length of the text.
+    if (!is(node, USERS_FIELD_WIDTH)) node.fieldWidth = static_cast<int>(node.text.size());
     for (const FieldRow& row : recordFields()) writeField(writer, node, row);
     for (const SlotPlace& place : slotFileOrder) writeSlot(writer, node.slots[place.slot]);
 }

@@ -4,6 +4,7 @@
 #include "project/tree.h"
 
 #include "project/code_stores.h"
+#include "project/widget_types.h"
 
 #include <functional>
 #include <unordered_map>
@@ -130,7 +131,7 @@ WidgetNode* findByHandle(int handle, WidgetNode* list) {
 
 // The record that holds `node`, as the live widgets see it: bars and panes live on the form's own window.
 WidgetNode* holderOf(const WidgetNode* node) {
-    if (node->type == TYPE_TOOL_BAR || node->type == TYPE_PANE) return node->parent ? rootOf(node->parent) : nullptr;
+    if (isBarOrPane(*node)) return node->parent ? rootOf(node->parent) : nullptr;
     return node->parent;
 }
 

@@ -13,7 +13,7 @@ WidgetNode* newForm();
 
 // A deep copy of the default record of `type`, placed at x, y given in pixels. TYPE_MAIN_PANEL has none.
 // The caller owns it until it is linked into the tree.
-WidgetNode* createFromDefaults(int type, int x, int y);
+WidgetNode* createFromDefaults(WidgetType type, int x, int y);
 
 // Deep copy with the whole child chain; with `withSiblings` also what follows along next. Handles are copied as they
 // are.

@@ -3,6 +3,7 @@
 
 #include "menu-c.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/live.h"
 #include "surface/state.h"
 
@@ -15,19 +16,18 @@ void store(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
 }
 
 void follow(WidgetNode& target, After after) {
-    const bool text = target.type == TYPE_TEXT_ENTRY || target.type == TYPE_TEXT_LABEL;
     switch (after) {
     case After::Nothing: break;
     case After::Redraw: redrawLive(target); break;
     case After::Rebuild: rebuildLive(target); break;
-    case After::Font: text ? rebuildLive(target) : redrawLive(target); break;
+    case After::Font: isText(target) ? rebuildLive(target) : redrawLive(target); break;
     case After::RebuildForm: rebuildFormOf(target); break;
     }
 }
 
 // A separator, and an icon on a tool bar, come to life with their bar.
 After afterOf(const WidgetNode& target, const PropertyRow& row) {
-    const bool onBar = target.parent && target.parent->type == TYPE_TOOL_BAR;
+    const bool onBar = standsIn(target, TYPE_TOOL_BAR);
     return row.after == After::Rebuild && onBar ? After::RebuildForm : row.after;
 }
 

@@ -2,6 +2,7 @@
 
 #include "menu-c.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/geometry.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
@@ -12,9 +13,6 @@
 namespace {
 
 constexpr int SMALLEST_PIXELS = 25, SMALLEST_CELLS = 1;
-
-bool isBarOrPane(const WidgetNode& n) { return n.type == TYPE_TOOL_BAR || n.type == TYPE_PANE; }
-bool isText(const WidgetNode& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL; }
 
 // A live position or size, in the unit of the record.
 void setLiveGeometry(const WidgetNode& node, int keyword, int value) {
@@ -62,8 +60,7 @@ Extent surroundings(const WidgetNode& node) {
 // Types that grow along one line only can't be expanded from the middle of a side.
 bool mayExpand(const WidgetNode& node) {
     const int p = originCode(node);
-    const bool acrossOnly =
-        node.type == TYPE_COMBO_BOX || node.type == TYPE_VALUE_ENTRY || node.type == TYPE_VALUE_LABEL;
+    const bool acrossOnly = node.type == TYPE_COMBO_BOX || isValue(node);
     if (p == 1 || p == 7) return true;
     return !acrossOnly && (p == 3 || p == 4 || p == 5);
 }

@@ -5,6 +5,7 @@
 #include "platform/letters.h"
 #include "project/host.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/live.h"
 #include "surface/state.h"
 
@@ -90,8 +91,7 @@ void editColour(WidgetNode& target, const PropertyRow& row, const CellInput& inp
     if (hadImage) removeImage(painted);
     if (row.id == ROW_FORM_COLOUR && design.defaultsMode) target.backgroundImage.clear();
     setLive(painted, row.keyword, input.value);
-    const bool text = target.type == TYPE_TEXT_ENTRY || target.type == TYPE_TEXT_LABEL;
-    const bool lines = text && row.id == ROW_TEXT_COLOUR && !isSingleLine(target);
+    const bool lines = isText(target) && row.id == ROW_TEXT_COLOUR && !isSingleLine(target);
     if (hadImage || lines)
         rebuildLive(target);
     else

@@ -5,6 +5,7 @@
 #include "project/host.h"
 #include "project/placement.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/field_text.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
@@ -17,8 +18,6 @@
 namespace {
 
 constexpr size_t CELL_LIMIT = 256; // a longer text can't be edited in a cell
-
-bool isText(const WidgetNode& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL; }
 
 void renameRecord(WidgetNode& node, const std::string& name) {
     const std::string old = node.name;

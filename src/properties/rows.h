@@ -195,8 +195,6 @@ int shownColour(const WidgetNode& widget, const PropertyRow& row);
 WidgetNode& targetOf(WidgetNode& widget, const PropertyRow& row);
 const WidgetNode& targetOf(const WidgetNode& widget, const PropertyRow& row);
 
-bool isTabPage(const WidgetNode& widget);
-const char* textRowLabel(int type);       // "Text", "Title" or "Label"
 int originCode(const WidgetNode& widget); // 0 bottom left, 4 centre, 8 top right
 
 // Labels of arrays: "Digits", "Letters", "Months" and "Days" are stored under names of the library, other texts as

@@ -4,6 +4,7 @@
 #include "menu-c.h"
 #include "project/preferences.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "properties/edits.h"
 #include "properties/rows.h"
 #include "surface/commands.h"
@@ -56,8 +57,6 @@ struct Sheet {
     std::vector<ShownRow> rows;
     std::string label = FALLBACK_LABEL; // of the selected row
 } sheet;
-
-bool isArray(const WidgetNode& n) { return n.type == TYPE_TEXT_ARRAY || n.type == TYPE_VALUE_ARRAY; }
 
 // ---- Rows that open an editor.
 

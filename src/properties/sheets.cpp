@@ -1,4 +1,5 @@
 // Which rows each type of widget has, in their order, and when a row is left out or grey.
+#include "project/widget_types.h"
 #include "properties/rows.h"
 #include "surface/live.h"
 #include "surface/state.h"
@@ -20,15 +21,45 @@ const RowId BUTTON_COLOURS[] = {ROW_ON_COLOUR, ROW_OFF_COLOUR, ROW_TEXT_COLOUR};
 const std::span<const RowId> GROUPS[] = {BUBBLE, POSITION, ORIGIN, FONT, STYLE, FILL, ENTRY_COLOURS, BUTTON_COLOURS};
 
 struct Sheet {
-    int type;
-    std::vector<RowId> rows;
+    WidgetType type;
+    std::initializer_list<RowId> rows;
 };
 
 // A row that begins a group stands for the whole group.
-const Sheet SHEETS[] = {
+constexpr std::initializer_list<RowId> ARRAY_ROWS = {ROW_NAME,
+                                                     ROW_ARRAY_BOUNDARY,
+                                                     ROW_COLUMNS,
+                                                     ROW_ROWS,
+                                                     ROW_X_LABELS,
+                                                     ROW_Y_LABELS,
+                                                     ROW_X_LABELS_HEIGHT,
+                                                     ROW_Y_LABELS_WIDTH,
+                                                     ROW_ALIGN_X_LABELS,
+                                                     ROW_ALIGN_Y_LABELS,
+                                                     ROW_SCROLL_BARS,
+                                                     ROW_ACTIVE_ON_INIT,
+                                                     ROW_BUBBLE_HELP,
+                                                     ROW_XPOS,
+                                                     ROW_HORIZONTAL,
+                                                     ROW_EXPAND,
+                                                     ROW_LABELS_COLOUR,
+                                                     ROW_X_LABELS_COLOUR,
+                                                     ROW_Y_LABELS_COLOUR,
+                                                     ROW_CELL_BACKGROUND,
+                                                     ROW_CELL_BORDER,
+                                                     ROW_LINE_STYLE,
+                                                     ROW_SELECTED_CELL,
+                                                     ROW_FONT_FACE,
+                                                     ROW_BOLD,
+                                                     ROW_READ_ONLY,
+                                                     ROW_TAB_ACTION,
+                                                     ROW_TAB_LIST,
+                                                     ROW_STATE};
+constexpr Sheet SHEETS[] = {
     {TYPE_FORM,
      {ROW_NAME, ROW_FORM_TYPE, ROW_TITLE, ROW_FORM_TITLE_BAR, ROW_ICON, ROW_QUIT_MODE, ROW_XPOS, ROW_HORIZONTAL,
       ROW_BACKGROUND_IMAGE, ROW_FORM_COLOUR, ROW_FORM_STATE, ROW_BUILD_INFO}},
+    {TYPE_MAIN_PANEL, {}}, // never selected
     {TYPE_BUTTON,
      {ROW_NAME, ROW_BUTTON_TYPE, ROW_LABEL, ROW_ACCELERATOR, ROW_ALIGN, ROW_BUBBLE_HELP, ROW_XPOS, ROW_SIZE,
       ROW_HORIZONTAL, ROW_EXPAND, ROW_ON_COLOUR, ROW_FONT_FACE, ROW_BOLD, ROW_DRAG, ROW_TAB_LIST, ROW_STATE}},
@@ -93,36 +124,8 @@ const Sheet SHEETS[] = {
     {TYPE_GRAPHICS_FRAME,
      {ROW_NAME, ROW_FRAME_TYPE, ROW_X_MINIMUM, ROW_X_MAXIMUM, ROW_Y_MINIMUM, ROW_Y_MAXIMUM, ROW_BUBBLE_HELP, ROW_XPOS,
       ROW_HORIZONTAL, ROW_EXPAND, ROW_STATE}},
-    {TYPE_TEXT_ARRAY,
-     {ROW_NAME,
-      ROW_ARRAY_BOUNDARY,
-      ROW_COLUMNS,
-      ROW_ROWS,
-      ROW_X_LABELS,
-      ROW_Y_LABELS,
-      ROW_X_LABELS_HEIGHT,
-      ROW_Y_LABELS_WIDTH,
-      ROW_ALIGN_X_LABELS,
-      ROW_ALIGN_Y_LABELS,
-      ROW_SCROLL_BARS,
-      ROW_ACTIVE_ON_INIT,
-      ROW_BUBBLE_HELP,
-      ROW_XPOS,
-      ROW_HORIZONTAL,
-      ROW_EXPAND,
-      ROW_LABELS_COLOUR,
-      ROW_X_LABELS_COLOUR,
-      ROW_Y_LABELS_COLOUR,
-      ROW_CELL_BACKGROUND,
-      ROW_CELL_BORDER,
-      ROW_LINE_STYLE,
-      ROW_SELECTED_CELL,
-      ROW_FONT_FACE,
-      ROW_BOLD,
-      ROW_READ_ONLY,
-      ROW_TAB_ACTION,
-      ROW_TAB_LIST,
-      ROW_STATE}},
+    {TYPE_TEXT_ARRAY, ARRAY_ROWS},
+    {TYPE_VALUE_ARRAY, ARRAY_ROWS},
     {TYPE_TOOL_BAR,
      {ROW_NAME, ROW_BAR_TITLE, ROW_ICON_SIZE, ROW_BAR_POSITION, ROW_BAR_TITLE_BAR, ROW_QUIT_MODE, ROW_XPOS, ROW_STATE}},
     {TYPE_TAB_BOX, {ROW_NAME, ROW_XPOS, ROW_HORIZONTAL, ROW_EXPAND, ROW_FONT_FACE, ROW_STATE}},
@@ -144,6 +147,7 @@ const Sheet SHEETS[] = {
     {TYPE_TOOL_SEPARATOR, {ROW_NAME, ROW_SEPARATOR_TYPE}},
     {TYPE_PANE, {ROW_NAME, ROW_BAR_TITLE, ROW_BAR_POSITION, ROW_BAR_TITLE_BAR, ROW_QUIT_MODE, ROW_XPOS, ROW_STATE}},
 };
+static_assert(Missing<missingRow(SHEETS)>::none);
 
 // ---- What the rules ask about a widget.
 
@@ -154,7 +158,6 @@ bool offWindowsInProject(const WidgetNode& n) { return offWindows(n) && !inDefau
 bool onToolBar(const WidgetNode& n) { return n.onToolbar != 0; }
 bool tabPageInProject(const WidgetNode& n) { return isTabPage(n) && !inDefaults(n); }
 bool noTabPage(const WidgetNode& n) { return !isTabPage(n); }
-bool isMaster(const WidgetNode& n) { return n.formType == FORM_MASTER_SDI || n.formType == FORM_MASTER_MDI; }
 bool noBuildInfo(const WidgetNode& n) { return !isMaster(n) || offWindows(n) || inDefaults(n); }
 bool plainButton(const WidgetNode& n) { return n.subType != 1; }
 bool plainButtonOffBar(const WidgetNode& n) { return plainButton(n) && !onToolBar(n); }
@@ -279,26 +282,18 @@ bool anyRule(std::span<const GreyRule> rules, const WidgetNode& widget, RowId ro
 bool isLeftOut(const WidgetNode& widget, RowId row) {
     if (row == ROW_SIZE) return project.gridMode != 1;
     if (widget.type == TYPE_TOOL_BAR) return row == ROW_WIDTH || row == ROW_HEIGHT;
-    const bool fixedHeight =
-        widget.type == TYPE_TOGGLE || widget.type == TYPE_VALUE_ENTRY || widget.type == TYPE_VALUE_LABEL;
+    const bool fixedHeight = widget.type == TYPE_TOGGLE || isValue(widget);
     return row == ROW_HEIGHT && fixedHeight && project.projectPlatform != 'w';
 }
 
-// Both kinds of arrays share one sheet.
-int sheetType(int type) { return type == TYPE_VALUE_ARRAY ? TYPE_TEXT_ARRAY : type; }
-
 } // namespace
-
-bool isTabPage(const WidgetNode& widget) {
-    return widget.type == TYPE_PANEL && widget.parent && widget.parent->type == TYPE_TAB_BOX;
-}
 
 int originCode(const WidgetNode& widget) { return (widget.vpos + 1) * 3 + widget.hpos + 1; }
 
 std::vector<RowId> sheetOf(const WidgetNode& widget) {
     std::vector<RowId> rows;
-    const auto sheet = std::ranges::find(SHEETS, sheetType(widget.type), &Sheet::type);
-    if (sheet == std::end(SHEETS)) return rows;
+    const Sheet* sheet = rowOf(SHEETS, widget.type);
+    if (!sheet) return rows;
     const auto add = [&](RowId row) {
         if (!isLeftOut(widget, row)) rows.push_back(row);
     };
@@ -314,7 +309,7 @@ std::vector<RowId> sheetOf(const WidgetNode& widget) {
 
 bool isGrey(const WidgetNode& widget, const PropertyRow& row) {
     if (anyRule(GREY_RULES, widget, row.id)) return true;
-    if (widget.type == TYPE_TOOL_BAR || widget.type == TYPE_PANE) return false;
+    if (isBarOrPane(widget)) return false;
     if (widget.type == TYPE_COMBO_BOX) return anyRule(COMBO_ORIGIN_RULES, widget, row.id);
     return anyRule(ORIGIN_RULES, widget, row.id);
 }

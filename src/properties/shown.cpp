@@ -1,5 +1,6 @@
 // What the cells of the property sheet show.
 #include "platform/letters.h"
+#include "project/widget_types.h"
 #include "properties/rows.h"
 #include "surface/live.h"
 #include "surface/state.h"
@@ -20,15 +21,12 @@ struct LabelForm {
 constexpr LabelForm LABEL_FORMS[] = {
     {"*digits", "Digits"}, {"*letters", "Letters"}, {"*months", "Months"}, {"*days", "Days"}};
 
-bool hasRadioBox(const WidgetNode& widget) { return widget.parent && widget.parent->type == TYPE_RADIO_BOX; }
-
-Choices stateChoices(int type) {
-    constexpr std::array FOUR = {TYPE_BUTTON, TYPE_ICON, TYPE_PANEL};
-    constexpr std::array THREE = {TYPE_TOGGLE,    TYPE_TEXT_ENTRY, TYPE_VALUE_ENTRY, TYPE_LIST_BOX,
-                                  TYPE_COMBO_BOX, TYPE_GAUGE,      TYPE_TTY_ENTRY};
-    if (std::ranges::find(FOUR, type) != FOUR.end()) return choices::fourStates;
-    if (std::ranges::find(THREE, type) != THREE.end()) return choices::threeStates;
-    return choices::hiddenVisible;
+// Of the state that a type starts in, most can be told only whether it is shown.
+Choices stateChoices(WidgetType type) {
+    constexpr TypeSet FOUR = {TYPE_BUTTON, TYPE_ICON, TYPE_PANEL};
+    constexpr TypeSet THREE = {TYPE_TOGGLE,    TYPE_TEXT_ENTRY, TYPE_VALUE_ENTRY, TYPE_LIST_BOX,
+                               TYPE_COMBO_BOX, TYPE_GAUGE,      TYPE_TTY_ENTRY};
+    return FOUR.holds(type) ? choices::fourStates : THREE.holds(type) ? choices::threeStates : choices::hiddenVisible;
 }
 
 NumberFormat textFieldWidth(const WidgetNode& widget) {
@@ -53,12 +51,6 @@ WidgetNode& targetOf(WidgetNode& widget, const PropertyRow& row) {
     return row.ofTabBox && isTabPage(widget) ? *widget.parent : widget;
 }
 
-const char* textRowLabel(int type) {
-    constexpr std::array TITLED = {TYPE_FORM, TYPE_PANEL, TYPE_RADIO_BOX, TYPE_TOOL_BAR, TYPE_PANE};
-    if (type == TYPE_TEXT_ENTRY || type == TYPE_TEXT_LABEL) return "Text";
-    return std::ranges::find(TITLED, type) != TITLED.end() ? "Title" : "Label";
-}
-
 Cell cellKind(const WidgetNode& widget, const PropertyRow& row) {
     if (row.id != ROW_TEXT) return row.cell;
     return isSingleLine(widget) && widget.subType != 1 ? Cell::Text : Cell::Button;
@@ -67,12 +59,10 @@ Cell cellKind(const WidgetNode& widget, const PropertyRow& row) {
 Choices choicesOf(const WidgetNode& widget, const PropertyRow& row) {
     switch (row.id) {
     case ROW_STATE: return stateChoices(widget.type);
-    case ROW_TOGGLE_TYPE: return hasRadioBox(widget) ? choices::radioType : choices::toggleType;
+    case ROW_TOGGLE_TYPE: return standsIn(widget, TYPE_RADIO_BOX) ? choices::radioType : choices::toggleType;
     case ROW_TEXT_TYPE:
         return widget.type == TYPE_TEXT_ENTRY && isSingleLine(widget) ? choices::textType : choices::textTypeMulti;
-    case ROW_CHAR_SET:
-        return widget.type == TYPE_VALUE_ENTRY || widget.type == TYPE_VALUE_LABEL ? choices::valueCharSet
-                                                                                  : choices::charSet;
+    case ROW_CHAR_SET: return isValue(widget) ? choices::valueCharSet : choices::charSet;
     default: return row.choices;
     }
 }

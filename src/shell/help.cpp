@@ -7,6 +7,7 @@
 #include "project/host.h"
 #include "project/language.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "properties/sheet.h"
 #include "shell/commands.h"
 #include "shell/environment.h"
@@ -17,14 +18,15 @@
 static const char HELP_VERSION[] = "85";
 
 struct WidgetTopic {
-    int type;
-    const char* topic;
+    WidgetType type;
+    const char* topic; // null for one of another kind, see widgetTopic
 };
 
 static constexpr WidgetTopic WIDGET_TOPICS[] = {
     {TYPE_FORM, "Form"},
     {TYPE_MAIN_PANEL, "Form"},
     {TYPE_BUTTON, "Button"},
+    {TYPE_TOGGLE, nullptr},
     {TYPE_TEXT_ENTRY, "Text Entry"},
     {TYPE_TEXT_LABEL, "Text Label"},
     {TYPE_VALUE_ENTRY, "Value Entry"},
@@ -34,6 +36,7 @@ static constexpr WidgetTopic WIDGET_TOPICS[] = {
     {TYPE_SLIDER, "Slider"},
     {TYPE_PANEL, "Panel"},
     {TYPE_COMBO_BOX, "Combo Box"},
+    {TYPE_RADIO_BOX, nullptr},
     {TYPE_GRAPHICS_FRAME, "Graphics Frame"},
     {TYPE_TEXT_ARRAY, "Text Array"},
     {TYPE_VALUE_ARRAY, "Value Array"},
@@ -47,6 +50,7 @@ static constexpr WidgetTopic WIDGET_TOPICS[] = {
     {TYPE_TOOL_SEPARATOR, "Tool Bar Separator"},
     {TYPE_PANE, "Docking Pane"},
 };
+static_assert(Missing<missingRow(WIDGET_TOPICS)>::none);
 
 // A library whose topics the Help menu opens.
 struct HelpLibrary {
@@ -72,9 +76,8 @@ static std::string widgetTopic(const WidgetNode& widget) {
         const WidgetNode* parent = parentOf(&widget, project.forms);
         return parent && parent->type == TYPE_RADIO_BOX ? "Radio Button" : "Check Box";
     }
-    for (const WidgetTopic& row : WIDGET_TOPICS)
-        if (row.type == widget.type) return row.topic;
-    return {};
+    const WidgetTopic* row = rowOf(WIDGET_TOPICS, widget.type);
+    return row && row->topic ? row->topic : "";
 }
 
 std::string helpTopic() {

@@ -4,6 +4,7 @@
 #include "project/host.h"
 #include "project/placement.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/geometry.h"
 #include "surface/hierarchy.h"
@@ -17,8 +18,6 @@
 #include <utility>
 
 namespace {
-
-bool isBarOrPane(const WidgetNode* node) { return node && (node->type == TYPE_TOOL_BAR || node->type == TYPE_PANE); }
 
 // What lies ahead of a record in the tree: the sibling before it, else what holds it, else the form before it.
 WidgetNode* predecessorOf(const WidgetNode& node) {
@@ -155,8 +154,6 @@ WidgetNode* pasteTarget() {
 
 // ---- Deletion.
 
-bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
-
 // Forms that a project can't do without.
 bool keepsForm(const WidgetNode& form) {
     if (form.type != TYPE_FORM) return false;
@@ -222,14 +219,13 @@ void confirmDelete() {
 WidgetNode* removeRecords(const Records& records) {
     if (records.empty()) return nullptr;
     WidgetNode* parent = parentOf(records.front(), project.forms);
-    const int type = records.front()->type;
+    const bool bar = isBarOrPane(*records.front()), form = records.front()->type == TYPE_FORM;
     WidgetNode* result = nullptr;
     for (WidgetNode* node : records) result = removeOne(*node);
     if (result && result->type == TYPE_MAIN_PANEL) result = formOf(result, project.forms);
-    const bool bar = type == TYPE_TOOL_BAR || type == TYPE_PANE;
     if (bar && parent)
         rebuildWidget(*parent);
-    else if (type != TYPE_FORM && isBarOrPane(parent))
+    else if (!form && parent && isBarOrPane(*parent))
         owDrawWidget(parent->handle);
     return result;
 }

@@ -6,6 +6,7 @@
 #include "project/placement.h"
 #include "project/preferences.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/clipboard.h"
 #include "surface/commands.h"
 #include "surface/event.h"
@@ -19,16 +20,13 @@
 
 namespace {
 
-constexpr std::array ANSWERS_TO_SELECT = {TYPE_TEXT_LABEL,  TYPE_LIST_BOX,  TYPE_COMBO_BOX, TYPE_TEXT_ARRAY,
-                                          TYPE_VALUE_ARRAY, TYPE_TTY_ENTRY, TYPE_TAB_BOX};
-
 // The record that an identifier stands for: its general event, or the select event where that is what it raises.
 WidgetNode* findByCallback(int id) {
     if (id <= 0 || isCommand(id)) return nullptr;
     WidgetNode* node = findHandle(id);
     if (node && node->designCallbackId == id) return node;
     node = findHandle(id - OBJECT_SELECT_OFFSET);
-    const bool selects = node && std::ranges::find(ANSWERS_TO_SELECT, node->type) != ANSWERS_TO_SELECT.end();
+    const bool selects = node && is(*node, ANSWERS_SELECT);
     const bool lostFocus = action.status == 0;
     return selects && !lostFocus && node->designSelectId == id ? node : nullptr;
 }
@@ -132,7 +130,7 @@ void barEvent(WidgetNode& bar) {
 
 // A page of a tab box stands for its box.
 WidgetNode* standsFor(WidgetNode* found) {
-    const bool page = found->type == TYPE_PANEL && found->parent && found->parent->type == TYPE_TAB_BOX;
+    const bool page = isTabPage(*found);
     return page ? found->parent : found;
 }
 
@@ -152,7 +150,7 @@ bool selectorEvent(WidgetNode* found) {
         adoptWidget(*found);
         takeValue(*found);
     }
-    if (found->type == TYPE_TOOL_BAR || found->type == TYPE_PANE) barEvent(*found);
+    if (isBarOrPane(*found)) barEvent(*found);
     return true;
 }
 

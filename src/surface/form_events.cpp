@@ -4,6 +4,7 @@
 #include "menu-c.h"
 #include "project/host.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/event.h"
 #include "surface/geometry.h"
@@ -15,8 +16,6 @@
 #include <utility>
 
 namespace {
-
-bool isMaster(const WidgetNode& form) { return form.formType == FORM_MASTER_SDI || form.formType == FORM_MASTER_MDI; }
 
 void press(const WidgetNode& panel) {
     design.rubberBandArmed = 1;
@@ -36,7 +35,7 @@ bool insideBand(const WidgetNode& child, const WidgetNode& panel) {
 Records selectInRectangle(const WidgetNode& panel) {
     Records caught;
     for (WidgetNode* child = panel.child; child; child = child->next) {
-        const bool docked = child->type == TYPE_TOOL_BAR || child->type == TYPE_PANE;
+        const bool docked = isBarOrPane(*child);
         if (!docked && insideBand(*child, panel)) caught.push_back(child);
     }
     return caught;

@@ -2,6 +2,7 @@
 
 #include "menu-c.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/event.h"
 #include "surface/hooks.h"
@@ -16,30 +17,39 @@ int hierarchyPane = 0;
 int treeBox = 0;
 
 struct RowIcon {
-    int type;
-    const char* icon;
-    bool container; // the same picture closed and open
+    WidgetType type;
+    const char* icon; // empty for a type that has no row of its own
+    bool container;   // the same picture closed and open
 };
 constexpr RowIcon ROW_ICONS[] = {
-    {TYPE_FORM, "newform", true},        {TYPE_BUTTON, "Button", false},
-    {TYPE_TOGGLE, "Check", false},       {TYPE_TEXT_ENTRY, "Text", false},
-    {TYPE_TEXT_LABEL, "Stext", false},   {TYPE_VALUE_ENTRY, "Val", false},
-    {TYPE_VALUE_LABEL, "Sval", false},   {TYPE_ICON, "icon", false},
-    {TYPE_LIST_BOX, "Listbox", false},   {TYPE_SLIDER, "Sliderh", false},
-    {TYPE_PANEL, "Panel", true},         {TYPE_COMBO_BOX, "Combo", false},
-    {TYPE_RADIO_BOX, "Panel", true},     {TYPE_GRAPHICS_FRAME, "Graph", false},
-    {TYPE_TEXT_ARRAY, "Textcel", false}, {TYPE_VALUE_ARRAY, "Valuecel", false},
-    {TYPE_TOOL_BAR, "Toolbar", true},    {TYPE_TAB_BOX, "Tabdia", true},
-    {TYPE_GAUGE, "gauge", false},        {TYPE_PROGRESS_BAR, "progress", false},
-    {TYPE_TTY_ENTRY, "tty", false},      {TYPE_TREE_VIEW, "treeview", false},
-    {TYPE_TABLE_BOX, "Table", false},    {TYPE_TOOL_SEPARATOR, "Toolsep", false},
+    {TYPE_FORM, "newform", true},
+    {TYPE_MAIN_PANEL, "", false},
+    {TYPE_BUTTON, "Button", false},
+    {TYPE_TOGGLE, "Check", false},
+    {TYPE_TEXT_ENTRY, "Text", false},
+    {TYPE_TEXT_LABEL, "Stext", false},
+    {TYPE_VALUE_ENTRY, "Val", false},
+    {TYPE_VALUE_LABEL, "Sval", false},
+    {TYPE_ICON, "icon", false},
+    {TYPE_LIST_BOX, "Listbox", false},
+    {TYPE_SLIDER, "Sliderh", false},
+    {TYPE_PANEL, "Panel", true},
+    {TYPE_COMBO_BOX, "Combo", false},
+    {TYPE_RADIO_BOX, "Panel", true},
+    {TYPE_GRAPHICS_FRAME, "Graph", false},
+    {TYPE_TEXT_ARRAY, "Textcel", false},
+    {TYPE_VALUE_ARRAY, "Valuecel", false},
+    {TYPE_TOOL_BAR, "Toolbar", true},
+    {TYPE_TAB_BOX, "Tabdia", true},
+    {TYPE_GAUGE, "gauge", false},
+    {TYPE_PROGRESS_BAR, "progress", false},
+    {TYPE_TTY_ENTRY, "tty", false},
+    {TYPE_TREE_VIEW, "treeview", false},
+    {TYPE_TABLE_BOX, "Table", false},
+    {TYPE_TOOL_SEPARATOR, "Toolsep", false},
     {TYPE_PANE, "Pane", true},
 };
-
-const RowIcon* rowIcon(int type) {
-    const auto row = std::ranges::find(ROW_ICONS, type, &RowIcon::type);
-    return row == std::end(ROW_ICONS) ? nullptr : row;
-}
+static_assert(Missing<missingRow(ROW_ICONS)>::none);
 
 void makeTreeBox() {
     treeBox = owCreateTreeViewBox(hierarchyPane, 0, 0, 110, 110, owExpand, 1, owVpos, OMIDDLE, owHpos, OCENTRE,
@@ -57,7 +67,7 @@ int parentRow(const WidgetNode& node) {
 int makeRow(const WidgetNode& node, int parent) {
     const char* name = node.name.c_str();
     const int icon = owGetIconResource(hierarchyIcon(node));
-    const RowIcon* row = rowIcon(node.type);
+    const RowIcon* row = rowOf(ROW_ICONS, node.type);
     if (row && row->container)
         return owCreateTreeEntry(parent, OLASTCHILD, name, owCallback, CMD_HIERARCHY_ROW, owIcon, icon, owCloseIcon,
                                  icon, owOpenIcon, icon, 0);
@@ -77,8 +87,8 @@ void showForm(WidgetNode& form, bool fromTree) {
 } // namespace
 
 const char* hierarchyIcon(const WidgetNode& node) {
-    if (node.type == TYPE_TOGGLE && node.parent && node.parent->type == TYPE_RADIO_BOX) return "radiobut";
-    const RowIcon* row = rowIcon(node.type);
+    if (node.type == TYPE_TOGGLE && standsIn(node, TYPE_RADIO_BOX)) return "radiobut";
+    const RowIcon* row = rowOf(ROW_ICONS, node.type);
     return row ? row->icon : "";
 }
 

@@ -3,6 +3,7 @@
 #include "menu-c.h"
 #include "project/colours.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/hierarchy.h"
 #include "surface/hooks.h"
@@ -21,9 +22,7 @@ struct ScrollBars {
     int x = 0, y = 0;
 } scrollBars; // of the array that storeArrayGeometry saw last
 
-bool isBarOrPane(const WidgetNode& node) { return node.type == TYPE_TOOL_BAR || node.type == TYPE_PANE; }
 bool isTable(const WidgetNode& node) { return node.type == TYPE_TABLE_BOX; }
-bool isArray(const WidgetNode& node) { return node.type == TYPE_TEXT_ARRAY || node.type == TYPE_VALUE_ARRAY; }
 
 // A bar that was never placed floats beside its form.
 void placeBar(WidgetNode& bar, const WidgetNode& form) {
@@ -116,8 +115,7 @@ void setGridMode(int mode) {
 }
 
 bool bearsFont(const WidgetNode& node) {
-    const bool text = node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL;
-    if (text && node.subType == ORICHEDIT) return false; // rich text carries its own
+    if (isText(node) && node.subType == ORICHEDIT) return false; // rich text carries its own
     const LiveType* type = liveType(node.type);
     return type && type->font;
 }
@@ -300,6 +298,6 @@ int colourIndex(float red, float green, float blue, bool forceProject) {
 }
 
 bool isSingleLine(const WidgetNode& node) {
-    if (design.defaultsMode || (node.parent && node.parent->type == TYPE_PANE)) return false;
+    if (design.defaultsMode || standsIn(node, TYPE_PANE)) return false;
     return project.gridMode == 1 ? node.height == 1 : node.height <= ROW_PIXELS;
 }

@@ -6,6 +6,7 @@
 #include "menu-c.h"
 #include "menu-words.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/live.h"
 #include "surface/state.h"
@@ -98,9 +99,8 @@ void addAttributes(Words& words, const AttributesOfType& type, const WidgetNode&
 
 // A field that fills a pane has room for lines whatever height its record keeps.
 int heightOf(const WidgetNode& n) {
-    const bool field = n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL;
-    const bool fillsPane = n.parent && n.parent->type == TYPE_PANE && n.expand != 0 && n.vpos == OMIDDLE;
-    return field && fillsPane ? 0 : n.height;
+    const bool fillsPane = standsIn(n, TYPE_PANE) && n.expand != 0 && n.vpos == OMIDDLE;
+    return isText(n) && fillsPane ? 0 : n.height;
 }
 
 // As a program gets it: line ends as bars, which are lines again where there is room for them.
@@ -116,7 +116,7 @@ int create(const WidgetNode& n, int parent, std::initializer_list<Word> fixed, s
     return words.call(routine.empty() ? type.routine : routine);
 }
 
-int accessOf(const WidgetNode& n) { return n.type == TYPE_TEXT_ENTRY || n.type == TYPE_VALUE_ENTRY ? OEDIT : ODISPLAY; }
+int accessOf(const WidgetNode& n) { return isEdited(n) ? OEDIT : ODISPLAY; }
 
 // ---- The types.
 
@@ -212,7 +212,7 @@ void finishList(WidgetNode& n) {
 
 void finishPanel(WidgetNode& n) {
     owSetGuiCursor(n.handle, 0, OCURSORCROSS);
-    if (!n.parent || n.parent->type != TYPE_TAB_BOX) return;
+    if (!standsIn(n, TYPE_TAB_BOX)) return;
     owSetWidgetProp(n.handle, owTitle, n.text.c_str(), 0); // its tab has one in any case
     owSetWidgetStatus(n.handle, OSELECTABLE);
 }
@@ -250,7 +250,7 @@ void finishPane(WidgetNode& n) {
 constexpr int BY_HANDLE = LiveType::BY_HANDLE, NONE = 0;
 constexpr bool FONT = true, NO = false;
 
-const LiveType TYPES[] = {
+constexpr LiveType TYPES[] = {
     {TYPE_FORM, createForm, finishForm, NONE, NONE, NO},
     {TYPE_MAIN_PANEL, createMainPanel, nullptr, BY_HANDLE, BY_HANDLE, NO},
     {TYPE_BUTTON, createButton, finishButton, BY_HANDLE, NONE, FONT},
@@ -263,8 +263,8 @@ const LiveType TYPES[] = {
     {TYPE_LIST_BOX, createListBox, finishList, BY_HANDLE, BY_HANDLE, FONT},
     {TYPE_SLIDER, createSlider, nullptr, BY_HANDLE, NONE, NO},
     {TYPE_PANEL, createPlain, finishPanel, BY_HANDLE, BY_HANDLE, FONT},
-    {TYPE_RADIO_BOX, createRadioBox, finishPanel, BY_HANDLE, BY_HANDLE, NO}, // no program gives its title a font
     {TYPE_COMBO_BOX, createComboBox, finishList, NONE, BY_HANDLE, FONT},
+    {TYPE_RADIO_BOX, createRadioBox, finishPanel, BY_HANDLE, BY_HANDLE, NO}, // no program gives its title a font
     {TYPE_GRAPHICS_FRAME, createFrame, finishFrame, BY_HANDLE, NONE, NO},
     {TYPE_TEXT_ARRAY, createArray, applyArrayGeometry, NONE, BY_HANDLE, FONT},
     {TYPE_VALUE_ARRAY, createArray, applyArrayGeometry, NONE, BY_HANDLE, FONT},
@@ -278,13 +278,11 @@ const LiveType TYPES[] = {
     {TYPE_TOOL_SEPARATOR, createSeparator, nullptr, NONE, NONE, NO},
     {TYPE_PANE, createPane, finishPane, BY_HANDLE, NONE, NO},
 };
+static_assert(Missing<missingRow(TYPES)>::none);
 
 } // namespace
 
-const LiveType* liveType(int type) {
-    const auto row = std::ranges::find(TYPES, type, &LiveType::type);
-    return row == std::end(TYPES) ? nullptr : row;
-}
+const LiveType* liveType(WidgetType type) { return rowOf(TYPES, type); }
 
 int createStandIn(const WidgetNode& n, int parent) {
     return owCreatePanel(parent, BOX(n), owTitle, n.name.c_str(), owBorderType, OSINGLE, owVpos, n.vpos, owHpos, n.hpos,

@@ -4,7 +4,7 @@
 #include "project/records.h"
 
 struct LiveType {
-    int type;
+    WidgetType type;
     int (*create)(const WidgetNode& node, int parent); // in the project's unit; returns the handle
     void (*finish)(WidgetNode& node);                  // what the creation call cannot carry; null for nothing
     int general;                                       // identifier of the general event and...
@@ -14,7 +14,7 @@ struct LiveType {
     static constexpr int BY_HANDLE = -1; // the event carries the handle, the select event handle + 50000
 };
 
-const LiveType* liveType(int type); // null for a type that has no live widget
+const LiveType* liveType(WidgetType type); // null for a type that is none or unknown
 
 // A bordered box with the widget's name, for a type that the toolkit refused.
 int createStandIn(const WidgetNode& node, int parent);

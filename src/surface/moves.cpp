@@ -5,6 +5,7 @@
 #include "project/host.h"
 #include "project/placement.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/clipboard.h"
 #include "surface/commands.h"
 #include "surface/event.h"
@@ -26,15 +27,15 @@ bool onWindows() { return project.projectPlatform == 'w'; }
 
 bool hasFixedHeight(const WidgetNode& n) {
     if (n.type == TYPE_TEXT_ENTRY) return n.subType == OSECURITY;
-    return !onWindows() && (n.type == TYPE_TOGGLE || n.type == TYPE_VALUE_ENTRY || n.type == TYPE_VALUE_LABEL);
+    return !onWindows() && (n.type == TYPE_TOGGLE || isValue(n));
 }
 
 // Types whose live widget looks different at another size.
 bool isRebuiltAfterResize(const WidgetNode& n, bool height) {
     if (n.type == TYPE_PANEL) return true;
     if (!height) return false;
-    if (n.type == TYPE_TEXT_ENTRY || n.type == TYPE_TEXT_LABEL || n.type == TYPE_PROGRESS_BAR) return true;
-    return !onWindows() && (n.type == TYPE_TOGGLE || n.type == TYPE_VALUE_ENTRY || n.type == TYPE_VALUE_LABEL);
+    if (isText(n) || n.type == TYPE_PROGRESS_BAR) return true;
+    return !onWindows() && (n.type == TYPE_TOGGLE || isValue(n));
 }
 
 void followHeight(WidgetNode& node, int oldYpos) {
@@ -42,7 +43,7 @@ void followHeight(WidgetNode& node, int oldYpos) {
         node.height = singleLineHeight();
         node.ypos = oldYpos;
     }
-    if (node.type == TYPE_TEXT_ENTRY || node.type == TYPE_TEXT_LABEL) fitFieldWidth(node, true);
+    if (isText(node)) fitFieldWidth(node, true);
 }
 
 // A widget in the middle of its parent stays there, and one that grows with it keeps the size of its own: what a drag

@@ -4,6 +4,7 @@
 #include "menu-c.h"
 #include "project/host.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/geometry.h"
 #include "surface/hooks.h"
@@ -14,9 +15,6 @@
 #include <string>
 
 namespace {
-
-bool isBarOrPane(const WidgetNode& node) { return node.type == TYPE_TOOL_BAR || node.type == TYPE_PANE; }
-bool isArray(const WidgetNode& node) { return node.type == TYPE_TEXT_ARRAY || node.type == TYPE_VALUE_ARRAY; }
 
 void release() { owAdoptChild(0, 0, 0); }
 

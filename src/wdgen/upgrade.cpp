@@ -4,6 +4,7 @@
 #include "project/defaults.h"
 #include "project/files.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -59,7 +60,7 @@ bool save(const std::string& path, ProjectFileKind kind) {
 }
 
 void print(int depth, const WidgetNode& node) {
-    std::printf("%d %d %s %d %d %d %d\n", depth, node.type, node.name.empty() ? "-" : node.name.c_str(), node.xpos,
+    std::printf("%d %d %s %d %d %d %d\n", depth, codeOf(node), node.name.empty() ? "-" : node.name.c_str(), node.xpos,
                 node.ypos, node.width, node.height);
 }
 

@@ -5,6 +5,7 @@
 #include "project/host.h"
 #include "project/preferences.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 
 #include <gtest/gtest.h>
 
@@ -118,7 +119,7 @@ struct Script {
         renameNode(*widget->child, name + "_MainPanel");
     }
 
-    void addWidget(int type, const std::string& name, std::size_t depth) {
+    void addWidget(WidgetType type, const std::string& name, std::size_t depth) {
         entry = nullptr;
         listEntry = nullptr;
         if (type == TYPE_FORM) {
@@ -217,9 +218,10 @@ struct Script {
             preferences.configCheck = 1;
             preferences.configDirExpr = line;
         } else {
-            int type = 0;
-            std::from_chars(item.data(), item.data() + item.size(), type);
-            ASSERT_GE(type, TYPE_FORM) << item;
+            int code = 0;
+            std::from_chars(item.data(), item.data() + item.size(), code);
+            const WidgetType type = typeOfCode(code);
+            ASSERT_TRUE(isKnown(type)) << item;
             addWidget(type, line, blanks / 2);
         }
     }

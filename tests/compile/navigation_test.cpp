@@ -45,7 +45,7 @@ const Place PLACES[] = {
     {CodePlace::entrySlot, ENTRY_CHANGE, "Tree1", "Tree1_Leaf"},
 };
 
-WidgetNode* addWidget(WidgetNode& parent, int type, const char* name) {
+WidgetNode* addWidget(WidgetNode& parent, WidgetType type, const char* name) {
     WidgetNode* node = createFromDefaults(type, 10, 10);
     linkChild(parent, node);
     renameNode(*node, name);

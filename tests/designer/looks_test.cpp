@@ -153,7 +153,7 @@ bool isSameLive(int ofRow, int ofProgram) {
 
 TEST(Looks, ARowSetsWhatAProgramIsToldOfTheSameField) {
     int compared = 0;
-    for (const WidgetTypeRow& type : widgetTypes()) {
+    for (const TypeCard& type : typeCards()) {
         const AttributesOfType* known = attributesOf(type.type);
         if (!known) continue;
         WidgetNode widget;

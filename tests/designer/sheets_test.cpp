@@ -83,10 +83,10 @@ void writeScene(std::ostream& sheet, WidgetNode& widget, const Scene& scene) {
     }
 }
 
-std::string sheetText(int type) {
+std::string sheetText(WidgetType type) {
     const std::unique_ptr<WidgetNode> widget(makeDefaultRecord(type));
     std::ostringstream sheet;
-    sheet << "Sheet of a widget of type " << type << ", " << widgetType(type)->label << ", as it is placed\n";
+    sheet << "Sheet of a widget of type " << codeOf(type) << ", " << cardOf(type).label << ", as it is placed\n";
     for (const Scene& scene : SCENES) writeScene(sheet, *widget, scene);
     return sheet.str();
 }
@@ -123,7 +123,7 @@ TEST(PropertyRows, StandAtTheirIdentifiers) {
 }
 
 TEST_P(SheetOf, HasTheRowsThatAreKept) {
-    const fs::path path = SHEETS / (std::to_string(GetParam()) + ".txt");
+    const fs::path path = SHEETS / (std::to_string(codeOf(GetParam())) + ".txt");
     const std::string shown = sheetText(GetParam());
     if (std::getenv("ORBA_UPDATE_GOLDENS")) {
         std::ofstream(path, std::ios::binary) << shown;

@@ -87,9 +87,9 @@ void checkLists() {
 
 namespace {
 
-bool fits(Kind kind, int type) {
+bool fits(Kind kind, WidgetType type) {
     struct Row {
-        int type;
+        WidgetType type;
         std::vector<Kind> kinds;
     };
     static const std::vector<Row> rows = {

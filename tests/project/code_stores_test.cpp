@@ -17,7 +17,7 @@ std::string offered(const WidgetNode& node) {
 
 TEST(CodeStores, SlotsByTypeAndPlatform) {
     struct Row {
-        int type;
+        WidgetType type;
         const char* windows;
         const char* elsewhere;
     };

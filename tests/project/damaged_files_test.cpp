@@ -237,7 +237,7 @@ TEST_F(DamagedFile, MendingTakesAwayWhatCannotBeShown) {
     addRecord(form->child, TYPE_BUTTON, "Form1_Button1");
     WidgetNode* panel = addRecord(form->child, TYPE_PANEL, "Form1_Panel1");
     addRecord(panel, TYPE_NONE, "Form1_None");
-    addRecord(panel, 2044, "Form1_Strange");
+    addRecord(panel, TYPE_UNKNOWN, "Form1_Strange")->unknownCode = 2044;
     addRecord(form->child, TYPE_FORM, "Form1_Inner");
     addRecord(form->child, TYPE_SLIDER, "Form1_Slider1");
     addRecord(nullptr, TYPE_BUTTON, "Loose");

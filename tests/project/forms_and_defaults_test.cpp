@@ -116,7 +116,7 @@ TEST(FormFile, AFormOfANameThatIsThereIsTakenBack) {
 TEST(Defaults, BuiltInRecordsOfEveryType) {
     freshProject();
     struct Row {
-        int type;
+        WidgetType type;
         int width, height, tabList, initialState, justify, subType, size;
     };
     const Row rows[] = {
@@ -136,9 +136,10 @@ TEST(Defaults, BuiltInRecordsOfEveryType) {
     static_assert(std::size(rows) == DEFAULT_RECORDS);
     for (const Row& row : rows) {
         const WidgetNode& n = *defaultRecord(row.type);
-        EXPECT_EQ(std::vector({n.type, n.width, n.height, n.tabList, n.initialState, n.justify, n.subType, n.size}),
-                  std::vector({row.type, row.width, row.height, row.tabList, row.initialState, row.justify, row.subType,
-                               row.size}));
+        EXPECT_EQ(
+            std::vector<int>({n.type, n.width, n.height, n.tabList, n.initialState, n.justify, n.subType, n.size}),
+            std::vector<int>(
+                {row.type, row.width, row.height, row.tabList, row.initialState, row.justify, row.subType, row.size}));
         EXPECT_EQ(n.fontFace, "MS Sans Serif");
         EXPECT_EQ(std::vector({n.hpos, n.vpos, n.pointSize, n.buildInfo}), std::vector({-1, 1, 10, 1}));
     }

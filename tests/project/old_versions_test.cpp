@@ -2,6 +2,7 @@
 #include "project/defaults.h"
 #include "project/files.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "support/box_script.h"
 #include "support/file_writer.h"
 #include "support/files.h"
@@ -20,24 +21,22 @@ constexpr int VERSIONS[] = {10, 20, 21, 30, 40, 50, 51, 70, 71, 75, 80};
 void fillProject() {
     freshProject();
     WidgetNode* panel = project.forms->child;
-    const std::pair<int, const char*> records[] = {
-        {TYPE_BUTTON, "Form1_Button1"},
-        {TYPE_TOGGLE, "Form1_Toggle1"},
-        {TYPE_TEXT_ENTRY, "Form1_Text1"},
-        {TYPE_TEXT_LABEL, "Form1_Text2"},
-        {TYPE_PANEL, "Form1_Panel1"},
-        {TYPE_RADIO_BOX, "Form1_Radio1"},
-        {TYPE_TEXT_ARRAY, "Form1_TxtArray1"},
-        {TYPE_VALUE_ARRAY, "Form1_ValArray1"},
-        {TYPE_TOOL_BAR, "Form1_ToolBar1"},
-        {TYPE_LIST_BOX, "Form1_List1"},
-        {2011, "Form1_Icon1"},
-        {TYPE_ICON, "Form1_Icon2"},
-        {2014, "Form1_Slider1"},
-        {2020, "Form1_Slider2"},
-        {2021, "Form1_Slider3"},
+    struct Row {
+        WidgetType type;
+        const char* name;
+        int code = 0; // of a type that went with an old version
     };
-    for (const auto& [type, name] : records) addRecord(panel, type, name);
+    const Row records[] = {
+        {TYPE_BUTTON, "Form1_Button1"},        {TYPE_TOGGLE, "Form1_Toggle1"},
+        {TYPE_TEXT_ENTRY, "Form1_Text1"},      {TYPE_TEXT_LABEL, "Form1_Text2"},
+        {TYPE_PANEL, "Form1_Panel1"},          {TYPE_RADIO_BOX, "Form1_Radio1"},
+        {TYPE_TEXT_ARRAY, "Form1_TxtArray1"},  {TYPE_VALUE_ARRAY, "Form1_ValArray1"},
+        {TYPE_TOOL_BAR, "Form1_ToolBar1"},     {TYPE_LIST_BOX, "Form1_List1"},
+        {TYPE_UNKNOWN, "Form1_Icon1", 2011},   {TYPE_ICON, "Form1_Icon2"},
+        {TYPE_UNKNOWN, "Form1_Slider1", 2014}, {TYPE_UNKNOWN, "Form1_Slider2", 2020},
+        {TYPE_UNKNOWN, "Form1_Slider3", 2021},
+    };
+    for (const auto& [type, name, code] : records) addRecord(panel, type, name)->unknownCode = code;
     for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms)) {
         n->text = "Gee~text";
         n->fieldWidth = 8;
@@ -189,7 +188,7 @@ TEST_P(OldVersion, OldLooksAndTypesAreUpgraded) {
         EXPECT_EQ(icon.text, "");
     }
     if (version >= 30) {
-        EXPECT_EQ(record("Form1_Icon1")->type, 2011);
+        EXPECT_EQ(codeOf(*record("Form1_Icon1")), 2011);
         EXPECT_EQ(record("Form1_Icon2")->icon, "old.ico");
     }
 }

@@ -81,7 +81,7 @@ TEST(Placement, WhichToolGoesWhere) {
     enum { BAR, PANE, TABS, RADIOS, BARS, PANES, SEPARATORS, RADIO, FRAME, NONE };
     // For each parent the tools that it takes, and what others are told; tools with words of their own come behind.
     struct Row {
-        int parent;
+        WidgetType parent;
         std::vector<int> takes;
         int others;
         std::map<int, int> own;
@@ -244,8 +244,8 @@ TEST(Names, PastedRecordsTakeTheNameOfTheirNewForm) {
 
 TEST(Paste, WhatAParentTakes) {
     struct Row {
-        int target;
-        std::vector<int> records;
+        WidgetType target;
+        std::vector<WidgetType> records;
         const char* refusal;         // null: taken
         const char* title = nullptr; // of the refusal on a Master MDI form
     };
@@ -281,7 +281,7 @@ TEST(Paste, WhatAParentTakes) {
         if (row.title) form->formType = FORM_MASTER_MDI;
         WidgetNode* target = row.target == TYPE_MAIN_PANEL ? form : addRecord(form->child, row.target, "T");
         Records records;
-        for (const int type : row.records) {
+        for (const WidgetType type : row.records) {
             WidgetNode* node = new WidgetNode();
             node->type = type;
             records.push_back(node);

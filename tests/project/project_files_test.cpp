@@ -92,7 +92,7 @@ TEST(ProjectFile, HeaderMarksFollowLanguagePlatformAndBuffering) {
 
 TEST(ProjectFile, TextTakesAsManyBytesAsTheFieldWidthAsksFor) {
     struct Row {
-        int type;
+        WidgetType type;
         int fieldWidth;
         std::size_t length;
         int widthSaved;

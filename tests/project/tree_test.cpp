@@ -229,13 +229,11 @@ TEST(Tree, ResetLeavesTheEmptyProjectAndRecountRestartsUnusedCounters) {
     EXPECT_EQ(project.counters[COUNTER_BUTTON], 1);
 }
 
-TEST(Tree, AllWidgetTypesHaveOneRow) {
-    EXPECT_EQ(widgetTypes().size(), 26u);
-    for (int type : defaultOrder) {
-        ASSERT_TRUE(widgetType(type)) << type;
-        EXPECT_STRNE(widgetType(type)->label, "");
-    }
-    EXPECT_EQ(widgetType(2026), nullptr);
+TEST(Tree, TypesAreKnownToFilesByTheirCodes) {
+    for (const TypeCard& card : typeCards()) EXPECT_EQ(typeOfCode(card.code), card.type) << card.code;
+    for (const WidgetType type : defaultOrder) EXPECT_STRNE(cardOf(type).label, "") << type;
+    for (const int code : {2026, 0, -1, 1999, 2035}) EXPECT_EQ(typeOfCode(code), TYPE_UNKNOWN) << code;
+    EXPECT_EQ(typeOfCode(2000), TYPE_NONE);
     EXPECT_STREQ(counterWord(COUNTER_TAB_DIA_BOX), "TabDiaBox");
 }
 

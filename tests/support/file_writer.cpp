@@ -1,4 +1,5 @@
 #include "support/file_writer.h"
+#include "project/widget_types.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -51,7 +52,7 @@ void fields(Stream& s, const WidgetNode& n) {
     s.str(n.parentName);
     if (s.from(20)) s.str(n.bubbleHelp);
     s.num(n.formType);
-    s.num(n.type);
+    s.num(codeOf(n));
     s.num(n.reserved);
     s.num(n.storedParentHandle);
     s.num(n.xpos);

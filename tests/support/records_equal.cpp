@@ -2,6 +2,7 @@
 
 #include "project/code_stores.h"
 #include "project/field_table.h"
+#include "project/widget_types.h"
 
 #include <string_view>
 
@@ -14,6 +15,8 @@ void note(std::string& out, const WidgetNode& node, std::string_view field, cons
 
 void compareRecord(std::string& out, const WidgetNode& left, const WidgetNode& right) {
     for (const FieldRow& row : recordFields()) {
+        if (row.kind == FIELD_TYPE)
+            note(out, left, row.name, std::to_string(codeOf(left)), std::to_string(codeOf(right)));
         if (row.number) note(out, left, row.name, std::to_string(left.*row.number), std::to_string(right.*row.number));
         if (row.real) note(out, left, row.name, std::to_string(left.*row.real), std::to_string(right.*row.real));
         if (row.string) note(out, left, row.name, left.*row.string, right.*row.string);

@@ -138,7 +138,7 @@ struct Maker {
 
 } // namespace
 
-WidgetNode* addRecord(WidgetNode* parent, int type, const std::string& name) {
+WidgetNode* addRecord(WidgetNode* parent, WidgetType type, const std::string& name) {
     WidgetNode* node = makeDefaultRecord(type);
     if (!node) node = new WidgetNode();
     node->type = type;
@@ -197,9 +197,10 @@ void randomProject(std::mt19937& random, int forms, int widgets) {
         maker.fill(*panel);
         parents.push_back(panel);
     }
-    const auto types = widgetTypes();
+    const auto types = typeCards();
     for (int i = 0; i < widgets; ++i) {
-        const int type = types[static_cast<std::size_t>(i) % (types.size() - 2) + 2].type; // no form, no main panel
+        const WidgetType type =
+            types[static_cast<std::size_t>(i) % (types.size() - 2) + 2].type; // no form, no main panel
         WidgetNode* parent = parents[static_cast<std::size_t>(maker.number(0, static_cast<int>(parents.size()) - 1))];
         WidgetNode* node = addRecord(parent, type, "Form1_Widget" + std::to_string(i));
         maker.fill(*node);
@@ -236,10 +237,10 @@ void randomProject(std::mt19937& random, int forms, int widgets) {
 
 void largeProject(int widgets) {
     WidgetNode* panel = freshProject()->child;
-    const auto types = widgetTypes();
+    const auto types = typeCards();
     for (int i = 0; i < widgets; ++i) {
         if (i % 50 == 0) panel = addRecord(project.forms->child, TYPE_PANEL, "Form1_Panel" + std::to_string(i));
-        const int type = types[static_cast<std::size_t>(i) % (types.size() - 2) + 2].type;
+        const WidgetType type = types[static_cast<std::size_t>(i) % (types.size() - 2) + 2].type;
         WidgetNode* node = addRecord(panel, type, "Form1_Widget" + std::to_string(i));
         node->text = "Widget " + std::to_string(i);
         node->bubbleHelp = "What it does";

@@ -7,7 +7,7 @@
 #include <string>
 
 // A record of `type` with default values and the name, linked below `parent`, or appended as a form when it is null.
-WidgetNode* addRecord(WidgetNode* parent, int type, const std::string& name);
+WidgetNode* addRecord(WidgetNode* parent, WidgetType type, const std::string& name);
 void addEntry(WidgetNode& owner, int kind, int level, const std::string& label, const std::string& name);
 void addListEntry(WidgetNode& owner, const std::string& text, const std::string& icon = "");
 
