@@ -35,12 +35,27 @@ constexpr std::string_view MANIFEST = "<?xml version=\"1.0\" encoding=\"UTF-8\" 
                                       "</dependency> \n"
                                       "</assembly> \n";
 
+// As the value of an attribute: the title is the user's, and a reader of XML refuses these characters.
+std::string escapedAttribute(std::string_view text) {
+    std::string escaped;
+    for (const char letter : text) {
+        switch (letter) {
+        case '&': escaped += "&amp;"; break;
+        case '<': escaped += "&lt;"; break;
+        case '>': escaped += "&gt;"; break;
+        case '"': escaped += "&quot;"; break;
+        default: escaped += letter;
+        }
+    }
+    return escaped;
+}
+
 } // namespace
 
 bool writeManifest(const std::string& base, std::string_view title) {
     const std::string& architecture = folders.architectureText;
     std::string text;
-    put(text, MANIFEST, architecture, title, architecture);
+    put(text, MANIFEST, architecture, escapedAttribute(title), architecture);
     SafeFile file;
     if (!openSafeFile(file, base + ".exe.manifest")) return false;
     writeSafeFile(file, text.data(), text.size());

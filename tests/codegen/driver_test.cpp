@@ -84,6 +84,13 @@ TEST_F(Driver, WritesSourceManifestAndScriptAndClearsTheMarks) {
     EXPECT_TRUE(boxes.empty());
 }
 
+TEST_F(Driver, TheManifestIsXmlWhateverTheNameOfTheProject) {
+    ASSERT_TRUE(generateSource(path("R&D <\"1\">.f90"), "R&D <\"1\">.f90"));
+    const std::string manifest = contents(path("R&D <\"1\">.exe.manifest"));
+    EXPECT_NE(manifest.find("name=\"Norvane_Systems.Wdesign.R&amp;D &lt;&quot;1&quot;&gt;\" \n"), std::string::npos)
+        << manifest;
+}
+
 TEST_F(Driver, ASourceThatDiffersByItsDateAloneStays) {
     generate();
     const std::vector<std::string> names = {"prog.f90", "prog.exe.manifest", "progrc.rc"};

@@ -2,6 +2,7 @@
 #include "toolkit/families/boxes.h"
 #include "toolkit/testing/robot.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
@@ -78,9 +79,10 @@ TEST(MessageBoxes, AreOnesOfTheProgram) {
         EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(longTitle));
         EXPECT_FALSE(box.windowFlags() & Qt::WindowMinMaxButtonsHint);
         EXPECT_NE(box.parentWidget(), nullptr);
+        for (const QAbstractButton* button : box.buttons()) EXPECT_TRUE(button->icon().isNull());
         box.accept();
     });
-    orba::messageBox(longTitle, "short", 1, 0);
+    orba::messageBox(longTitle, "short", 1, OBOXYESNOCANCEL);
     watchProgram(true);
 }
 

@@ -8,6 +8,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QWidget>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -168,6 +169,19 @@ TEST(Dialogues, TitleFlagsChooseTheButtons) {
     EXPECT_TRUE(viewOf(bare)->windowFlags().testFlag(Qt::FramelessWindowHint));
     const int tool = owCreateComplexDialogueBox(toolkit.master, 0, 0, 100, 100, OTOOL, "x", 0);
     EXPECT_EQ(viewOf(tool)->windowType(), Qt::Tool);
+}
+
+TEST(Dialogues, ATitleMayHoldTheMarkOfAModifiedDocument) {
+    Toolkit toolkit;
+    const int window = owCreateComplexDialogueBox(toolkit.master, 0, 0, 200, 100, OALL, "a[*]b", 0);
+    owDrawWindow(window, 1);
+    settle();
+    EXPECT_EQ(viewOf(window)->windowHandle()->title(), QStringLiteral("a[*]b"));
+    owSetWidgetProp(window, owTitle, "[*]", 0);
+    EXPECT_EQ(viewOf(window)->windowHandle()->title(), QStringLiteral("[*]"));
+    char title[20] = "";
+    owEnqWidgetProp(window, owTitle, title, 0);
+    EXPECT_STREQ(title, "[*]");
 }
 
 TEST(Dialogues, InitialStates) {

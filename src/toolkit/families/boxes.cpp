@@ -3,7 +3,9 @@
 
 #include "toolkit/frame/core.h"
 #include "toolkit/views/icons/icons.h"
+#include "toolkit/views/window_title.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
@@ -79,13 +81,15 @@ QWidget* ownerOfBox() {
     return master && master->view ? master->view->window() : nullptr;
 }
 
-// Wide enough for its title; there is nothing to minimise.
+// Wide enough for its title; there is nothing to minimise. The buttons bear words alone: the theme has one picture for
+// both No and Cancel.
 void dress(QMessageBox& box) {
     constexpr int FRAME = 120; // pixels of icon, close box and margins of the title
     box.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
         grid->addItem(new QSpacerItem(box.fontMetrics().horizontalAdvance(box.windowTitle()) + FRAME, 0),
                       grid->rowCount(), 0, 1, grid->columnCount());
+    for (QAbstractButton* button : box.buttons()) button->setIcon({});
 }
 
 } // namespace
@@ -96,7 +100,7 @@ int messageBox(const QString& title, const QString& text, int icon, int buttons)
         if (row.buttons == buttons) set = &row;
     const FocusKeeper keeper;
     QMessageBox box(ownerOfBox());
-    box.setWindowTitle(title);
+    box.setWindowTitle(windowTitle(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString(text).replace(QLatin1Char('|'), QLatin1Char('\n')));
     box.setIcon(icon >= 0 && icon < static_cast<int>(std::size(boxIcons)) ? boxIcons[icon] : QMessageBox::NoIcon);

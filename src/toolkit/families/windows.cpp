@@ -5,6 +5,7 @@
 #include "toolkit/frame/session.h"
 #include "toolkit/frame/watch.h"
 #include "toolkit/views/icons/icons.h"
+#include "toolkit/views/window_title.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -105,11 +106,11 @@ void setWindowStatus(Widget& window, int status) {
     if (windowData(window).shown) showWindow(window, false);
 }
 
-QString titleOf(Widget& window) { return window.view->windowTitle(); }
+QString titleOf(Widget& window) { return plainTitle(window.view->windowTitle()); }
 
 void setTitle(Widget& window, const QString& title) {
-    window.view->setWindowTitle(title);
-    if (QMdiSubWindow* frame = windowData(window).frame) frame->setWindowTitle(title);
+    window.view->setWindowTitle(windowTitle(title));
+    if (QMdiSubWindow* frame = windowData(window).frame) frame->setWindowTitle(windowTitle(title));
 }
 
 void windowErased(Widget& window) {
@@ -155,7 +156,7 @@ int finishWindow(Widget& window, const Arguments& call, int first) {
     window.place.y = pixelsDown(call.integer(first + 1));
     window.place.hpos = call.keyword(owHpos);
     window.place.vpos = call.keyword(owVpos);
-    window.view->setWindowTitle(call.text(first + 5));
+    window.view->setWindowTitle(windowTitle(call.text(first + 5)));
     window.view->setAttribute(Qt::WA_AlwaysShowToolTips); // while another window of the program is the active one
     setIcon(window, call.keywordText(owIconFile), call.keyword(owIconFormat));
     return 0;
