@@ -13,6 +13,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -25,9 +26,22 @@ constexpr std::size_t MOST_HELD = 2000; // events; a user who types more gets no
 
 struct HeldInput {
     QPointer<QObject> window;
-    std::unique_ptr<QEvent> event;
+    std::function<std::unique_ptr<QEvent>()> event; // makes it when its time has come
 };
 std::vector<HeldInput> held;
+
+// Mouse events share the one point of their device, copies too: a later event would move an earlier one to its own
+// place. So what is kept of them is their values.
+std::function<std::unique_ptr<QEvent>()> heldMouse(const QMouseEvent& event) {
+    return [type = event.type(), at = event.position(), global = event.globalPosition(), button = event.button(),
+            buttons = event.buttons(), modifiers = event.modifiers()] {
+        return std::make_unique<QMouseEvent>(type, at, global, button, buttons, modifiers);
+    };
+}
+
+std::function<std::unique_ptr<QEvent>()> heldKey(const QEvent& event) {
+    return [key = std::shared_ptr<QEvent>(event.clone())] { return std::unique_ptr<QEvent>(key->clone()); };
+}
 
 bool isInput(QEvent::Type type) {
     switch (type) {
@@ -68,11 +82,12 @@ public:
             return true;
         }
         if (event->type() == QEvent::Wheel) return true;
-        if (auto* mouse = dynamic_cast<QMouseEvent*>(event)) {
+        const auto* mouse = dynamic_cast<const QMouseEvent*>(event);
+        if (mouse) {
             if (stops(QApplication::widgetAt(mouse->globalPosition().toPoint()), identifier_)) return false;
             if (mouse->type() == QEvent::MouseMove && mouse->buttons() == Qt::NoButton) return true;
         }
-        if (held.size() < MOST_HELD) held.push_back({target, std::unique_ptr<QEvent>(event->clone())});
+        if (held.size() < MOST_HELD) held.push_back({target, mouse ? heldMouse(*mouse) : heldKey(*event)});
         return true;
     }
 
@@ -110,6 +125,11 @@ bool widgets::stopAsked(int identifier) {
 }
 
 void widgets::releaseHeldInput() {
-    for (orba::HeldInput& input : std::exchange(orba::held, {}))
-        if (input.window) QCoreApplication::postEvent(input.window, input.event.release());
+    for (const orba::HeldInput& input : std::exchange(orba::held, {}))
+        QMetaObject::invokeMethod(
+            qApp,
+            [input] {
+                if (input.window) QCoreApplication::sendEvent(input.window, input.event().get());
+            },
+            Qt::QueuedConnection);
 }
