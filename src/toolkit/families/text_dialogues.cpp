@@ -106,7 +106,7 @@ private:
     }
 
     TextEntry& entry_;
-    QLineEdit* wanted_ = new QLineEdit;
+    QLineEdit* wanted_ = new QLineEdit(this);
     QLineEdit* replacement_ = new QLineEdit(this); // stands in no layout while the box only finds
     QCheckBox* matchCase_ = new QCheckBox(QStringLiteral("Match &case"));
     QLabel* message_ = new QLabel;
