@@ -239,6 +239,7 @@ const Language C_LANGUAGE = {
     .actionLoop = writeActionLoop,
     .termination = writeTermination,
     .creation = C_CREATION,
+    .furtherProperties = nullptr,
     .menuBar = writeMenuBar,
     .pullDown = writePullDown,
     .menuEntry = writeMenuEntry,

@@ -62,7 +62,10 @@ void writeStatus(Generation& g, const WidgetNode& node) {
 void writeWidget(Generation& g, const Placed& widget) {
     writeComment(g, widget);
     const CreationRow* creation = rowOf(g.language.creation, widget.node.type);
-    if (creation != nullptr && creation->write != nullptr) creation->write(g, widget);
+    if (creation != nullptr && creation->write != nullptr) {
+        creation->write(g, widget);
+        if (g.language.furtherProperties != nullptr) g.language.furtherProperties(g, widget);
+    }
     writeDefineCalls(g, widget.node);
     writeStatus(g, widget.node);
 }

@@ -216,6 +216,7 @@ const Language FORTRAN_77 = {
     .actionLoop = writeActionLoop,
     .termination = writeTermination,
     .creation = FORTRAN_77_CREATION,
+    .furtherProperties = writeFurtherProperties,
     .menuBar = writeMenuBar,
     .pullDown = writePullDown,
     .menuEntry = writeMenuEntry,

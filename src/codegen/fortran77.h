@@ -10,5 +10,8 @@ void writeHelpStatement(Generation& g, std::string_view name, std::string_view h
 // Fetches an image of the resources into the variable `variable`.
 void writeFetchIcon(Generation& g, std::string_view variable, std::string_view icon);
 
+// Behind the creation of a widget.
+void writeFurtherProperties(Generation& g, const Placed& widget);
+
 void writeFixedTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryRec& entry, std::string_view parent);
 void writeFixedListEntry(Generation& g, const WidgetNode& list, const ListEntryRec& entry);

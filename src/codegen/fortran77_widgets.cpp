@@ -384,6 +384,7 @@ void createPanel(Generation& g, const Placed& w) {
     writeSplit(g, "      CALL PANEL(%s,%d,%d,%s)\n", w.parent, node.xpos, node.ypos, node.name);
     writePanelImage(g, node);
     writeHelp(g, node);
+    if (node.titleFlag != 0) writeFont(g, w);
     resetScroll(g);
     writeStatus(g, node);
 }
@@ -482,6 +483,7 @@ void createProgressBar(Generation& g, const Placed& w) {
     writeSplit(g, "      CALL PROBAR(%s,%d,%d,%d,%s)\n", w.parent, node.xpos, node.ypos,
                node.subType == PROGRESS_SMOOTH ? 1 : 0, node.name);
     writeSplit(g, "      CALL PROLIM(%s,%d,%d)\n", node.name, wholeNumber(node.minValue), wholeNumber(node.maxValue));
+    if (wholeNumber(node.value) != 0) write(g, "      CALL PROSET(%s,%d)\n", node.name, wholeNumber(node.value));
     writeHelp(g, node);
     writeStatus(g, node);
 }
@@ -588,8 +590,11 @@ void writeFixedTreeEntry(Generation& g, const WidgetNode& tree, const MenuEntryR
     if (!entry.icon1.empty()) writeFetchIcon(g, "icon1", entry.icon1);
     if (!entry.icon2.empty()) writeFetchIcon(g, "icon2", entry.icon2);
     if (!entry.icon3.empty()) writeFetchIcon(g, "icon3", entry.icon3);
-    writeSplit(g, "      CALL GUIESC(880,%s,1,icon1,icon2,icon3,0,%s,iret2,'%s')\n", parent, entry.name,
-               fortranText(entry.label));
+    const auto argument = [](const std::string& icon, std::string_view variable) {
+        return icon.empty() ? std::string_view("0") : variable;
+    };
+    writeSplit(g, "      CALL GUIESC(880,%s,1,%s,%s,%s,0,%s,iret2,'%s')\n", parent, argument(entry.icon1, "icon1"),
+               argument(entry.icon2, "icon2"), argument(entry.icon3, "icon3"), entry.name, fortranText(entry.label));
 }
 
 void writeFixedListEntry(Generation& g, const WidgetNode& list, const ListEntryRec& entry) {

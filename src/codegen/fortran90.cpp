@@ -264,6 +264,7 @@ const Language FORTRAN_90 = {
     .actionLoop = writeActionLoop,
     .termination = writeTermination,
     .creation = FORTRAN_90_CREATION,
+    .furtherProperties = nullptr,
     .menuBar = writeMenuBar,
     .pullDown = writePullDown,
     .menuEntry = writeMenuEntry,

@@ -88,6 +88,7 @@ struct Language {
     void (*actionLoop)(Generation&);
     void (*termination)(Generation&);
     const CreationRows& creation;
+    void (*furtherProperties)(Generation&, const Placed&); // behind a creation; null where it says everything itself
     void (*menuBar)(Generation&, const MenuEntryRec& bar, const WidgetNode& form);
     void (*pullDown)(Generation&, const MenuEntryRec& menu, std::string_view above);
     void (*menuEntry)(Generation&, const MenuEntryRec& entry, std::string_view owner);

@@ -14,8 +14,8 @@ std::string fortranText(std::string_view text);
 // others stay escapes. At most 32767 bytes, cut between letters; rich text is never cut.
 std::string cText(std::string_view text);
 
-// The same for the text of a C text widget, where every backslash means itself; see doubledTextBackslashes. Of rich text
-// each one is doubled.
+// The same for the text of a C text widget, where every backslash means itself; see doubledTextBackslashes. Of rich
+// text each one is doubled.
 std::string cFieldText(std::string_view text);
 
 // Whether cText leaves a backslash of this text as the beginning of an escape, so that the program shows something

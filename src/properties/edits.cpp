@@ -20,7 +20,7 @@ void follow(WidgetNode& target, After after) {
     case After::Nothing: break;
     case After::Redraw: redrawLive(target); break;
     case After::Rebuild: rebuildLive(target); break;
-    case After::Font: isText(target) ? rebuildLive(target) : redrawLive(target); break;
+    case After::Font: isText(target) || target.type == TYPE_COMBO_BOX ? rebuildLive(target) : redrawLive(target); break;
     case After::RebuildForm: rebuildFormOf(target); break;
     }
 }

@@ -30,6 +30,11 @@ void moveBar(const WidgetNode& bar) {
         owSetPanePos(bar.handle, bar.xpos, bar.ypos, bar.width, bar.height, bar.initialPosition);
 }
 
+// What is docked takes its size when it comes to its window, and never after.
+bool isSizedByItsWindow(const WidgetNode& node) {
+    return node.onToolbar != 0 || (node.type == TYPE_PANE && node.initialPosition != OFLOATING);
+}
+
 // A size of nothing can't be seen or dragged; a panel may have it all the same.
 int visibleSize(const WidgetNode& node, int size) {
     const bool panel = node.type == TYPE_PANEL && !design.defaultsMode;
@@ -79,7 +84,9 @@ void editPosition(WidgetNode& target, const PropertyRow& row, const CellInput& i
 
 void editWidth(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     target.width = visibleSize(target, static_cast<int>(input.number));
-    if (target.type == TYPE_PANE)
+    if (isSizedByItsWindow(target))
+        rebuildFormOf(target);
+    else if (target.type == TYPE_PANE)
         moveBar(target);
     else
         setLiveGeometry(target, row.keyword, target.width);
@@ -94,7 +101,9 @@ void editHeight(WidgetNode& target, const PropertyRow& row, const CellInput& inp
     if (target.type == TYPE_TEXT_ENTRY && target.subType == OSECURITY)
         target.height = std::min(target.height, singleLineHeight());
     if (isText(target)) fitFieldWidth(target, false);
-    if (target.type == TYPE_PANE)
+    if (isSizedByItsWindow(target))
+        rebuildFormOf(target);
+    else if (target.type == TYPE_PANE)
         moveBar(target);
     else
         setLiveGeometry(target, row.keyword, target.height);

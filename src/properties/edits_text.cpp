@@ -82,7 +82,10 @@ void editText(WidgetNode& target, const PropertyRow&, const CellInput& input) {
             return;
         }
         if (!storeFieldText(target, input.text)) return;
-        owSetTextSetting(target.handle, target.text.c_str(), owEntryType, target.subType == ORICHEDIT ? 1 : 0, 0);
+        if (isSingleLine(target) && target.subType != ORICHEDIT)
+            owSetTextSetting(target.handle, target.text.c_str(), 0);
+        else
+            rebuildLive(target); // its creation reads bars as line ends
     } else {
         target.text = input.text;
         if (target.type == TYPE_PANEL || target.type == TYPE_RADIO_BOX) target.titleFlag = input.text.empty() ? 0 : 1;

@@ -22,7 +22,9 @@ bool takesSign(const WidgetNode& n) { return n.subType >= OPOUND && n.subType <=
 bool keepsSign(const WidgetNode& n) { return n.subType >= OPOUND && n.subType <= OEURO; }
 
 void dressRichText(const WidgetNode& n) {
-    owSetTextSetting(n.handle, n.text.c_str(), owEntryType, 1, 0);
+    std::string text = n.text;
+    if (!isSingleLine(n)) std::ranges::replace(text, '|', '\n'); // as its creation reads it
+    owSetTextSetting(n.handle, text.c_str(), owEntryType, 1, 0);
     owSetFontAttribs(n.handle, owFontFace, n.fontFace.c_str(), owPointSize, n.pointSize, owCharSet, n.charSet, owBold,
                      n.bold, owItalic, n.italic, owUnderline, n.underline, owStrikeout, n.strikeout, 0);
     owSetWidgetProp(n.handle, owTextCol, n.colour3, 0);

@@ -186,6 +186,7 @@ bool centredUpright(const WidgetNode& n) { return uprightOf(originCode(box(n)));
 bool cornered(const WidgetNode& n) { return !centredAcross(n) && !centredUpright(n); }
 bool fillsAcross(const WidgetNode& n) { return centredAcross(n) && box(n).expand != 0; }
 bool fillsUpright(const WidgetNode& n) { return centredUpright(n) && box(n).expand != 0; }
+bool besideTheMiddle(const WidgetNode& n) { return originCode(n) == 3 || originCode(n) == 5; }
 bool comboKeepsSize(const WidgetNode& n) { return originCode(n) != 1 && originCode(n) != 7; }
 bool comboFillsAcross(const WidgetNode& n) { return !comboKeepsSize(n) && n.expand != 0; }
 
@@ -228,6 +229,8 @@ const GreyRule GREY_RULES[] = {
     {TYPE_TEXT_ENTRY, {ROW_ALIGN}, always},
     {TYPE_TEXT_ENTRY, {ROW_READ_ONLY}, offWindows},
     {TYPE_VALUE_ENTRY, {ROW_READ_ONLY}, offWindows},
+    {TYPE_VALUE_ENTRY, {ROW_EXPAND}, besideTheMiddle}, // it grows across alone
+    {TYPE_VALUE_LABEL, {ROW_EXPAND}, besideTheMiddle},
     {TYPE_TEXT_ENTRY, {ROW_SCROLL_BARS}, singleLine},
     {TYPE_TEXT_ENTRY, {ROW_ACTIVE_COLOUR, ROW_SCROLLABLE}, multiLine},
     {TYPE_TEXT_ENTRY, {ROW_OLE}, notRich},

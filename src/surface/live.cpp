@@ -131,6 +131,7 @@ void realiseWidget(WidgetNode& node, int parent, bool withSiblings) {
 
 void rebuildWidget(WidgetNode& node) {
     if (design.defaultsMode) return;
+    if (standsIn(node, TYPE_TAB_BOX)) return rebuildWidget(*node.parent); // made alone, a page would be the last
     const bool group = groupStands() && liesWithin(design.selection.front(), &node);
     if (group) ungroup();
     storeGeometryBelow(node);

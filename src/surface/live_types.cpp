@@ -237,7 +237,8 @@ void finishTable(WidgetNode& n) {
 }
 
 void finishToolBar(WidgetNode& n) {
-    if (n.initialPosition == OFLOATING) owSetToolbarPos(n.handle, n.xpos, n.ypos, n.width, n.initialPosition);
+    if (n.initialPosition != OFLOATING) return;
+    owSetToolbarPos(n.handle, n.xpos, n.ypos, n.width, n.initialPosition);
     if (!n.child) design.placeholders[n.id] = owCreateToolBarButton(n.handle, OTEXTBUTTON, " ");
 }
 

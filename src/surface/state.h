@@ -60,8 +60,9 @@ struct DesignState {
     int groupPanel = 0;
     Box groupBox = {}; // around the members
 
-    std::map<int, int> placeholders; // by record id of an empty tool bar or pane: the blank child that keeps it showing
-    int valueWidget = 0;             // handle of the value entry that the value callback reads
+    std::map<int, int>
+        placeholders;    // by record id of an empty floating tool bar or pane: the blank child that keeps it showing
+    int valueWidget = 0; // handle of the value entry that the value callback reads
 };
 
 extern DesignState design;

@@ -82,10 +82,13 @@ TEST(Surface, TabBoxComesWithAPage) {
     EXPECT_EQ(robot::gripCount(), 0) << "a page can't be dragged";
 }
 
-TEST(Surface, FirstWidgetTakesTheBlankButtonOffAToolBar) {
+TEST(Surface, FirstWidgetTakesTheBlankButtonOffAFloatingToolBar) {
     Desk desk;
     WidgetNode* bar = desk.place(PLACE_TOOL_BAR, desk.panel, 200, 200);
     ASSERT_TRUE(bar);
+    EXPECT_TRUE(design.placeholders.empty()) << "a docked bar shows without";
+    desk.setProperty("Initial Position", "Floating");
+    rebuildWidget(*desk.form);
     EXPECT_GT(design.placeholders[bar->id], 0);
     WidgetNode* button = desk.place(PLACE_BUTTON, bar, 60, 10);
     ASSERT_TRUE(button);

@@ -4,6 +4,7 @@
 #include "examples/builder.h"
 #include "project/files.h"
 #include "project/tree.h"
+#include "support/program_languages.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -17,24 +18,17 @@ using namespace example;
 namespace {
 
 struct Language {
-    const char* name; // of the case
-    int number;
-    const char* extension;
-    const char* compiler;
-    const char* libraries;
+    ProgramLanguage program;
     const char* press; // code of the button that answers
     const char* leave;
 };
 
-void PrintTo(const Language& language, std::ostream* out) { *out << language.name; }
+void PrintTo(const Language& language, std::ostream* out) { PrintTo(language.program, out); }
 
 constexpr Language languages[] = {
-    {"Fortran90", 90, ".f90", "gfortran -ffree-line-length-none", "-lorbawidg_f -lorbawidg",
-     "call owSetTextSetting(ANSWER, 'Pressed')\r\ncall owDrawWindow(SECOND, 1)", "callid = -1"},
-    {"Fortran77", 77, ".for", "gfortran -std=legacy -ffixed-form -ffixed-line-length-none", "-lorbawidg_f -lorbawidg",
-     "      CALL TEXSET(ANSWER,'Pressed')\r\n      CALL WINDRA(SECOND)", "      CALLID=-1"},
-    {"C", 99, ".cpp", "g++", "-lorbawidg", "owSetTextSetting(ANSWER, \"Pressed\", 0);\r\nowDrawWindow(SECOND, 1);",
-     "callid = -1;"},
+    {FORTRAN_90_PROGRAM, "call owSetTextSetting(ANSWER, 'Pressed')\r\ncall owDrawWindow(SECOND, 1)", "callid = -1"},
+    {FORTRAN_77_PROGRAM, "      CALL TEXSET(ANSWER,'Pressed')\r\n      CALL WINDRA(SECOND)", "      CALLID=-1"},
+    {C_PROGRAM, "owSetTextSetting(ANSWER, \"Pressed\", 0);\r\nowDrawWindow(SECOND, 1);", "callid = -1;"},
 };
 
 // Types that stand on a panel, in a grid of cells of 150 by 90.
@@ -62,7 +56,7 @@ void addCells(WidgetNode& form) {
 }
 
 WidgetNode& makeProject(const Language& language) {
-    WidgetNode& form = begin(language.number, "EVERY", "Every widget", 780, 470);
+    WidgetNode& form = begin(language.program.number, "EVERY", "Every widget", 780, 470);
     WidgetNode& bar = add(form, TYPE_TOOL_BAR, "BAR", 0, 0, 400, 30, "Tools");
     bar.onToolbar = 0;
     WidgetNode& tool = add(bar, TYPE_BUTTON, "TOOL", 0, 0, 60, 24, "Tool");
@@ -78,7 +72,7 @@ WidgetNode& makeProject(const Language& language) {
     addStatusBar(form, "FOOT", {200, -1}, {"Ready", ""});
     WidgetNode& second = addForm("SECOND", "Second form", FORM_STATIC_SDI, 300, 160);
     addLabel(second, "HELLO", 20, 100, 200, "Here I am");
-    if (language.number != 77) add(second, TYPE_PANE, "PANE", 0, 0, 120, 100, "Pane").initialPosition = 2;
+    if (language.program.number != 77) add(second, TYPE_PANE, "PANE", 0, 0, 120, 100, "Pane").initialPosition = 2;
     return form;
 }
 
@@ -89,16 +83,12 @@ class EveryWidget : public testing::TestWithParam<Language> {};
 TEST_P(EveryWidget, StartsShowsItsFormsAnswersAndEnds) {
     const Language& language = GetParam();
     ASSERT_TRUE(desk::open());
-    const std::string folder = desk::scratchFolder() + "/every" + language.name;
+    const std::string folder = desk::scratchFolder() + "/every" + language.program.name;
     fs::create_directories(folder);
     makeProject(language);
     ASSERT_TRUE(saveProject(folder, "every.wdp", true));
-    const std::string library = fs::path(ORBA_LIBRARY).parent_path().string();
-    const std::string source = std::string("every") + language.extension;
-    const std::string script = "cd " + folder + " && " ORBA_GENERATOR " every.wdp -o " + folder + "/" + source +
-                               " && " + language.compiler + " -I" ORBA_BINARY_DIR "/include/orbawidg " + source +
-                               " -o every -L" + library + " -Wl,-rpath," + library + " " + language.libraries +
-                               " > compile.log 2>&1";
+    const std::string script =
+        "cd " + folder + " && ( " + makeCommand(language.program, "every") + " ) > compile.log 2>&1";
     ASSERT_EQ(std::system(script.c_str()), 0) << script;
     const pid_t program = desk::start({"./every"}, {}, folder, folder + "/run.log");
     desk::settle(program);
@@ -109,7 +99,7 @@ TEST_P(EveryWidget, StartsShowsItsFormsAnswersAndEnds) {
     desk::click(press);
     desk::waitFor(program, "the answer", desk::withText("Pressed"));
     desk::waitFor(program, "the second form", desk::withText("Here I am"));
-    desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/every" + language.name + ".png");
+    desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/every" + language.program.name + ".png");
     desk::click(desk::waitFor(program, "Quit", desk::withText("Quit")));
     EXPECT_EQ(desk::stop(program), 0);
     std::ifstream log(folder + "/run.log");
@@ -117,4 +107,4 @@ TEST_P(EveryWidget, StartsShowsItsFormsAnswersAndEnds) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, EveryWidget, testing::ValuesIn(languages),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& info) { return std::string(info.param.program.name); });

@@ -4,6 +4,7 @@
 #include "examples/examples.h"
 #include "project/files.h"
 #include "project/tree.h"
+#include "support/program_languages.h"
 #include "support/records_equal.h"
 #include "support/scratch.h"
 
@@ -18,29 +19,19 @@ namespace {
 
 const std::string EXAMPLES = std::string(ORBA_SOURCE_DIR) + "/examples/";
 
-struct Language {
+struct Program {
     const char* example;
-    const char* source;   // what wdgen writes beside the project
-    const char* compiler; // with the switches of the source's form
-    const char* libraries;
+    ProgramLanguage language;
 };
 
-constexpr Language languages[] = {
-    {"heat", "heat.f90", "gfortran -ffree-line-length-none", "-lorbawidg_f -lorbawidg"},
-    {"beam", "beam.for", "gfortran -std=legacy -ffixed-form -ffixed-line-length-none", "-lorbawidg_f -lorbawidg"},
-    {"converter", "converter.cpp", "g++", "-lorbawidg"},
-};
+constexpr Program programs[] = {{"heat", FORTRAN_90_PROGRAM}, {"beam", FORTRAN_77_PROGRAM}, {"converter", C_PROGRAM}};
 
 // Generates, compiles and starts an example; its output goes to a log beside it.
-pid_t startExample(const Language& row) {
+pid_t startExample(const Program& row) {
     const std::string folder = desk::scratchFolder() + "/" + row.example;
     fs::create_directories(folder);
-    const std::string library = fs::path(ORBA_LIBRARY).parent_path().string();
-    const std::string script = "cd " + folder + " && cp " + EXAMPLES + row.example + "/" + row.example + ".wdp . && " +
-                               ORBA_GENERATOR + " " + row.example + ".wdp -o " + folder + "/" + row.source + " && " +
-                               row.compiler + " -I" + ORBA_BINARY_DIR + "/include/orbawidg " + row.source + " -o " +
-                               row.example + " -L" + library + " -Wl,-rpath," + library + " " + row.libraries +
-                               " > compile.log 2>&1";
+    const std::string script = "cd " + folder + " && ( cp " + EXAMPLES + row.example + "/" + row.example +
+                               ".wdp . && " + makeCommand(row.language, row.example) + " ) > compile.log 2>&1";
     EXPECT_EQ(std::system(script.c_str()), 0) << script;
     const pid_t program = desk::start({"./" + std::string(row.example)}, {}, folder, folder + "/run.log");
     desk::settle(program);
@@ -85,7 +76,7 @@ TEST(Examples, AreWhatTheirProgramWrites) {
 
 TEST(Examples, HeatRunsStopsAndTakesSettings) {
     ASSERT_TRUE(desk::open());
-    const pid_t program = startExample(languages[0]);
+    const pid_t program = startExample(programs[0]);
     desk::click(button(program, "Start"));
     desk::waitFor(
         program, "progress",
@@ -108,7 +99,7 @@ TEST(Examples, HeatRunsStopsAndTakesSettings) {
 
 TEST(Examples, BeamFollowsItsSupport) {
     ASSERT_TRUE(desk::open());
-    const pid_t program = startExample(languages[1]);
+    const pid_t program = startExample(programs[1]);
     desk::waitFor(program, "the deflection between two supports", showing("3.268 mm"));
     desk::click(desk::waitFor(program, "Cantilever", desk::withText("Cantilever")));
     desk::waitFor(program, "the deflection of a cantilever", showing("52.284 mm"));
@@ -117,7 +108,7 @@ TEST(Examples, BeamFollowsItsSupport) {
 
 TEST(Examples, ConverterConvertsAndShowsMaterials) {
     ASSERT_TRUE(desk::open());
-    const pid_t program = startExample(languages[2]);
+    const pid_t program = startExample(programs[2]);
     desk::waitFor(program, "the first conversion", desk::withText("1 metre = 1000 millimetre"));
     desk::click(button(program, "Swap"));
     desk::waitFor(program, "the other way", desk::withText("1 millimetre = 0.001 metre"));

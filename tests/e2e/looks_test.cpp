@@ -7,12 +7,12 @@
 #include "examples/builder.h"
 #include "project/files.h"
 #include "project/records.h"
+#include "support/program_languages.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <ostream>
 #include <string>
 
 namespace fs = std::filesystem;
@@ -21,21 +21,8 @@ namespace {
 
 using namespace example;
 
-struct Language {
-    const char* name;
-    int number;
-    const char* extension;
-    const char* compiler;
-    const char* libraries;
-};
-
-void PrintTo(const Language& language, std::ostream* out) { *out << language.name; }
-
 // Fortran 77 has no words for some of it: colours of lists, alignment of values, prompts, labels of stock icons.
-constexpr Language languages[] = {
-    {"Fortran90", 90, ".f90", "gfortran -ffree-line-length-none", "-lorbawidg_f -lorbawidg"},
-    {"C", 99, ".cpp", "g++", "-lorbawidg"},
-};
+constexpr ProgramLanguage languages[] = {FORTRAN_90_PROGRAM, C_PROGRAM};
 
 void setFont(WidgetNode& node, const char* face, int points, int style) {
     node.fontFace = face;
@@ -107,12 +94,12 @@ bool sameLooks(const std::string& a, const std::string& b) {
     return std::system(("compare -metric AE " + a + " " + b + " null: > /dev/null 2>&1").c_str()) == 0;
 }
 
-class Looks : public testing::TestWithParam<Language> {};
+class Looks : public testing::TestWithParam<ProgramLanguage> {};
 
 } // namespace
 
 TEST_P(Looks, TheProgramShowsWhatTheDesignerShows) {
-    const Language& language = GetParam();
+    const ProgramLanguage& language = GetParam();
     ASSERT_TRUE(desk::open());
     const std::string folder = desk::scratchFolder() + "/looks" + language.name;
     fs::create_directories(folder);
@@ -123,12 +110,7 @@ TEST_P(Looks, TheProgramShowsWhatTheDesignerShows) {
     const std::string live = pictureOfForm(designer, folder + "/live.png");
     designer::close(designer);
 
-    const std::string library = fs::path(ORBA_LIBRARY).parent_path().string();
-    const std::string source = std::string("drawn") + language.extension;
-    const std::string script = "cd " + folder + " && " ORBA_GENERATOR " drawn.wdp -o " + folder + "/" + source +
-                               " && " + language.compiler + " -I" ORBA_BINARY_DIR "/include/orbawidg " + source +
-                               " -o drawn -L" + library + " -Wl,-rpath," + library + " " + language.libraries +
-                               " > compile.log 2>&1";
+    const std::string script = "cd " + folder + " && ( " + makeCommand(language, "drawn") + " ) > compile.log 2>&1";
     ASSERT_EQ(std::system(script.c_str()), 0) << script;
     const pid_t program = desk::start({"./drawn"}, {}, folder, folder + "/run.log");
     desk::settle(program);

@@ -4,6 +4,7 @@
 #include "typed.h"
 
 #include "project/files.h"
+#include "support/program_languages.h"
 #include "support/scratch.h"
 
 #include <algorithm>
@@ -18,22 +19,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-struct Language {
-    const char* name; // of the case
-    int number;
-    const char* extension;
-    const char* compiler;
-    const char* libraries;
-};
-
-void PrintTo(const Language& language, std::ostream* out) { *out << language.name; }
-
-constexpr Language LANGUAGES[] = {
-    {"Fortran90", 90, ".f90", "gfortran -ffree-line-length-none", "-lorbawidg_f -lorbawidg"},
-    {"Fortran77", 77, ".for", "gfortran -std=legacy -ffixed-form -ffixed-line-length-none", "-lorbawidg_f -lorbawidg"},
-    {"C", 99, ".cpp", "g++ -w", "-lorbawidg"},
-};
 
 using Texts = std::multimap<std::string, std::string>; // what it is and what it says
 
@@ -65,14 +50,9 @@ bool run(const std::string& folder, const std::string& command) {
 }
 
 // The open project as a program that has run: every text in it.
-Texts programTexts(const Language& language, const std::string& folder) {
+Texts programTexts(const ProgramLanguage& language, const std::string& folder) {
     if (!saveProject(folder, "texts.wdp", true)) return {};
-    const std::string library = fs::path(ORBA_LIBRARY).parent_path().string();
-    const std::string source = folder + "/texts" + language.extension;
-    if (!run(folder, ORBA_GENERATOR " texts.wdp -o " + source)) return {};
-    if (!run(folder, std::string(language.compiler) + " -I" ORBA_BINARY_DIR "/include/orbawidg " + source +
-                         " -o texts -L" + library + " -Wl,-rpath," + library + " " + language.libraries))
-        return {};
+    if (!run(folder, makeCommand(language, "texts"))) return {};
     const std::string seen = folder + "/seen";
     if (!run(folder, "QT_QPA_PLATFORM=offscreen LD_PRELOAD=" ORBA_PROBE_LIBRARY " ORBA_PROBE_TEXTS=" + seen +
                          " timeout 60 ./texts"))
@@ -103,7 +83,7 @@ void expectShown(const Texts& texts, const std::vector<Shown>& expected) {
     EXPECT_EQ(lost, 0) << "of " << expected.size();
 }
 
-class TextsOfPrograms : public testing::TestWithParam<Language> {
+class TextsOfPrograms : public testing::TestWithParam<ProgramLanguage> {
 protected:
     // Every text is marked with its number, so that each is looked for by itself.
     Typing marking(std::function<std::string(std::size_t)> next) {
@@ -143,5 +123,5 @@ TEST_P(TextsOfPrograms, RandomTextsArrive) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, TextsOfPrograms, testing::ValuesIn(LANGUAGES),
+INSTANTIATE_TEST_SUITE_P(Languages, TextsOfPrograms, testing::ValuesIn(PROGRAM_LANGUAGES),
                          [](const auto& info) { return std::string(info.param.name); });

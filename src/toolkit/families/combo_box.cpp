@@ -119,7 +119,8 @@ const Family comboBoxes{.name = "combo box",
                         .set = setComboProperty,
                         .text = comboText,
                         .setText = setComboText,
-                        .naturalSize = comboSize};
+                        .naturalSize = comboSize,
+                        .fontChanged = placeWidget};
 
 void watch(Widget& widget) {
     ComboView& combo = comboOf(widget);

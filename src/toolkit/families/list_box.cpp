@@ -24,6 +24,10 @@ public:
 
     int handle = 0;
     bool wholeRows = false; // the height is cut to whole rows
+    void setWholeRows(bool on) {
+        wholeRows = on;
+        cutToRows();
+    }
     DescribedRow* rows = nullptr;
 
 protected:
@@ -56,13 +60,31 @@ protected:
     }
     void resizeEvent(QResizeEvent* event) override {
         QListWidget::resizeEvent(event);
-        if (!wholeRows || count() == 0) return;
-        const int row = sizeHintForRow(0);
-        const int spare = row > 0 ? viewport()->height() % row : 0;
-        if (spare > 0 && viewport()->height() > row) resize(width(), height() - spare);
+        if (!cutting_) asked_ = height();
+        cutToRows();
+    }
+    void changeEvent(QEvent* event) override {
+        QListWidget::changeEvent(event);
+        if (event->type() == QEvent::FontChange) cutToRows();
+    }
+    void rowsInserted(const QModelIndex& parent, int first, int last) override {
+        QListWidget::rowsInserted(parent, first, last);
+        cutToRows();
     }
 
 private:
+    // Whatever comes first, the size, the font or the rows: the height is the last one asked for less what is spare.
+    void cutToRows() {
+        const int row = wholeRows && count() > 0 && asked_ > 0 ? sizeHintForRow(0) : 0;
+        const int inside = asked_ - 2 * frameWidth();
+        if (row <= 0 || cutting_) return;
+        cutting_ = true;
+        resize(width(), inside > row ? asked_ - inside % row : asked_);
+        cutting_ = false;
+    }
+    int asked_ = 0; // pixels
+    bool cutting_ = false;
+
     void chosen(int before, QPointF position) {
         if (currentRow() != before) post(handle, Slot::change, currentRow() + 1, position);
         post(handle, Slot::general, currentRow() + 1, position);
@@ -94,7 +116,7 @@ bool setListProperty(Widget& widget, int property, const Value& value) {
         dataOf<ListData>(widget).sorted = value.integer == OSORTED;
         if (value.integer == OSORTED) list.sortItems();
         return true;
-    case propertyOf(owListStyle): list.wholeRows = value.integer == OAPPROX; return true;
+    case propertyOf(owListStyle): list.setWholeRows(value.integer == OAPPROX); return true;
     case propertyOf(owDescWidth):
         list.rows->width = pixelsAcross(value.integer);
         list.viewport()->update();
@@ -146,7 +168,7 @@ Word createListBox(const Arguments& call) {
     const int type = typeKeyword(call, owListType);
     const int handle = finishCreation(list, call);
     setListType(list, type);
-    view->wholeRows = (call.given(owListStyle) ? call.keyword(owListStyle) : call.keyword(owStyle)) == OAPPROX;
+    view->setWholeRows((call.given(owListStyle) ? call.keyword(owListStyle) : call.keyword(owStyle)) == OAPPROX);
     if (call.given(owDescWidth)) rows->width = pixelsAcross(call.keyword(owDescWidth));
     for (const int keyword : {owOffCol, owOnCol, owTextCol})
         if (call.given(keyword)) setProperty(list, propertyOf(keyword), call.keyword(keyword));

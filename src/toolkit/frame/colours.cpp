@@ -109,8 +109,13 @@ void recolour() {
 }
 
 void setViewColour(QWidget* view, QPalette::ColorRole role, int colour) {
+    const QPalette usual = QApplication::palette(view);
+    const bool text = role == QPalette::Text || role == QPalette::WindowText || role == QPalette::ButtonText;
     QPalette palette = view->palette();
-    palette.setColor(role, colour == 0 ? QApplication::palette(view).color(role) : colourOf(colour));
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const bool greys = text && group == QPalette::Disabled; // whatever its colour, to show that it is
+        palette.setColor(group, role, colour == 0 || greys ? usual.color(group, role) : colourOf(colour));
+    }
     view->setPalette(palette);
 }
 

@@ -16,6 +16,10 @@ namespace {
 constexpr int mostSteps = 1000000;
 } // namespace
 
+namespace {
+constexpr int VEIL = 140; // alpha over what is disabled
+}
+
 Slider::Slider(QWidget* parent) : QSlider(parent) {
     connect(this, &QSlider::valueChanged, this, [this](int value) {
         if (program_) return;
@@ -72,6 +76,10 @@ void Slider::mousePressEvent(QMouseEvent* event) {
 void Slider::paintEvent(QPaintEvent* event) {
     if (options_.back.isValid()) QPainter(this).fillRect(rect(), options_.back);
     QSlider::paintEvent(event);
+    if (isEnabled()) return;
+    QColor veil = options_.back.isValid() ? options_.back : palette().color(QPalette::Window); // styles tell too little
+    veil.setAlpha(VEIL);
+    QPainter(this).fillRect(rect(), veil);
 }
 
 // ------------------------------------------------------------------------------------------------------- gauge

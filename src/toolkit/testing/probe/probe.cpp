@@ -11,6 +11,9 @@
 // With $ORBA_PROBE_TEXTS the program instead writes every text that it holds, shown or not, into that file once its
 // windows stand, and ends. One line a text: what it is (text, title, tip, pane, entry, cell, head, tab), a tab, the
 // text. Marks of mnemonics are left out.
+//
+// With $ORBA_PROBE_PICTURES it writes a picture of each of its windows into that folder instead, named by the window's
+// title, and ends. No widget has the input in them.
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -235,15 +238,25 @@ QByteArray everyText() {
     return out;
 }
 
-// The program is ready when it has windows and nothing changes any more.
-void writeWhenReady(const QString& path) {
+void writeTexts(const QString& path) {
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly)) file.write(everyText());
+}
+
+void writePictures(const QString& folder) {
+    if (QWidget* input = QApplication::focusWidget()) input->clearFocus();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow*>(window) && window->isVisible())
+            window->grab().save(folder + '/' + window->windowTitle() + ".png");
+}
+
+// Calls `writeAll` and ends. The program is ready when it has windows and nothing changes any more.
+void writeWhenReady(const QString& path, void (*writeAll)(const QString& path)) {
     auto* timer = new QTimer(QCoreApplication::instance());
-    QObject::connect(timer, &QTimer::timeout, [path, last = QByteArray()]() mutable {
+    QObject::connect(timer, &QTimer::timeout, [path, writeAll, last = QByteArray()]() mutable {
         const QByteArray texts = everyText();
         if (texts.isEmpty() || texts != std::exchange(last, texts)) return;
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) file.write(texts);
-        file.close();
+        writeAll(path);
         std::_Exit(0);
     });
     timer->start(200);
@@ -257,10 +270,13 @@ void answer(QLocalSocket* socket) {
 }
 
 void listen() {
-    const QString texts = qEnvironmentVariable("ORBA_PROBE_TEXTS");
-    if (!texts.isEmpty() && qobject_cast<QApplication*>(QCoreApplication::instance())) writeWhenReady(texts);
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance())) return;
+    const QString texts = qEnvironmentVariable("ORBA_PROBE_TEXTS"),
+                  pictures = qEnvironmentVariable("ORBA_PROBE_PICTURES");
+    if (!texts.isEmpty()) writeWhenReady(texts, writeTexts);
+    if (!pictures.isEmpty()) writeWhenReady(pictures, writePictures);
     const QString folder = qEnvironmentVariable("ORBA_PROBE_DIR");
-    if (folder.isEmpty() || !qobject_cast<QApplication*>(QCoreApplication::instance())) return;
+    if (folder.isEmpty()) return;
     auto* server = new QLocalServer(QCoreApplication::instance());
     const QString path = folder + '/' + QString::number(QCoreApplication::applicationPid());
     QLocalServer::removeServer(path);

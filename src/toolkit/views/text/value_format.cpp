@@ -56,10 +56,21 @@ constexpr std::array<SignForm, 4> signs{{{ValueSign::Minus, "-", ""},
                                          {ValueSign::RoundBrackets, "(", ")"},
                                          {ValueSign::Red, "", ""}}};
 
+// A single precision number as it was written: 24832.1, not the 24832.0996 that it is in binary.
+double asWritten(double value) {
+    const auto single = static_cast<float>(value);
+    if (static_cast<double>(single) != value) return value;
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), single).ptr;
+    std::from_chars(digits.data(), end, value);
+    return value;
+}
+
 // Digits of a number that is not negative.
 std::string magnitude(double value, const ValueFormat& format) {
     const TypeRow& type = row(format);
     if (!std::isfinite(value)) return std::isnan(value) ? "nan" : "inf";
+    value = asWritten(value);
     if (type.base != 10) {
         constexpr double limit = 9007199254740992.0; // whole numbers are exact up to here
         std::array<char, 72> digits{};
