@@ -5,6 +5,12 @@
 
 extern const CreationRows& FORTRAN_77_CREATION;
 
+// A statement that may be too long for a line.
+template <class... Values> void writeSplit(Generation& g, std::string_view format, const Values&... values) {
+    add(g, format, values...);
+    writeStatementSplit(g);
+}
+
 void writeHelpStatement(Generation& g, std::string_view name, std::string_view help); // nothing for an empty one
 
 // Fetches an image of the resources into the variable `variable`.

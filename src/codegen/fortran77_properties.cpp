@@ -49,9 +49,8 @@ void writeNumber(Generation& g, const WidgetNode& node, int property, int value)
 void writeValue(Generation& g, const WidgetNode& node, const Attribute& attribute, const NumberedProperty& property) {
     switch (attribute.kind) {
     case AttributeKind::TEXT:
-        add(g, "      CALL PRPSET(%s,%d,0,0.0D0,'%s')\n", node.name, property.number,
-            fortranText(node.*attribute.text));
-        writeStatementSplit(g);
+        writeSplit(g, "      CALL PRPSET(%s,%d,0,0.0D0,'%s')\n", node.name, property.number,
+                   fortranText(node.*attribute.text));
         break;
     case AttributeKind::RESOURCE:
         writeFetchIcon(g, "icon1", node.*attribute.text);

@@ -152,7 +152,7 @@ void addTexts(Maker& m, WidgetNode& form) {
     roll.text = m.typing(3000);
     roll.icon = m.typing(CAPTION);
     roll.size = 10;
-    const std::string prompt = m.language == 77 ? "" : held(m.language, roll.icon, false) + " ";
+    const std::string prompt = held(m.language, roll.icon, false) + " ";
     m.note("TTY entry", "text", barsAsLines(held(m.language, roll.text, false)) + "\n" + prompt);
 }
 

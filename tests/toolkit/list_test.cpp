@@ -330,3 +330,42 @@ TEST(Lists, TextsOfAnyLengthAndWrongHandles) {
     owSetListEntry(list, 9, 0);
     EXPECT_EQ(reports().size(), 1U);
 }
+
+TEST(ListBox, IsCutToWholeRowsWhateverComesFirst) {
+    const Toolkit toolkit;
+    constexpr int ASKED = 71;
+    const auto make = [&] {
+        return owCreateListBox(toolkit.panel, 0, 0, 200, ASKED, ONONE, owVpos, OTOP, owStyle, OAPPROX, 0);
+    };
+    const auto fill = [](int list) {
+        for (const char* row : {"pear", "apple", "fig", "cherry"}) owSetListEntry(list, OADD, owString, row, 0);
+    };
+    owDrawWindow(toolkit.master, 1);
+    const int rowsFirst = make(), fontFirst = make();
+    fill(rowsFirst);
+    for (const int list : {rowsFirst, fontFirst}) owSetFontAttribs(list, owPointSize, 20, 0);
+    fill(fontFirst);
+    settle();
+    EXPECT_LT(rectOf(rowsFirst).height(), ASKED);
+    EXPECT_EQ(rectOf(rowsFirst).height(), rectOf(fontFirst).height());
+    owSetWidgetProp(rowsFirst, owHeight, 2 * ASKED, 0);
+    EXPECT_GT(rectOf(rowsFirst).height(), ASKED);
+}
+
+TEST(Disabled, ListsAndSlidersLookIt) {
+    const Toolkit toolkit;
+    const int list = owCreateListBox(toolkit.panel, 0, 0, 100, 60, ONONE, owOffCol, 0, owTextCol, 0, 0);
+    owSetListEntry(list, OADD, owString, "a row", 0);
+    const int coloured = owCreateListBox(toolkit.panel, 0, 70, 100, 60, ONONE, owOffCol, 4, owTextCol, 5, 0);
+    owSetListEntry(coloured, OADD, owString, "a row", 0);
+    const int slider = owCreateSlider(toolkit.panel, 110, 0, 100, 30, 0.0, 10.0, 1.0, 5.0, 0);
+    owDrawWindow(toolkit.master, 1);
+    settle();
+    for (const int widget : {list, coloured, slider}) {
+        const QImage enabled = picture(widget);
+        owSetWidgetStatus(widget, OUNSELECTABLE);
+        EXPECT_NE(picture(widget), enabled) << widget;
+        owSetWidgetStatus(widget, OSELECTABLE);
+        EXPECT_EQ(picture(widget), enabled) << widget;
+    }
+}

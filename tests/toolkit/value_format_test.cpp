@@ -18,15 +18,26 @@ constexpr ValueSign minus = ValueSign::Minus, square = ValueSign::SquareBrackets
                     red = ValueSign::Red;
 
 const Shown shown[] = {
-    {ValueType::Decimal, 12.345, 2, minus, "12.35"}, {ValueType::Decimal, -12.345, 0, square, "[12]"},
-    {ValueType::Decimal, -0.001, 2, minus, "0.00"},  {ValueType::Scientific, -26500, 2, round, "(2.65E+04)"},
-    {ValueType::Binary, 10, 3, minus, "1010"},       {ValueType::Octal, -64, 0, minus, "-100"},
-    {ValueType::Hexadecimal, 255, 2, minus, "FF"},   {ValueType::Degrees, 45.5, 1, minus, "45.5°"},
-    {ValueType::Percent, -5, 0, red, "5%"},          {ValueType::Fahrenheit, 98.6, 1, minus, "98.6°F"},
-    {ValueType::Celsius, -40, 0, minus, "-40°C"},    {ValueType::Kelvin, 273.15, 2, minus, "273.15K"},
-    {ValueType::Pounds, 1.5, 2, minus, "£1.50"},     {ValueType::Dollars, -1.5, 2, round, "($1.50)"},
-    {ValueType::Deutschmarks, 7, 0, minus, "7 DM"},  {ValueType::Francs, 7, 0, minus, "7 FF"},
-    {ValueType::Yen, 700, 0, minus, "¥700"},         {ValueType::Euro, 0.5, 2, minus, "€0.50"},
+    {ValueType::Decimal, 12.345, 2, minus, "12.35"},
+    {ValueType::Decimal, -12.345, 0, square, "[12]"},
+    {ValueType::Decimal, -0.001, 2, minus, "0.00"},
+    {ValueType::Scientific, -26500, 2, round, "(2.65E+04)"},
+    {ValueType::Binary, 10, 3, minus, "1010"},
+    {ValueType::Octal, -64, 0, minus, "-100"},
+    {ValueType::Hexadecimal, 255, 2, minus, "FF"},
+    {ValueType::Degrees, 45.5, 1, minus, "45.5°"},
+    {ValueType::Percent, -5, 0, red, "5%"},
+    {ValueType::Fahrenheit, 98.6, 1, minus, "98.6°F"},
+    {ValueType::Celsius, -40, 0, minus, "-40°C"},
+    {ValueType::Kelvin, 273.15, 2, minus, "273.15K"},
+    {ValueType::Pounds, 1.5, 2, minus, "£1.50"},
+    {ValueType::Dollars, -1.5, 2, round, "($1.50)"},
+    {ValueType::Deutschmarks, 7, 0, minus, "7 DM"},
+    {ValueType::Francs, 7, 0, minus, "7 FF"},
+    {ValueType::Yen, 700, 0, minus, "¥700"},
+    {ValueType::Euro, 0.5, 2, minus, "€0.50"},
+    {ValueType::Decimal, 24832.1F, 4, minus, "24832.1000"}, // single precision, as it was written
+    {ValueType::Decimal, 24832.0996, 4, minus, "24832.0996"},
 };
 
 } // namespace
