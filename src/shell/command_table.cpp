@@ -138,6 +138,8 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_TOOL_TTY_ENTRY, .barIcon = "tty", .bubbleHelp = "TTY Entry", .tool = TOOL_TTY_ENTRY, .when = WHEN_WINDOWS, .handler = toolCommand},
     // Keys and windows
     {.id = CMD_POPUP, .key = OKEYRIGHTBUTTON, .handler = popupCommand},
+    {.id = CMD_DESIGN_KEY, .handler = designKeyCommand},
+    {.id = CMD_GROUP_CLICKED, .handler = groupClickedCommand},
     {.id = CMD_HELP, .key = OKEYF1, .handler = contextHelpCommand},
     {.id = CMD_CODE_HELP, .key = OKEYF1, .keyModes = IN_TEXT, .handler = codeHelpCommand},
     {.id = CMD_INSERT_NAME, .key = controlKey('W'), .keyModes = IN_TEXT, .handler = insertNameCommand},

@@ -184,4 +184,7 @@ void toolCommand() {
     owAdoptChild(0, 0, 0);
 }
 
-void popupCommand() { owDrawWindow(popup, 1); }
+void popupCommand() {
+    selectClicked(); // the entries act on the selection
+    owDrawWindow(popup, 1);
+}

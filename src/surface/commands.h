@@ -53,8 +53,10 @@ enum CommandId : int {
     CMD_SELECTOR_TABS = 15217,
     CMD_HELP_DESIGNER = 15225,
     CMD_SNAP_DIALOGUE = 15229,
-    CMD_DOUBLE_CLICK = 15277, // on the adopted widget
-    CMD_MOVED = 15316,        // the adopted widget was moved, resized or dropped
+    CMD_DOUBLE_CLICK = 15277,  // on the adopted widget
+    CMD_DESIGN_KEY = 15314,    // an arrow key or Esc on a form
+    CMD_GROUP_CLICKED = 15315, // on the panel of a group
+    CMD_MOVED = 15316,         // the adopted widget was moved, resized or dropped
     CMD_TEXT_EDITED = 15328,
     CMD_TEXT_SELECTED = 15329,
     CMD_TOGGLED = 15331,

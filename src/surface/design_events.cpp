@@ -1,18 +1,16 @@
-// From an event on a form to the record that it means: placing with a tool, selecting, and the bars and panes that dock
-// themselves.
+// From an event on a form to the record that it means: selecting, and the bars and panes that dock themselves.
 #include "surface/selection.h"
 
 #include "menu-c.h"
-#include "project/placement.h"
-#include "project/preferences.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
 #include "surface/clipboard.h"
 #include "surface/commands.h"
 #include "surface/event.h"
-#include "surface/hierarchy.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
+#include "surface/placing.h"
+#include "surface/pointer.h"
 #include "surface/state.h"
 
 #include <algorithm>
@@ -30,54 +28,6 @@ WidgetNode* findByCallback(int id) {
     const bool lostFocus = action.status == 0;
     return selects && !lostFocus && node->designSelectId == id ? node : nullptr;
 }
-
-// ---- Placing.
-
-void showConversion(const Placement& placement) {
-    if (!placement.converted) return;
-    WidgetNode& box = *placement.converted;
-    hooks.nameRemoved(placement.oldName);
-    hooks.nameAdded(box.name);
-    if (box.hierarchyItem) owSetTreeViewLabel(box.hierarchyItem, box.name.c_str());
-    rebuildWidget(box);
-}
-
-WidgetNode* makeLive(WidgetNode& node, WidgetNode& parent) {
-    clearPlaceholder(parent);
-    if (node.handle > 0) owEraseWidget(node.handle); // a parent that was converted brought it to life with it
-    realiseWidget(node, parent.handle, false);
-    buildHierarchyEntry(node);
-    return &node;
-}
-
-WidgetNode& containerOf(WidgetNode& record, WidgetNode& clicked) { return record.parent ? *record.parent : clicked; }
-
-void placeWithTool(WidgetNode& parent) {
-    if (design.skipPlacement) {
-        design.skipPlacement = 0;
-        return;
-    }
-    const Placement placement = placeWidget(design.activeTool, &parent, action.xpos, action.ypos);
-    if (!placement.widget) return;
-    showConversion(placement);
-    WidgetNode* widget = placement.widget;
-    if (widget->type == TYPE_TAB_BOX) {
-        makeLive(*widget, containerOf(*widget, parent));
-        if (WidgetNode* page = placeWidget(TOOL_PANEL, widget, 0, 0).widget) widget = page;
-    }
-    WidgetNode& container = containerOf(*widget, parent);
-    if (container.type == TYPE_TAB_BOX) widget->scrollMode = ONOBARS;
-    if (container.type == TYPE_PANE) {
-        widget->expand = 1;
-        widget->vpos = OMIDDLE;
-    }
-    makeLive(*widget, container);
-    selectWidget(widget);
-    if (!preferences.repeatPlacement) selectTool(TOOL_SELECTOR);
-    markChanged();
-}
-
-// ---- Selecting.
 
 void restoreValue(const WidgetNode& node) {
     if (node.type == TYPE_SLIDER) owSetSliderValue(node.handle, static_cast<double>(node.value));
@@ -138,9 +88,8 @@ WidgetNode* standsFor(WidgetNode* found) {
 bool selectorEvent(WidgetNode* found) {
     if (design.panelBandArmed) {
         design.panelBandArmed = 0;
-        if (found->type != TYPE_PANEL && found->type != TYPE_RADIO_BOX) return false;
-        const Band band = endRubberBand(*found, static_cast<int>(action.xpos), static_cast<int>(action.ypos));
-        if (band != Band::Still) return false;
+        if (!holdsBand(*found)) return false;
+        if (endRubberBand(*found) != Band::Still) return false;
     }
     found = standsFor(found);
     if (!found->selected) {

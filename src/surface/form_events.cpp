@@ -1,4 +1,4 @@
-// Presses and releases on the forms themselves, the rubber band between them, and what happens to the form windows.
+// What happens to the form windows, and the events that no widget took.
 #include "surface/selection.h"
 
 #include "menu-c.h"
@@ -7,51 +7,12 @@
 #include "project/widget_types.h"
 #include "surface/commands.h"
 #include "surface/event.h"
-#include "surface/geometry.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
+#include "surface/pointer.h"
 #include "surface/state.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace {
-
-void press(const WidgetNode& panel) {
-    design.rubberBandArmed = 1;
-    if (panel.type != TYPE_MAIN_PANEL) design.panelBandArmed = 1;
-    design.bandStartX = static_cast<int>(action.xpos);
-    design.bandStartY = static_cast<int>(action.ypos);
-    dropSelection();
-}
-
-bool insideBand(const WidgetNode& child, const WidgetNode& panel) {
-    const Edges edges = edgesOf(child, panel.width, panel.height);
-    return edges.left >= design.bandStartX && edges.top >= design.bandStartY && edges.right <= design.bandEndX &&
-           edges.bottom <= design.bandEndY;
-}
-
-// The children of `panel` that lie inside the band.
-Records selectInRectangle(const WidgetNode& panel) {
-    Records caught;
-    for (WidgetNode* child = panel.child; child; child = child->next) {
-        const bool docked = isBarOrPane(*child);
-        if (!docked && insideBand(*child, panel)) caught.push_back(child);
-    }
-    return caught;
-}
-
-void selectForm(WidgetNode& panel) {
-    WidgetNode* form = formOf(&panel, project.forms);
-    if (form && !form->selected) selectWidget(form);
-    hooks.formFileForgotten();
-}
-
-void release(WidgetNode& panel) {
-    if (!design.rubberBandArmed) return;
-    const Band band = endRubberBand(panel, static_cast<int>(action.xpos), static_cast<int>(action.ypos));
-    if (panel.type == TYPE_MAIN_PANEL && band != Band::Caught) selectForm(panel);
-}
 
 // What the project's unit makes of a form's window, read as a whole.
 OWIDGET windowInfo(const WidgetNode& form) {
@@ -144,30 +105,7 @@ bool holdsInput(const WidgetNode& form) {
     return holder && formOf(holder, project.forms) == &form;
 }
 
-bool takesPresses(const WidgetNode& node) {
-    return node.type == TYPE_MAIN_PANEL || node.type == TYPE_PANEL || node.type == TYPE_RADIO_BOX;
-}
-
 } // namespace
-
-Band endRubberBand(WidgetNode& panel, int x, int y) {
-    design.rubberBandArmed = 0;
-    design.bandEndX = x;
-    design.bandEndY = y;
-    if (x == design.bandStartX && y == design.bandStartY) return Band::Still;
-    if (project.gridMode == 1) {
-        for (int* across : {&design.bandStartX, &design.bandEndX}) *across /= std::max(project.gridPixelX, 1);
-        for (int* down : {&design.bandStartY, &design.bandEndY}) *down /= std::max(project.gridPixelY, 1);
-    }
-    ++design.bandEndX;
-    ++design.bandEndY;
-    if (design.bandStartX > design.bandEndX) std::swap(design.bandStartX, design.bandEndX);
-    if (design.bandStartY > design.bandEndY) std::swap(design.bandStartY, design.bandEndY);
-    const Records caught = selectInRectangle(panel);
-    groupSelection(caught);
-    showSelectionCount();
-    return caught.empty() ? Band::Empty : Band::Caught;
-}
 
 void formEvent(int id) {
     if (id <= 0 || isCommand(id)) return;
@@ -176,14 +114,14 @@ void formEvent(int id) {
     if (!selectEvent) node = findHandle(id);
     if (!node) return;
     if (selectEvent) {
-        if (takesPresses(*node)) return press(*node);
+        if (holdsBand(*node)) return pressOn(*node);
         if (action.status == 1 && !holdsSelection(*node)) selectWidget(node);
         if (!holdsInput(*node)) return; // late news: the input has moved on since
         design.helpContext = "Form";
         hooks.leaveTextMode();
     } else if (node->type == TYPE_FORM && node->formCallbackId == id) {
         windowEvent(*node, action.status);
-    } else if (node->designCallbackId == id && node->type != TYPE_PANEL && node->type != TYPE_RADIO_BOX) {
-        release(*node);
+    } else if (node->designCallbackId == id && node->type == TYPE_MAIN_PANEL) {
+        releaseOn(*node);
     }
 }

@@ -28,6 +28,11 @@ Edges edgesOf(const WidgetNode& child, int parentWidth, int parentHeight) {
     return {across.from, down.from, across.to, down.to};
 }
 
+int positionFrom(int origin, int corner, int extent, int parentExtent, int old) {
+    if (origin == 0) return old;
+    return origin < 0 ? corner : parentExtent - corner - extent;
+}
+
 Box boxAround(const Records& members) {
     constexpr int FAR = 9999;
     const WidgetNode* parent = members.front()->parent;

@@ -16,8 +16,11 @@ struct Box {
     bool operator==(const Box&) const = default;
 };
 
-Box readPixels(int handle);                 // position and size of a live widget, in pixels
-Box inProjectUnit(const Box& pixels);       // integer division by the cell in a grid project
+Box readPixels(int handle);           // position and size of a live widget, in pixels
+Box inProjectUnit(const Box& pixels); // integer division by the cell in a grid project
+// Position along one axis of what begins at `corner` from the left or top of its parent; one in the middle keeps `old`.
+// `origin` is -1 for the edge that positions count from, 1 for the other one.
+int positionFrom(int origin, int corner, int extent, int parentExtent, int old);
 void placeLive(int handle, const Box& box); // position and size in the project's unit
 Box boxAround(const Records& members);      // of one parent; left and top as edges, in the project's unit
 inline Box boxOf(const WidgetNode& n) { return {n.xpos, n.ypos, n.width, n.height}; }

@@ -192,6 +192,8 @@ int createSeparator(const WidgetNode& n, int parent) {
 // ---- What follows the creation call.
 
 void finishForm(WidgetNode& n) {
+    const bool cells = project.gridMode == 1;
+    owDesignWindow(n.handle, cells ? project.gridPixelX : 1, cells ? project.gridPixelY : 1);
     buildLiveStatusBar(n);
     buildLiveMenu(n);
 }
@@ -266,7 +268,7 @@ constexpr LiveType TYPES[] = {
     {TYPE_PANEL, createPlain, finishPanel, BY_HANDLE, BY_HANDLE, FONT},
     {TYPE_COMBO_BOX, createComboBox, finishList, NONE, BY_HANDLE, FONT},
     {TYPE_RADIO_BOX, createRadioBox, finishPanel, BY_HANDLE, BY_HANDLE, NO}, // no program gives its title a font
-    {TYPE_GRAPHICS_FRAME, createFrame, finishFrame, BY_HANDLE, NONE, NO},
+    {TYPE_GRAPHICS_FRAME, createFrame, finishFrame, BY_HANDLE, BY_HANDLE, NO},
     {TYPE_TEXT_ARRAY, createArray, applyArrayGeometry, NONE, BY_HANDLE, FONT},
     {TYPE_VALUE_ARRAY, createArray, applyArrayGeometry, NONE, BY_HANDLE, FONT},
     {TYPE_TOOL_BAR, createToolBar, finishToolBar, BY_HANDLE, NONE, NO},

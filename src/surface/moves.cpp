@@ -16,6 +16,7 @@
 #include "surface/state.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -83,12 +84,6 @@ void refuseDrop(bool known) {
         putBackGroup();
 }
 
-// Position along one axis in a new parent, for the corner that the drop left at `corner` from its left or top.
-int positionFrom(int origin, int corner, int extent, int parentExtent, int old) {
-    if (origin == 0) return old;
-    return origin < 0 ? corner : parentExtent - corner - extent;
-}
-
 // Gives the selection its place in the parent that it was dropped on.
 void placeInParent(const WidgetNode& target) {
     constexpr int CORNER_VALUES = 2;
@@ -131,13 +126,59 @@ bool dropOn(WidgetNode* target) {
     return true;
 }
 
-bool moveInParent() {
+bool moveInParent(bool nudged) {
     DragStep step;
+    step.nudged = nudged;
     for (const WidgetNode* one : design.selection) step.records.push_back(one->id);
     step.box = boxOfSelection();
     if (!(groupStands() ? takeGroupGeometry() : takeGeometry(*design.selection.front()))) return false;
-    openStep(std::move(step));
+    const DragStep& last = design.undo;
+    const bool goesOn = nudged && last.nudged && last.undoable && last.records == step.records;
+    if (!goesOn) openStep(std::move(step));
     return true;
+}
+
+// ---- Arrow keys.
+
+struct Arrow {
+    int key, across, down;
+};
+constexpr Arrow ARROWS[] = {{OKEYLEFT, -1, 0}, {OKEYRIGHT, 1, 0}, {OKEYUP, 0, -1}, {OKEYDOWN, 0, 1}};
+constexpr int SHIFTED = 1000, CONTROLLED = 2000; // added to the code of a key
+
+// One step of an arrow key: by the snap grid, with Control by one unit.
+int stepOf(bool control) {
+    const bool cells = project.gridMode == 1;
+    return control || cells ? 1 : std::max(owEnqSnapGrid(), 1);
+}
+
+// The selection after a step, no further out than the left and top edge of its parent.
+Box boxAfter(const Arrow& arrow, int step, bool size) {
+    Box box = boxOfSelection();
+    if (size) {
+        box.width = std::max(box.width + arrow.across * step, 1);
+        box.height = std::max(box.height + arrow.down * step, 1);
+        return box;
+    }
+    const WidgetNode& first = *design.selection.front();
+    const auto moved = [step](int from, int direction, bool backwards) {
+        const int to = from + (backwards ? -direction : direction) * step;
+        return backwards || direction >= 0 ? to : std::max(to, std::min(from, 0));
+    };
+    box.x = moved(box.x, arrow.across, first.hpos == ORIGHT);
+    box.y = moved(box.y, arrow.down, first.vpos == OBOTTOM);
+    return box;
+}
+
+void nudge(const Arrow& arrow, bool control, bool size) {
+    const bool group = groupStands();
+    if (!group && (!project.currentWidget || !mayBeDragged(*project.currentWidget))) return;
+    if (group && size) return; // a group keeps its size
+    hooks.commitEditor();
+    placeLive(group ? design.groupPanel : project.currentWidget->handle, boxAfter(arrow, stepOf(control), size));
+    const bool moved = moveInParent(true);
+    adoptSelection();
+    if (moved) markChanged();
 }
 
 // What a record takes from its new parent.
@@ -225,17 +266,22 @@ bool takeGroupGeometry() {
     return true;
 }
 
+void giveBox(WidgetNode& node, const Box& box) {
+    const Box before = boxOf(node);
+    node.xpos = box.x;
+    node.ypos = box.y;
+    node.width = box.width;
+    node.height = node.type == TYPE_COMBO_BOX ? before.height : box.height;
+    if (node.height != before.height) followHeight(node, before.y);
+}
+
 bool takeGeometry(WidgetNode& node) {
     const Box before = boxOf(node);
     const Box live = inProjectUnit(readPixels(node.handle));
     Box now = live;
     keepToOrigin(node, now);
-    node.xpos = now.x;
-    node.ypos = now.y;
-    node.width = now.width;
-    node.height = node.type == TYPE_COMBO_BOX ? before.height : now.height;
+    giveBox(node, now);
     const bool higher = node.height != before.height;
-    if (higher) followHeight(node, before.y);
     if ((higher || node.width != before.width) && isRebuiltAfterResize(node, higher)) {
         rebuildWidget(node);
         hooks.showProperties(&node);
@@ -257,8 +303,19 @@ void movedCommand() {
     hooks.commitEditor();
     owAdoptChild(0, 0, 0);
     const bool stays = action.status == design.selection.front()->parent->handle;
-    const bool moved = stays ? moveInParent() : dropOn(findHandle(action.status));
+    const bool moved = stays ? moveInParent(false) : dropOn(findHandle(action.status));
     if (project.currentWidget) activateWidget(project.currentWidget);
     adoptSelection();
     if (moved) markChanged();
+}
+
+void designKeyCommand() {
+    if (action.key == OKEYESC) {
+        if (design.activeTool == TOOL_SELECTOR) return;
+        selectTool(TOOL_SELECTOR);
+        return adoptSelection();
+    }
+    const bool control = action.key >= CONTROLLED, shift = action.key % CONTROLLED >= SHIFTED;
+    const auto arrow = std::ranges::find(ARROWS, action.key % SHIFTED, &Arrow::key);
+    if (arrow != std::end(ARROWS) && !design.selection.empty()) nudge(*arrow, control, shift);
 }

@@ -6,6 +6,7 @@
 #include "project/tree.h"
 #include "project/widget_types.h"
 #include "surface/commands.h"
+#include "surface/event.h"
 #include "surface/geometry.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
@@ -22,12 +23,6 @@ void refreshArrayGeometry(WidgetNode* node) {
     if (!node || project.gridMode != 1 || !isArray(*node)) return;
     storeArrayGeometry(*node);
     applyArrayGeometry(*node);
-}
-
-bool mayBeDragged(const WidgetNode& node) {
-    if (node.type == TYPE_FORM || node.type == TYPE_MAIN_PANEL || design.unadopted || isBarOrPane(node)) return false;
-    const WidgetNode* parent = node.parent;
-    return !parent || (!isBarOrPane(*parent) && parent->type != TYPE_TAB_BOX);
 }
 
 void showCount(int count) {
@@ -66,10 +61,25 @@ void moveOntoPanel(const Records& members, int parentHandle) {
         realiseWidget(*shown, design.groupPanel, false);
         forgetLive(*one);
     }
+    owDesignPicture(design.groupPanel);
+    owDefineCallback(design.groupPanel, CMD_GROUP_CLICKED);
     owDrawWidget(design.groupPanel);
 }
 
+// The record that a click on `node` is about.
+WidgetNode* standsFor(WidgetNode* node) {
+    if (node->type == TYPE_MAIN_PANEL) return node->parent;
+    const bool page = node->parent && node->parent->type == TYPE_TAB_BOX;
+    return page ? node->parent : node;
+}
+
 } // namespace
+
+bool mayBeDragged(const WidgetNode& node) {
+    if (node.type == TYPE_FORM || node.type == TYPE_MAIN_PANEL || design.unadopted || isBarOrPane(node)) return false;
+    const WidgetNode* parent = node.parent;
+    return !parent || (!isBarOrPane(*parent) && parent->type != TYPE_TAB_BOX);
+}
 
 void selectTool(int tool) {
     if (design.activeTool != tool) hooks.toolStatus(design.activeTool, OSELECTABLE);
@@ -98,6 +108,7 @@ void selectWidget(WidgetNode* node) {
     hooks.showProperties(node);
     if (node->hierarchyItem) owTreeViewAction(node->hierarchyItem, OSELECTENTRY);
     hooks.bindCode(node);
+    owSetDesignCallback(CMD_DESIGN_KEY);
     design.unadopted = 0; // before the keys are bound: the right button has its popup again
     hooks.leaveTextMode();
     redrawWidget(*node, true);
@@ -110,8 +121,16 @@ void selectWidget(WidgetNode* node) {
     design.codeFocus = 0;
 }
 
+void selectClicked() {
+    WidgetNode* clicked = findHandle(action.widget);
+    if (!clicked || (clicked = standsFor(clicked))->selected) return;
+    selectWidget(clicked);
+}
+
 bool shiftAdds(WidgetNode& found) {
-    if (!owEnqShiftKey() || design.selection.empty() || !design.selection.front()->parent || found.onToolbar)
+    const bool byMouse = action.key == OKEYLEFTBUTTON; // and not the focus that Shift+Tab brought
+    if (!byMouse || !owEnqShiftKey() || design.selection.empty() || !design.selection.front()->parent ||
+        found.onToolbar)
         return false;
     if (isBarOrPane(found) || isBarOrPane(*design.selection.front())) return false; // they dock, and join no group
     if (found.parent != design.selection.front()->parent) return true; // of another parent: nothing happens

@@ -5,12 +5,14 @@
 
 #include <vector>
 
+struct Box;
 struct ChildPlace;
 struct DragStep;
 
 void selectTool(int tool);
 void selectWidget(WidgetNode* node);
 void adoptWidget(const WidgetNode& node);
+bool mayBeDragged(const WidgetNode& node); // whether the mouse moves it while it is selected
 
 // Makes the records, all of one parent, the selection, with one live panel standing for all of them. A single one is
 // selected as usual; records that can't be moved together stay unselected, and the user is told.
@@ -22,12 +24,14 @@ bool shiftAdds(WidgetNode& found);
 void dropSelection();      // ends a group; nothing is in the selection then
 void adoptSelection();     // the drag handles again, after they were taken off for a while
 void showSelectionCount(); // in the status bar
+void selectClicked();      // the widget that the event at hand is about, as the right button does
 void forgetRecords();      // before the records of the project are freed: live forms down, no pointer to a record left
 
 // Takes what a drag made of the live widget, or of the group's panel, into the records. False when nothing changed, or
 // what was asked for can't be: then the live widget is back at its place.
 bool takeGeometry(WidgetNode& node);
 bool takeGroupGeometry();
+void giveBox(WidgetNode& node, const Box& box); // a record, as far as its type can have that height
 
 // Hangs the selection on another parent, live, at those places among its children, or behind them for none.
 void moveSelectionTo(WidgetNode& target, const std::vector<ChildPlace>& places);
@@ -42,15 +46,13 @@ void designEvent(int id);
 // The part of it that listens to windows and to presses on panels: runs when no widget took the event.
 void formEvent(int id);
 
-// Ends a rubber band at `x`, `y` in pixels of `panel` and selects what lies inside.
-enum class Band { Still, Empty, Caught }; // the pointer didn't move; nothing lay inside; a selection was tried
-Band endRubberBand(WidgetNode& panel, int x, int y);
-
 // Handlers of the commands of the surface. Each runs once for its identifier, before designEvent.
-void newFormCommand();     // CMD_NEW_FORM
-void movedCommand();       // CMD_MOVED
-void doubleClickCommand(); // CMD_DOUBLE_CLICK
-void unadoptCommand();     // CMD_UNADOPT
+void newFormCommand();      // CMD_NEW_FORM
+void movedCommand();        // CMD_MOVED
+void designKeyCommand();    // CMD_DESIGN_KEY
+void groupClickedCommand(); // CMD_GROUP_CLICKED
+void doubleClickCommand();  // CMD_DOUBLE_CLICK
+void unadoptCommand();      // CMD_UNADOPT
 // What the user has typed into the selected text entry and not left yet goes into its record.
 void takeTypedText();
 void textEditedCommand();    // CMD_TEXT_EDITED

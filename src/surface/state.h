@@ -27,6 +27,7 @@ struct ChildPlace {
 // thing. Records go by their ids, for their live widgets may have been made anew since.
 struct DragStep {
     bool undoable = false, redoable = false;
+    bool nudged = false; // by the arrow keys: one step as long as they go on
     std::vector<int> records;
     int parent = 0; // id of the parent to go to, 0 for the same one
     std::vector<ChildPlace> places;
@@ -53,6 +54,7 @@ struct DesignState {
 
     // The rubber band: corners in pixels of the pressed panel, then in the project's unit.
     int rubberBandArmed = 0;
+    int bandContainer = 0;  // id of what was pressed
     int panelBandArmed = 0; // the press was on a panel, not on the main panel
     int bandStartX = 0, bandStartY = 0, bandEndX = 0, bandEndY = 0;
 

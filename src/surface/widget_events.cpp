@@ -129,6 +129,7 @@ void unadoptCommand() {
     design.unadopted = 1;
     hooks.commandStatus(CMD_UNADOPT, OCHECKED);
     owDefineKeyCallback(OKEYRIGHTBUTTON, 0);
+    owSetDesignCallback(0);
     activateWidget(project.currentWidget);
     markChanged();
 }

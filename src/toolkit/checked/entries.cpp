@@ -105,6 +105,8 @@ constexpr Entry entries[] = {
     {Fn::owPushWindow, 0, WINDOWS, 25},
     {Fn::owPopWindow, 0, WINDOWS, 25},
     {Fn::owMDIAction, NO_HANDLE, ANY_KIND, 0, {style(0, 0, 4)}},
+    {Fn::owDesignWindow, 0, WINDOWS, 25},
+    {Fn::owDesignPicture, 0, ANY_KIND, 0},
     {Fn::owEnqSystemMenu, 0, WINDOWS, 25},
     {Fn::owCreateMenuBar, 0, WINDOWS, 25},
     {Fn::owCreatePullDownMenu, 0, MENU_ENTRIES, 7},

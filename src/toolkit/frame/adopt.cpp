@@ -4,6 +4,7 @@
 // click; a click is given to the widget afterwards, so that it can still be worked.
 #include "toolkit/frame/adopt.h"
 
+#include "toolkit/frame/designing.h"
 #include "toolkit/frame/events.h"
 #include "toolkit/frame/keys.h"
 #include "toolkit/frame/layout.h"
@@ -12,6 +13,7 @@
 #include "toolkit/frame/routines.h"
 #include "toolkit/frame/session.h"
 #include "toolkit/frame/windows.h"
+#include "toolkit/views/outline.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -57,22 +59,6 @@ protected:
     }
 };
 
-// Where the widget will be, also outside its parent.
-class OutlineView : public QWidget {
-public:
-    explicit OutlineView(QWidget* parent) : QWidget(parent) {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setObjectName(QStringLiteral("adoption-outline"));
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setPen(QPen(QApplication::palette().color(QPalette::Highlight), 1, Qt::DashLine));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
-};
-
 struct LastPress {
     int handle = 0;
     quint64 time = 0;
@@ -83,12 +69,10 @@ class Adoption : public QObject {
 public:
     Adoption(Widget& widget, int movedIdentifier, int doubleClickIdentifier)
         : handle(widget.handle), view(widget.view), moved(movedIdentifier), doubleClick(doubleClickIdentifier) {
-        const Widget* window = windowOf(&widget);
-        content =
-            window && window->client && window->client->isAncestorOf(view) ? window->client.data() : view->window();
+        content = designRoomOf(view);
         for (int i = 0; i < GRIPS; i++) handles[i] = new HandleView(content, i);
         outline = new OutlineView(content);
-        outline->hide();
+        outline->setObjectName(QStringLiteral("adoption-outline"));
         followHandles();
         qApp->installEventFilter(this);
     }
@@ -166,8 +150,6 @@ private:
         if (drag == Drag::pressed) {
             if ((pointer - start).manhattanLength() < DRAG_DISTANCE) return true;
             drag = Drag::dragging;
-            outline->show();
-            outline->raise();
         }
         if (drag == Drag::dragging) step(pointer);
         return true;
@@ -226,7 +208,7 @@ private:
             if (edges.down > 0) rect.setBottom(std::max(rect.bottom() + dy, rect.top() - 1 + SMALLEST));
         }
         view->setGeometry(rect);
-        outline->setGeometry(rectInContent());
+        outline->showAround(rectInContent(), readoutOf(*widgetOf(handle), rect));
     }
 
     void finish(const QPoint& pointer) {

@@ -2,6 +2,7 @@
 #include "toolkit/frame/session.h"
 
 #include "toolkit/frame/colours.h"
+#include "toolkit/frame/designing.h"
 #include "toolkit/frame/events.h"
 #include "toolkit/frame/keys.h"
 #include "toolkit/frame/registry.h"
@@ -66,6 +67,7 @@ Word closeMenu(const Arguments&) {
     if (session.state == 0) return 0;
     closeTimers();
     eraseEverything();
+    forgetDesigning();
     removeInputFilter();
     for (auto* closer : closers()) closer();
     resetSession();

@@ -19,6 +19,8 @@ struct WindowData : FamilyData {
     ProgramDoing program;           // changes it, and the window manager follows
     QRect known;                    // last geometry that Qt told of
     QMdiSubWindow* frame = nullptr; // of a dialogue box inside an MDI master
+    bool designed = false;          // its widgets are drawn by the user, see designing.h
+    QSize unit{1, 1};               // pixels that count as one while it is designed
 };
 
 // The Qt window of every window of a program. Its central widget is the client area; bars and panes dock around it.

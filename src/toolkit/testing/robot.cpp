@@ -12,6 +12,7 @@
 #include <QColorDialog>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -28,6 +29,7 @@ namespace {
 constexpr int SENTINEL = 2'000'000'001; // event that closes a reading of the queue
 
 std::vector<int> reportedNumbers;
+Qt::KeyboardModifiers heldModifiers; // with all the mouse does
 std::string reportedRoutine;
 
 void noteReport(int number, const char* routine, int) {
@@ -155,14 +157,14 @@ void dragOn(QWidget& view, QPoint from, QPoint to) {
     const QPoint start = view.mapToGlobal(from);
     const QPoint distance = view.mapToGlobal(to) - start;
     QPointer<QWidget> target = &view;
-    QTest::mousePress(target, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mousePress(target, Qt::LeftButton, heldModifiers, from);
     for (int i = 1; i <= STEPS && target; i++) {
         const QPoint global = start + distance * i / STEPS;
         QMouseEvent move(QEvent::MouseMove, target->mapFromGlobal(global), global, Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
+                         heldModifiers);
         QApplication::sendEvent(target, &move);
     }
-    if (target) QTest::mouseRelease(target, Qt::LeftButton, Qt::NoModifier, target->mapFromGlobal(start + distance));
+    if (target) QTest::mouseRelease(target, Qt::LeftButton, heldModifiers, target->mapFromGlobal(start + distance));
 }
 
 QWidget* gripView(int grip) {
@@ -245,25 +247,34 @@ bool isShown(int handle) {
 
 void press(int handle, QPoint at, Qt::MouseButton button) {
     const auto [target, point] = targetAt(handle, at);
-    if (target) QTest::mousePress(target, button, Qt::NoModifier, point);
+    if (target) QTest::mousePress(target, button, heldModifiers, point);
 }
 
 void release(int handle, QPoint at, Qt::MouseButton button) {
     const auto [target, point] = targetAt(handle, at);
-    if (target) QTest::mouseRelease(target, button, Qt::NoModifier, point);
+    if (target) QTest::mouseRelease(target, button, heldModifiers, point);
 }
 
 void click(int handle, QPoint at, Qt::MouseButton button) {
     const auto [target, point] = targetAt(handle, at);
-    if (target) QTest::mouseClick(target, button, Qt::NoModifier, point);
+    if (target) QTest::mouseClick(target, button, heldModifiers, point);
 }
+
+void moveHeld(int handle, QPoint to) {
+    QWidget* view = viewOf(handle);
+    if (!view) return;
+    QMouseEvent move(QEvent::MouseMove, to, view->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, heldModifiers);
+    QApplication::sendEvent(view, &move);
+}
+
+void hold(Qt::KeyboardModifiers modifiers) { heldModifiers = modifiers; }
 
 void doubleClick(int handle, QPoint at) {
     const auto [target, point] = targetAt(handle, at);
     if (!target) return;
     const QPointer<QWidget> alive = target;
-    QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, point);
-    if (alive) QTest::mouseDClick(target, Qt::LeftButton, Qt::NoModifier, point);
+    QTest::mouseClick(target, Qt::LeftButton, heldModifiers, point);
+    if (alive) QTest::mouseDClick(target, Qt::LeftButton, heldModifiers, point);
 }
 
 void drag(int handle, QPoint from, QPoint to) {
@@ -281,6 +292,22 @@ void dragGrip(int grip, QPoint distance) {
     }
     const QPoint middle = view->rect().center();
     dragOn(*view, middle, middle + distance);
+}
+
+QRect rubberBand() {
+    for (const QWidget* widget : QApplication::allWidgets()) {
+        if (widget->objectName() == QLatin1String("rubber-band") && widget->isVisible())
+            return {widget->mapToGlobal(QPoint(0, 0)), widget->size()};
+    }
+    return {};
+}
+
+QString outlineText() {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (widget->objectName() == QLatin1String("outline-text") && widget->isVisible())
+            return static_cast<QLabel*>(widget)->text();
+    }
+    return {};
 }
 
 int gripCount() {

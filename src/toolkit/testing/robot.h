@@ -48,12 +48,17 @@ inline constexpr QPoint MIDDLE{-1, -1};
 void press(int handle, QPoint at = MIDDLE, Qt::MouseButton button = Qt::LeftButton);
 void release(int handle, QPoint at = MIDDLE, Qt::MouseButton button = Qt::LeftButton);
 void click(int handle, QPoint at = MIDDLE, Qt::MouseButton button = Qt::LeftButton);
+void moveHeld(int handle, QPoint to); // the pointer, with the left button held down
+// Shift and the like are held down from now on, whatever the mouse does; none lets go.
+void hold(Qt::KeyboardModifiers modifiers);
 void doubleClick(int handle, QPoint at = MIDDLE);
 // Press at `from`, moves in small steps, release at `to`.
 void drag(int handle, QPoint from, QPoint to);
 // Drags handle number 0 to 7 of the adopted widget (0 top left, then clockwise) by a distance.
 void dragGrip(int grip, QPoint distance);
-int gripCount(); // handles that are shown
+int gripCount();       // handles that are shown
+QRect rubberBand();    // on the screen, empty while none is drawn
+QString outlineText(); // beside what is drawn or dragged, empty for none
 // Keys to the widget that has the focus; a handle gets the focus first.
 void type(int handle, const char* text);
 void key(int handle, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
