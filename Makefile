@@ -1,13 +1,17 @@
 # Two commands do everything, on a fresh Debian 12 machine too: `make run` and `make test`.
+# `make test` runs every test, and those of the rooms once more under the sanitizers.
 BUILD := build/dev
 JOBS ?= $(shell nproc)
 
-.PHONY: run test build packages sanitize monkey fuzz bench clean
+.PHONY: run test tests build packages sanitize monkey fuzz bench clean
 
 run: build
 	scripts/run-designer.sh $(BUILD)
 
-test: build
+test: tests
+	$(MAKE) --no-print-directory sanitize
+
+tests: build
 	@echo "== Running all tests"
 	QT_QPA_PLATFORM=offscreen ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS) $(CTEST_ARGS)
 
@@ -21,8 +25,8 @@ packages:
 	@echo "== Checking packages"
 	scripts/install-packages.sh
 
-# The tests of the rooms again under the address and undefined-behaviour sanitizers. Programs that the designer generates
-# are no part of it: they would have to be linked with the sanitizers too.
+# The tests of the rooms and a short run of the monkey under the address and undefined-behaviour sanitizers. Programs that
+# the designer generates are no part of it: they would have to be linked with the sanitizers too.
 sanitize: packages
 	@echo "== Running the tests of the rooms with sanitizers"
 	cmake --preset asan
