@@ -243,6 +243,25 @@ TEST(DockingPanes, OfOneSideStandSideBySideAndKeepTheirWidths) {
     EXPECT_EQ(viewOf(code)->width(), 420);
 }
 
+TEST(DockingPanes, NeverMakeTheWindowLarger) {
+    const Toolkit toolkit(Toolkit::Master::mdi);
+    owSetWidgetProp(toolkit.master, owWidth, 900, owHeight, 600, 0);
+    owCreatePullDownMenu(owCreateMenuEntry(owCreateMenuBar(toolkit.master), "File", 0));
+    for (int bar = 0; bar < 2; ++bar) {
+        const int handle = owCreateToolBar(toolkit.master, OTOP, 40, owTitle, "Bar");
+        owCreatePushButton(handle, 0, 0, 40, 40, "Run", 0);
+    }
+    owCreateStatusBar(toolkit.master, 0);
+    owCreateDockingPane(toolkit.master, OBOTTOM, 0, 0, 900, 120, owTitle, "Log");
+    const int code = owCreateDockingPane(toolkit.master, OLEFTSIDE, 0, 0, 400, 520, owTitle, "Code");
+    settle(50);
+    const QSize before = viewOf(toolkit.master)->window()->size();
+    owSetPanePos(code, 0, 0, 400, 520, OTOP);
+    settle(50);
+    EXPECT_EQ(viewOf(toolkit.master)->window()->size(), before);
+    EXPECT_GT(viewOf(code)->height(), 150) << "it takes what there is";
+}
+
 TEST(DockingPanes, TheirBodyHoldsWidgetsThatGrowWithIt) {
     const Toolkit toolkit(Toolkit::Master::mdi);
     owSetWidgetProp(toolkit.master, owWidth, 900, owHeight, 700, 0);

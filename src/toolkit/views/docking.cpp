@@ -414,6 +414,15 @@ int restBeside(const QMainWindow& window, std::size_t panes, bool across) {
     return qMax(roomForTheRest, across ? least.width() : least.height()) + static_cast<int>(panes) * gap;
 }
 
+// What menu bar, status bar and tool bars take of a window: all that lies around its panes and its middle.
+QSize takenByBars(const QMainWindow& window) {
+    QRect inner;
+    if (window.centralWidget()) inner = window.centralWidget()->geometry();
+    for (const QDockWidget* pane : window.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (!pane->isHidden() && !pane->isFloating()) inner |= pane->geometry();
+    return inner.isEmpty() ? QSize(0, 0) : (window.size() - inner.size()).expandedTo(QSize(0, 0));
+}
+
 // The extent that no pane may exceed so that all fit into `room`: the largest give way first.
 int largestExtent(const std::vector<std::pair<QDockWidget*, int>>& panes, int room) {
     std::vector<int> extents;
@@ -432,7 +441,8 @@ int largestExtent(const std::vector<std::pair<QDockWidget*, int>>& panes, int ro
 void holdExtents(QMainWindow* window, const std::vector<std::pair<QDockWidget*, int>>& panes, Qt::Orientation along) {
     const bool across = along == Qt::Horizontal;
     const int rest = restBeside(*window, panes.size(), across); // a window that is too small for all would grow
-    const int room = qMax(1, (across ? window->width() : window->height()) - rest);
+    const QSize inner = window->size() - takenByBars(*window);
+    const int room = qMax(1, (across ? inner.width() : inner.height()) - rest);
     const int largest = largestExtent(panes, room);
     for (const auto& [pane, extent] : panes) {
         const int held = qMin(extent, largest);
