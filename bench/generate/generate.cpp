@@ -79,10 +79,8 @@ struct UiFile {
 };
 
 void addEntries(WidgetNode& node, UiFile& ui) {
-    ListEntryRec** end = &node.listEntries;
     for (const char* text : {"first", "second", "third"}) {
-        *end = new ListEntryRec{text, "", nullptr};
-        end = &(*end)->next;
+        node.listEntries.push_back({text, ""});
         ui.item(text);
     }
 }
@@ -98,8 +96,7 @@ void addWidget(WidgetNode& parent, int number, UiFile& ui) {
     node->maxValue = 90;
     linkChild(parent, node);
     ui.begin(kind.qtClass, *node, kind.textProperty);
-    if (node->listEntries == nullptr && (kind.type == TYPE_LIST_BOX || kind.type == TYPE_COMBO_BOX))
-        addEntries(*node, ui);
+    if (node->listEntries.empty() && (kind.type == TYPE_LIST_BOX || kind.type == TYPE_COMBO_BOX)) addEntries(*node, ui);
     if (kind.type == TYPE_VALUE_ENTRY) ui.limits(*node, "double");
     if (kind.type == TYPE_SLIDER || kind.type == TYPE_PROGRESS_BAR) ui.limits(*node, "number");
     ui.end();

@@ -81,12 +81,7 @@ WidgetNode& addRadioBox(WidgetNode& parent, const std::string& name, int x, int 
 }
 
 void addListEntries(WidgetNode& list, std::initializer_list<const char*> texts) {
-    ListEntryRec** end = &list.listEntries;
-    while (*end) end = &(*end)->next;
-    for (const char* text : texts) {
-        *end = new ListEntryRec{text, "", nullptr};
-        end = &(*end)->next;
-    }
+    for (const char* text : texts) list.listEntries.push_back({text, ""});
 }
 
 void addStatusBar(WidgetNode& form, const std::string& name, std::initializer_list<int> edges,
@@ -101,15 +96,12 @@ void addStatusBar(WidgetNode& form, const std::string& name, std::initializer_li
 }
 
 void addTreeEntries(WidgetNode& tree, std::initializer_list<Entry> entries) {
-    MenuEntryRec** end = &tree.entries;
-    const auto append = [&](int kind, int level, const std::string& name, const std::string& label) {
-        auto* entry = new MenuEntryRec;
-        entry->kind = kind;
-        entry->level = level;
-        entry->name = name;
-        entry->label = label;
-        *end = entry;
-        end = &entry->next;
+    const auto append = [&](int kind, int level, const std::string& name, const std::string& label) -> MenuEntryRec& {
+        MenuEntryRec& entry = tree.entries.emplace_back();
+        entry.kind = kind;
+        entry.level = level;
+        entry.name = name;
+        entry.label = label;
         return entry;
     };
     append(MENU_BAR, 0, tree.name + "_TreeView", "");
@@ -119,7 +111,7 @@ void addTreeEntries(WidgetNode& tree, std::initializer_list<Entry> entries) {
         if (row.level > level) append(MENU_PULL_DOWN, row.level, above, ""); // goes by the name of its entry
         above = row.name;
         level = row.level;
-        append(MENU_ENTRY, row.level, row.name, row.label)->slots[ENTRY_GENERAL] = row.code;
+        append(MENU_ENTRY, row.level, row.name, row.label).slots[ENTRY_GENERAL] = row.code;
     }
 }
 

@@ -95,7 +95,7 @@ void createCForm(Generation& g, const Placed& w) {
     g.masterWritten = true;
 
     writeStatusBar(g, form);
-    if (form.entries != nullptr) {
+    if (!form.entries.empty()) {
         write(g, "\n// Create menu structure for %s\n", form.name);
         writeMenu(g, form);
     }

@@ -136,17 +136,17 @@ void checkTexts(TextCheck check, const WidgetNode& node) {
 
 void checkEntries(TextCheck check, const WidgetNode& node) {
     if (node.contents == 0) {
-        for (const ListEntryRec* entry = node.listEntries; entry != nullptr; entry = entry->next) {
-            check.checkText("Entries", entry->text);
-            check.checkName("Entries", iconResourceName(entry->icon));
+        for (const ListEntryRec& entry : node.listEntries) {
+            check.checkText("Entries", entry.text);
+            check.checkName("Entries", iconResourceName(entry.icon));
         }
     }
-    for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
-        if (entry->kind != MENU_ENTRY) continue;
-        check.widget = entry->name;
-        check.checkText("Caption", entry->label);
-        check.checkText("Help Text", entry->help);
-        for (const std::string* icon : {&entry->icon1, &entry->icon2, &entry->icon3}) {
+    for (const MenuEntryRec& entry : node.entries) {
+        if (entry.kind != MENU_ENTRY) continue;
+        check.widget = entry.name;
+        check.checkText("Caption", entry.label);
+        check.checkText("Help Text", entry.help);
+        for (const std::string* icon : {&entry.icon1, &entry.icon2, &entry.icon3}) {
             check.checkName("Icon", iconResourceName(*icon));
         }
     }
@@ -164,15 +164,15 @@ void checkImageFiles(TextCheck check, const WidgetNode& node) {
     };
     if (hasNamedImage(node)) need(node.format == 1 ? "Background Image" : "Icon", node.icon);
     if (node.type == TYPE_GAUGE && node.format == 3) need("Icon", node.icon);
-    for (const ListEntryRec* entry = node.listEntries; entry != nullptr; entry = entry->next) {
-        needIfFile("Entries", entry->icon);
+    for (const ListEntryRec& entry : node.listEntries) {
+        needIfFile("Entries", entry.icon);
     }
-    for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
-        if (entry->kind != MENU_ENTRY) continue;
-        check.widget = entry->name;
-        needIfFile("Icon", entry->icon1);
-        needIfFile("Icon", entry->icon2);
-        needIfFile("Icon", entry->icon3);
+    for (const MenuEntryRec& entry : node.entries) {
+        if (entry.kind != MENU_ENTRY) continue;
+        check.widget = entry.name;
+        needIfFile("Icon", entry.icon1);
+        needIfFile("Icon", entry.icon2);
+        needIfFile("Icon", entry.icon3);
     }
 }
 

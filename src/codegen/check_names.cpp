@@ -80,9 +80,9 @@ void checkNames(std::vector<Complaint>& complaints) {
         if (node->parent == nullptr) form = node;
         names.check(*form, node->name);
         if (node->type == TYPE_FORM && node->statusBar != nullptr) names.check(*form, node->statusBar->name);
-        for (const MenuEntryRec* entry = node->entries; entry != nullptr; entry = entry->next) {
-            const bool structure = entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN;
-            if (node->type != TYPE_TREE_VIEW || !structure) names.check(*form, entry->name);
+        for (const MenuEntryRec& entry : node->entries) {
+            const bool structure = entry.kind == MENU_BAR || entry.kind == MENU_PULL_DOWN;
+            if (node->type != TYPE_TREE_VIEW || !structure) names.check(*form, entry.name);
         }
     }
 }

@@ -73,12 +73,12 @@ void writeWidgetBranches(Generation& g, const WidgetNode& node) {
 }
 
 void writeEntryBranches(Generation& g, const WidgetNode& owner) {
-    for (const MenuEntryRec* entry = owner.entries; entry != nullptr; entry = entry->next) {
+    for (const MenuEntryRec& entry : owner.entries) {
         for (int slot = 0; slot < ENTRY_SLOTS; ++slot) {
-            const CallbackSlot& code = entry->slots[static_cast<std::size_t>(slot)];
+            const CallbackSlot& code = entry.slots[static_cast<std::size_t>(slot)];
             if (code.empty()) continue;
-            openBranch(g, entry->name, slotOffset(entrySlotKinds[static_cast<std::size_t>(slot)]));
-            pasteCode(g, {.kind = PastedCode::ENTRY_SLOT, .index = slot, .widget = owner.name, .entry = entry->name},
+            openBranch(g, entry.name, slotOffset(entrySlotKinds[static_cast<std::size_t>(slot)]));
+            pasteCode(g, {.kind = PastedCode::ENTRY_SLOT, .index = slot, .widget = owner.name, .entry = entry.name},
                       code, true);
         }
     }

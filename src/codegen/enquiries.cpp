@@ -26,7 +26,7 @@ bool hasWindowCode(const WidgetNode& node) {
 bool needsGeneralCallback(const WidgetNode& node) { return !node.slots[SLOT_GENERAL].empty() || hasWindowCode(node); }
 
 bool hasListEntries(const WidgetNode& list) {
-    return list.contents == 0 && list.listEntries != nullptr && !list.listEntries->text.empty();
+    return list.contents == 0 && !list.listEntries.empty() && !list.listEntries.front().text.empty();
 }
 
 TypeSet typesBelow(const WidgetNode& form) {

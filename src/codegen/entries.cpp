@@ -14,7 +14,8 @@ struct ChainPlace {
     const MenuEntryRec* owner = nullptr;
     std::unordered_map<int, const MenuEntryRec*> pullDowns; // the last one of each level so far
 
-    explicit ChainPlace(const MenuEntryRec* chain) : first(chain) {}
+    explicit ChainPlace(const std::vector<MenuEntryRec>& entries)
+        : first(entries.empty() ? nullptr : &entries.front()) {}
 
     // A menu bar or pull-down menu receives what follows it.
     void openMenu(const MenuEntryRec& menu) {
@@ -51,26 +52,26 @@ void writeOpenedForms(Generation& g, const MenuEntryRec& entry) {
 
 void writeMenu(Generation& g, const WidgetNode& form) {
     ChainPlace place(form.entries);
-    for (const MenuEntryRec* entry = form.entries; entry != nullptr; entry = entry->next) {
-        switch (entry->kind) {
+    for (const MenuEntryRec& entry : form.entries) {
+        switch (entry.kind) {
         case MENU_BAR:
-            g.language.menuBar(g, *entry, form);
-            place.openMenu(*entry);
+            g.language.menuBar(g, entry, form);
+            place.openMenu(entry);
             break;
         case MENU_PULL_DOWN:
-            g.language.pullDown(g, *entry, place.previous != nullptr ? place.previous->name : form.name);
-            place.openMenu(*entry);
+            g.language.pullDown(g, entry, place.previous != nullptr ? place.previous->name : form.name);
+            place.openMenu(entry);
             break;
         case MENU_ENTRY:
-            place.findOwner(*entry);
-            place.previous = entry;
-            g.language.menuEntry(g, *entry, place.ownerName(form.name));
-            writeOpenedForms(g, *entry);
+            place.findOwner(entry);
+            place.previous = &entry;
+            g.language.menuEntry(g, entry, place.ownerName(form.name));
+            writeOpenedForms(g, entry);
             break;
         case MENU_SEPARATOR:
-            place.findOwner(*entry);
-            place.previous = entry;
-            g.language.menuSeparator(g, *entry, place.ownerName(form.name));
+            place.findOwner(entry);
+            place.previous = &entry;
+            g.language.menuSeparator(g, entry, place.ownerName(form.name));
             break;
         default: break;
         }
@@ -80,21 +81,21 @@ void writeMenu(Generation& g, const WidgetNode& form) {
 // The head and the pull-downs of a tree's chain are structure only: a pull-down bears the name of the entry above it,
 // which thereby is the parent of what follows.
 void writeTreeEntries(Generation& g, const WidgetNode& tree) {
-    if (tree.entries == nullptr) return;
+    if (tree.entries.empty()) return;
     write(g, g.language.treeComment, tree.name);
     ChainPlace place(tree.entries);
     std::string_view parent = tree.name;
-    for (const MenuEntryRec* entry = tree.entries; entry != nullptr; entry = entry->next) {
-        if (entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN) {
-            place.openMenu(*entry);
+    for (const MenuEntryRec& entry : tree.entries) {
+        if (entry.kind == MENU_BAR || entry.kind == MENU_PULL_DOWN) {
+            place.openMenu(entry);
             parent = tree.name;
-        } else if (entry->kind == MENU_ENTRY) {
+        } else if (entry.kind == MENU_ENTRY) {
             if (!place.behindMenuBar()) {
-                place.findOwner(*entry);
-                parent = entry->level == 0 ? std::string_view(tree.name) : place.ownerName(tree.name);
+                place.findOwner(entry);
+                parent = entry.level == 0 ? std::string_view(tree.name) : place.ownerName(tree.name);
             }
-            place.previous = entry;
-            g.language.treeEntry(g, tree, *entry, parent);
+            place.previous = &entry;
+            g.language.treeEntry(g, tree, entry, parent);
         }
     }
 }
@@ -102,7 +103,7 @@ void writeTreeEntries(Generation& g, const WidgetNode& tree) {
 void writeListEntries(Generation& g, const WidgetNode& list, std::string_view comment) {
     if (!hasListEntries(list)) return;
     write(g, comment, list.name);
-    for (const ListEntryRec* entry = list.listEntries; entry != nullptr; entry = entry->next) {
-        g.language.listEntry(g, list, *entry);
+    for (const ListEntryRec& entry : list.listEntries) {
+        g.language.listEntry(g, list, entry);
     }
 }

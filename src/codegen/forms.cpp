@@ -45,9 +45,9 @@ void writeDefineCalls(Generation& g, const WidgetNode& node) {
         const bool defined = slot == SLOT_GENERAL ? needsGeneralCallback(node) : !node.slots[slot].empty();
         if (defined) write(g, g.language.defineCalls[i], node.name, node.name);
     }
-    for (const MenuEntryRec* entry = node.entries; entry != nullptr; entry = entry->next) {
+    for (const MenuEntryRec& entry : node.entries) {
         for (std::size_t slot = 0; slot < ENTRY_SLOTS; ++slot) {
-            if (!entry->slots[slot].empty()) write(g, g.language.defineEntryCalls[slot], entry->name, entry->name);
+            if (!entry.slots[slot].empty()) write(g, g.language.defineEntryCalls[slot], entry.name, entry.name);
         }
     }
 }
@@ -89,9 +89,9 @@ void writeIdentifiers(Generation& g, const WidgetNode& form) {
         if (node->type == TYPE_FORM && node->statusBar != nullptr) {
             write(g, g.language.declareWidget, node->statusBar->name);
         }
-        for (const MenuEntryRec* entry = node->entries; entry != nullptr; entry = entry->next) {
-            const bool structure = entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN;
-            if (node->type != TYPE_TREE_VIEW || !structure) write(g, g.language.declareEntry, entry->name);
+        for (const MenuEntryRec& entry : node->entries) {
+            const bool structure = entry.kind == MENU_BAR || entry.kind == MENU_PULL_DOWN;
+            if (node->type != TYPE_TREE_VIEW || !structure) write(g, g.language.declareEntry, entry.name);
         }
         passOn(g);
     }

@@ -164,7 +164,7 @@ void createForm(Generation& g, const Placed& w) {
     write(g, "      CALL WINICO(%s,'%s',%d,%d)\n", form.name, picture.image, picture.kind, form.iconId);
     resetMaximum(g);
     writeStatusBar(g, form);
-    if (form.entries != nullptr) {
+    if (!form.entries.empty()) {
         write(g, "C create menu structure for %s\n", form.name);
         writeMenu(g, form);
     }

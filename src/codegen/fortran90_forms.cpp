@@ -94,7 +94,7 @@ void createFreeForm(Generation& g, const Placed& w) {
     g.masterWritten = true;
 
     writeStatusBar(g, form);
-    if (form.entries != nullptr) {
+    if (!form.entries.empty()) {
         write(g, "\n! Create menu structure for %s\n", form.name);
         writeMenu(g, form);
     }

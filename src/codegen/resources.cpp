@@ -86,17 +86,17 @@ void addEntryIcon(Script& script, std::string_view source, std::string_view name
 
 void addListIcons(Script& script, const WidgetNode& list) {
     const std::string_view source = list.type == TYPE_LIST_BOX ? "ListBox " : "ComboBox ";
-    for (const ListEntryRec* entry = list.listEntries; entry != nullptr; entry = entry->next) {
-        addEntryIcon(script, source, list.name, entry->icon);
+    for (const ListEntryRec& entry : list.listEntries) {
+        addEntryIcon(script, source, list.name, entry.icon);
     }
 }
 
 void addEntryIcons(Script& script, const WidgetNode& owner) {
     const bool tree = owner.type == TYPE_TREE_VIEW;
-    for (const MenuEntryRec* entry = owner.entries; entry != nullptr; entry = entry->next) {
-        if (entry->kind != MENU_ENTRY) continue;
-        for (const std::string* icon : {&entry->icon1, &entry->icon2, &entry->icon3}) {
-            addEntryIcon(script, tree ? "Treeview " : "MenuBar Entry ", tree ? owner.name : entry->name, *icon);
+    for (const MenuEntryRec& entry : owner.entries) {
+        if (entry.kind != MENU_ENTRY) continue;
+        for (const std::string* icon : {&entry.icon1, &entry.icon2, &entry.icon3}) {
+            addEntryIcon(script, tree ? "Treeview " : "MenuBar Entry ", tree ? owner.name : entry.name, *icon);
         }
     }
 }

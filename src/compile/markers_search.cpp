@@ -65,9 +65,9 @@ void noteStatement(Pass& pass, std::string_view text, int line) {
 
 MenuEntryRec* entryNamed(WidgetNode* list, const std::string& name, WidgetNode*& owner) {
     for (WidgetNode* node = list; node; node = node->next) {
-        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next) {
+        for (MenuEntryRec& entry : node->entries) {
             owner = node;
-            if (entry->name == name) return entry;
+            if (entry.name == name) return &entry;
         }
         if (MenuEntryRec* below = entryNamed(node->child, name, owner)) return below;
     }

@@ -51,9 +51,8 @@ bool sameButForDate(const std::string& a, const std::string& b) {
 // --- where the map leads
 
 MenuEntryRec* entryNamed(WidgetNode* owner, const std::string& name) {
-    MenuEntryRec* entry = owner ? owner->entries : nullptr;
-    while (entry && entry->name != name) entry = entry->next;
-    return entry;
+    const auto entry = std::ranges::find(owner->entries, name, &MenuEntryRec::name);
+    return entry == owner->entries.end() ? nullptr : &*entry;
 }
 
 CodeLocation placeOfPasted(const PastedCode& pasted, int line, int column) {

@@ -29,7 +29,7 @@ void setTab(int tab, bool enabled) { owSetWidgetStatus(tab, enabled ? OSELECTABL
 // The tabs that make sense for a widget; the list of widgets is in front.
 void showTabs(const WidgetNode& widget) {
     const WidgetNode* form = formOf(&widget, project.forms);
-    setTab(editor.menuTab, form && form->entries);
+    setTab(editor.menuTab, form && !form->entries.empty());
     setTab(editor.treeTab, widget.type == TYPE_TREE_VIEW);
     owSetWidgetStatus(editor.widgetTab, OCHECKED);
 }

@@ -22,9 +22,9 @@ std::vector<std::string> names; // rows of the list of widgets
 int fillEntryList(int list, const WidgetNode& owner) {
     owSetListEntry(list, OCLEAR, 0);
     int rows = 0;
-    for (const MenuEntryRec* entry = owner.entries; entry; entry = entry->next) {
-        if (entry->kind != MENU_ENTRY || entry->name.empty()) continue;
-        addRow(list, entry->name.c_str());
+    for (const MenuEntryRec& entry : owner.entries) {
+        if (entry.kind != MENU_ENTRY || entry.name.empty()) continue;
+        addRow(list, entry.name.c_str());
         ++rows;
     }
     return rows;
@@ -32,7 +32,7 @@ int fillEntryList(int list, const WidgetNode& owner) {
 
 WidgetNode* firstFormWithMenu() {
     WidgetNode* form = project.forms;
-    while (form && !form->entries) form = form->next;
+    while (form && form->entries.empty()) form = form->next;
     return form;
 }
 
@@ -54,7 +54,7 @@ void showEntry(const WidgetNode& owner, int list, const std::string& name) {
 
 void enterEntries(WidgetNode* owner, int list, const std::string& remembered) {
     if (!owner || fillEntryList(list, *owner) == 0) return;
-    const bool same = codeEditing.entryOwner == owner;
+    const bool same = codeEditing.entryOwner == owner->id;
     copyEntriesForEditing(owner);
     owSetListEntry(list, OSELECT, owEntry, 1, 0);
     showEntry(*owner, list, same && !remembered.empty() ? remembered : chosenRow(list));
@@ -62,7 +62,7 @@ void enterEntries(WidgetNode* owner, int list, const std::string& remembered) {
 
 void showMenuEntries() {
     WidgetNode* form = project.currentWidget ? formOf(project.currentWidget, project.forms) : nullptr;
-    if (!form || !form->entries) form = firstFormWithMenu();
+    if (!form || form->entries.empty()) form = firstFormWithMenu();
     enterEntries(form, editor.menuList, codeEditing.menuEntryName);
 }
 
@@ -74,7 +74,7 @@ void showTreeEntries() {
 void entryChosen(int list) {
     commitEditor();
     rememberCaret();
-    if (codeEditing.entryOwner) showEntry(*codeEditing.entryOwner, list, chosenRow(list));
+    if (const WidgetNode* owner = ownerOfEntryCopy()) showEntry(*owner, list, chosenRow(list));
 }
 
 } // namespace

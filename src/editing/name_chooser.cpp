@@ -12,6 +12,7 @@
 #include "surface/hooks.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -96,11 +97,11 @@ void addForms(Names& names, bool dynamic) {
         if (isDynamic(*form) == dynamic) names.push_back(form->name);
 }
 
-// Entries of a chain that a program can name.
-void addEntries(Names& names, const MenuEntryRec* entry) {
-    for (; entry; entry = entry->next) {
-        const bool internal = entry->name.empty() || entry->name == "separator" || entry->name == "Pop";
-        if (!internal && entry->kind == MENU_ENTRY) names.push_back(entry->name);
+// Entries that a program can name.
+void addEntries(Names& names, std::span<const MenuEntryRec> entries) {
+    for (const MenuEntryRec& entry : entries) {
+        const bool internal = entry.name.empty() || entry.name == "separator" || entry.name == "Pop";
+        if (!internal && entry.kind == MENU_ENTRY) names.push_back(entry.name);
     }
 }
 
@@ -108,14 +109,14 @@ void addMenuEntries(Names& names) {
     const bool editing = codeEditing.target == EDIT_MENU_SLOT;
     if (editing) addEntries(names, codeEditing.entryCopy);
     for (const WidgetNode* form = project.forms; form; form = form->next)
-        if (form->entries && !(editing && form == codeEditing.entryOwner)) addEntries(names, form->entries->next);
+        if (!(editing && form->id == codeEditing.entryOwner)) addEntries(names, form->entries);
 }
 
 void addTreeEntries(Names& names) {
     if (codeEditing.target == EDIT_TREE_SLOT) addEntries(names, codeEditing.entryCopy);
     const WidgetNode* form = project.currentWidget ? formOf(project.currentWidget, project.forms) : project.forms;
     for (const WidgetNode* node = form; node; node = walkBelow(node, form)) {
-        const bool shown = codeEditing.target == EDIT_TREE_SLOT && node == codeEditing.entryOwner;
+        const bool shown = codeEditing.target == EDIT_TREE_SLOT && node->id == codeEditing.entryOwner;
         if (node->type == TYPE_TREE_VIEW && !shown) addEntries(names, node->entries);
     }
 }

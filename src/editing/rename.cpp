@@ -44,8 +44,8 @@ int walk(const std::string& from, const std::string& to, bool replacing) {
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
         for (CallbackSlot& slot : node->slots) rename.in(slot);
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
-        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next)
-            for (CallbackSlot& slot : entry->slots) rename.in(slot);
+        for (MenuEntryRec& entry : node->entries)
+            for (CallbackSlot& slot : entry.slots) rename.in(slot);
     return rename.hits;
 }
 

@@ -66,9 +66,9 @@ void storeEntryCopies(MenuEntryRec& entry) {
     for (std::size_t i = 0; i < ENTRY_SLOTS; ++i) entry.slots[i] = codeEditing.workingSlots[entrySlotKinds[i]];
 }
 
-MenuEntryRec* entryNamed(MenuEntryRec* entry, std::string_view name) {
-    while (entry && entry->name != name) entry = entry->next;
-    return entry;
+MenuEntryRec* entryNamed(std::vector<MenuEntryRec>& entries, std::string_view name) {
+    const auto entry = std::ranges::find(entries, name, &MenuEntryRec::name);
+    return entry == entries.end() ? nullptr : &*entry;
 }
 
 bool offers(const WidgetNode& node, std::string_view name) {
@@ -84,12 +84,15 @@ int listPositionOf(std::string_view name) {
 void commitEntry() {
     if (!codeEditing.currentEntry) return;
     storeEntryCopies(*codeEditing.currentEntry);
-    if (!codeEditing.entryOwner) return;
-    if (MenuEntryRec* real = entryNamed(codeEditing.entryOwner->entries, codeEditing.currentEntry->name))
+    WidgetNode* owner = ownerOfEntryCopy();
+    if (!owner) return;
+    if (MenuEntryRec* real = entryNamed(owner->entries, codeEditing.currentEntry->name))
         real->slots = codeEditing.currentEntry->slots;
 }
 
 } // namespace
+
+WidgetNode* ownerOfEntryCopy() { return findRecord(codeEditing.entryOwner); }
 
 bool isSlotName(std::string_view name) { return name.find("Callback") != std::string_view::npos; }
 
@@ -129,7 +132,7 @@ std::vector<EntrySlot> offeredEntrySlots(const WidgetNode& owner) {
 void refreshBlockCopies() { codeEditing.blockCopies = project.codeBlocks; }
 
 void loadWorkingSlots(WidgetNode& widget) {
-    codeEditing.widget = &widget;
+    codeEditing.widget = widget.id;
     codeEditing.workingSlots = widget.slots;
     if (isSlotName(project.currentBlockName) && !offers(widget, project.currentBlockName))
         project.currentBlockName = GENERAL;
@@ -140,7 +143,7 @@ void bindWidgetCode(WidgetNode& widget) {
     copyEntriesForEditing(nullptr);
     refreshBlockCopies();
     if (offeredSlots(widget).empty()) {
-        codeEditing.widget = nullptr;
+        codeEditing.widget = 0;
         codeEditing.target = EDIT_BLOCK;
         if (isSlotName(project.currentBlockName)) project.currentBlockName = codeBlockTable[BLOCK_LOCAL_VARIABLES].name;
     } else {
@@ -151,24 +154,20 @@ void bindWidgetCode(WidgetNode& widget) {
 }
 
 void copyEntriesForEditing(WidgetNode* owner) {
-    freeEntries(codeEditing.entryCopy);
-    codeEditing.entryCopy = codeEditing.currentEntry = nullptr;
-    codeEditing.entryOwner = owner;
+    codeEditing.entryCopy.clear();
+    codeEditing.currentEntry = nullptr;
+    codeEditing.entryOwner = owner ? owner->id : 0;
     if (!owner) return;
-    MenuEntryRec** link = &codeEditing.entryCopy;
-    for (const MenuEntryRec* entry = owner->entries; entry; entry = entry->next) {
-        if (entry->kind != MENU_ENTRY && entry->kind != MENU_SEPARATOR) continue;
-        *link = new MenuEntryRec(*entry);
-        (*link)->next = nullptr;
-        link = &(*link)->next;
-    }
+    for (const MenuEntryRec& entry : owner->entries)
+        if (entry.kind == MENU_ENTRY || entry.kind == MENU_SEPARATOR) codeEditing.entryCopy.push_back(entry);
 }
 
 bool bindEntryCode(std::string_view entryName) {
-    if (entryName.empty() || !codeEditing.entryOwner) return false;
+    const WidgetNode* owner = ownerOfEntryCopy();
+    if (entryName.empty() || !owner) return false;
     MenuEntryRec* entry = entryNamed(codeEditing.entryCopy, entryName);
     if (!entry) return false;
-    const bool tree = codeEditing.entryOwner->type == TYPE_TREE_VIEW;
+    const bool tree = owner->type == TYPE_TREE_VIEW;
     codeEditing.currentEntry = entry;
     (tree ? codeEditing.treeEntryName : codeEditing.menuEntryName) = entryName;
     refreshBlockCopies();
@@ -192,8 +191,8 @@ void commitCode(const std::string& text, int caretStart, int caretEnd) {
     if (block || slotIndexOf(project.currentBlockName) >= 0) shownCode() = text;
     if (inEntryMode())
         commitEntry();
-    else if (codeEditing.widget && !block)
-        codeEditing.widget->slots = codeEditing.workingSlots;
+    else if (WidgetNode* widget = block ? nullptr : findRecord(codeEditing.widget))
+        widget->slots = codeEditing.workingSlots;
     const int position = listPositionOf(project.currentBlockName);
     codeEditing.caretStart[static_cast<std::size_t>(position)] = caretStart;
     codeEditing.caretEnd[static_cast<std::size_t>(position)] = caretEnd;
@@ -229,7 +228,7 @@ void convertOldCode(std::string& code) {
 void convertOldCode(WidgetNode* list) {
     for (WidgetNode* node = list; node; node = walkList(node, list)) {
         for (CallbackSlot& slot : node->slots) convertOldCode(slot);
-        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next)
-            for (CallbackSlot& slot : entry->slots) convertOldCode(slot);
+        for (MenuEntryRec& entry : node->entries)
+            for (CallbackSlot& slot : entry.slots) convertOldCode(slot);
     }
 }

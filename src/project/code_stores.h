@@ -58,7 +58,7 @@ enum EditTarget { EDIT_BLOCK, EDIT_WIDGET_SLOT, EDIT_MENU_SLOT, EDIT_TREE_SLOT }
 // State of the code editor beside its text widget. One instance, `codeEditing`.
 struct CodeEditing {
     EditTarget target = EDIT_BLOCK;
-    WidgetNode* widget = nullptr; // whose slots the working slots copy
+    int widget = 0; // id of the record whose slots the working slots copy
     std::array<std::string, CODE_BLOCKS> blockCopies;
     std::array<std::string, WIDGET_SLOTS> workingSlots; // of an entry: by entrySlotKinds
     std::array<int, 26> caretStart = allOnes<26>();     // selection last seen, by list position
@@ -66,13 +66,14 @@ struct CodeEditing {
     int listPosition = 2;
     bool codeModified = false;
 
-    WidgetNode* entryOwner = nullptr;     // form or tree view of the entry copy
-    MenuEntryRec* entryCopy = nullptr;    // owned: its entries and separators
+    int entryOwner = 0;                   // id of the form or tree view of the entry copy
+    std::vector<MenuEntryRec> entryCopy;  // its entries and separators
     MenuEntryRec* currentEntry = nullptr; // in the copy
     std::string menuEntryName;            // last chosen
     std::string treeEntryName;
 };
 extern CodeEditing codeEditing;
+WidgetNode* ownerOfEntryCopy(); // null when there is none, or no longer
 
 void refreshBlockCopies();                 // from the committed blocks
 void loadWorkingSlots(WidgetNode& widget); // copies of the widget's slots; the shown name follows what the type offers

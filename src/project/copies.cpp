@@ -1,32 +1,11 @@
-// Deep copies of records and of the chains that they own.
+// Deep copies of records.
 #include "project/tree.h"
 
 namespace {
 
-template <typename Entry> Entry* copyChain(const Entry* first) {
-    Entry* head = nullptr;
-    Entry** link = &head;
-    for (; first; first = first->next) {
-        *link = new Entry(*first);
-        link = &(*link)->next;
-        *link = nullptr;
-    }
-    return head;
-}
-
-template <typename Entry> void freeChain(Entry* first) {
-    while (first) {
-        Entry* next = first->next;
-        delete first;
-        first = next;
-    }
-}
-
 // One record with all that it owns, standing alone.
 WidgetNode* copyRecord(const WidgetNode& source) {
     auto* copy = new WidgetNode(source);
-    copy->entries = copyEntries(source.entries);
-    copy->listEntries = copyListEntries(source.listEntries);
     copy->child = copy->next = copy->parent = copy->lastChild = nullptr;
     copy->storedParentHandle = copy->storedFormCallbackId = 0; // the copy comes from no file
     copy->indexedName = 0;
@@ -37,11 +16,6 @@ WidgetNode* copyRecord(const WidgetNode& source) {
 }
 
 } // namespace
-
-MenuEntryRec* copyEntries(const MenuEntryRec* first) { return copyChain(first); }
-ListEntryRec* copyListEntries(const ListEntryRec* first) { return copyChain(first); }
-void freeEntries(MenuEntryRec* first) { freeChain(first); }
-void freeListEntries(ListEntryRec* first) { freeChain(first); }
 
 WidgetNode* copyNode(const WidgetNode* node, bool withSiblings) {
     if (!node) return nullptr;

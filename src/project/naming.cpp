@@ -22,10 +22,10 @@ bool isFurther(char c) { return isLetter(c) || (c >= '0' && c <= '9') || c == '_
 template <typename Visit> void eachName(const WidgetNode& node, Visit visit) {
     if (!node.name.empty()) visit(node.name, NameOf::Record);
     if (node.statusBar && !node.statusBar->name.empty()) visit(node.statusBar->name, NameOf::StatusBar);
-    for (const MenuEntryRec* entry = node.entries; entry; entry = entry->next) {
-        const bool structure = entry->kind == MENU_BAR || entry->kind == MENU_PULL_DOWN;
+    for (const MenuEntryRec& entry : node.entries) {
+        const bool structure = entry.kind == MENU_BAR || entry.kind == MENU_PULL_DOWN;
         const bool declared = node.type != TYPE_TREE_VIEW || !structure; // the bar of a tree is no widget
-        if (declared && !entry->name.empty()) visit(entry->name, NameOf::Entries);
+        if (declared && !entry.name.empty()) visit(entry.name, NameOf::Entries);
     }
 }
 
@@ -73,15 +73,15 @@ std::string ownName(const std::string& name, NamesInUse& names) {
 }
 
 void nameEntriesOfCopy(WidgetNode& node, const WidgetNode* form, NamesInUse& names) {
-    for (MenuEntryRec* entry = node.entries; entry; entry = entry->next) {
-        if (entry->name.empty() || names.count(entry->name) < 2) continue;
-        const std::string pasted = pastedName(entry->name, form);
+    for (MenuEntryRec& entry : node.entries) {
+        if (entry.name.empty() || names.count(entry.name) < 2) continue;
+        const std::string pasted = pastedName(entry.name, form);
         if (names.count(pasted) == 0) {
-            names.remove(entry->name);
+            names.remove(entry.name);
             names.add(pasted);
-            entry->name = pasted;
+            entry.name = pasted;
         } else {
-            entry->name = ownName(entry->name, names);
+            entry.name = ownName(entry.name, names);
         }
     }
 }
@@ -113,8 +113,8 @@ void replaceIdentifier(std::string& code, const std::string& from, const std::st
 void replaceInCode(WidgetNode* first, const std::string& from, const std::string& to) {
     for (WidgetNode* node = first; node; node = walkList(node, first)) {
         for (CallbackSlot& slot : node->slots) replaceIdentifier(slot, from, to);
-        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next)
-            for (CallbackSlot& slot : entry->slots) replaceIdentifier(slot, from, to);
+        for (MenuEntryRec& entry : node->entries)
+            for (CallbackSlot& slot : entry.slots) replaceIdentifier(slot, from, to);
     }
 }
 
@@ -236,8 +236,8 @@ std::string numberTakenNames(WidgetNode* first) {
         renumber(node->name, [&](const std::string& fresh) { renameNode(*node, fresh); });
         if (node->statusBar)
             renumber(node->statusBar->name, [&](const std::string& fresh) { node->statusBar->name = fresh; });
-        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next)
-            renumber(entry->name, [&](const std::string& fresh) { entry->name = fresh; });
+        for (MenuEntryRec& entry : node->entries)
+            renumber(entry.name, [&](const std::string& fresh) { entry.name = fresh; });
     }
     return told;
 }

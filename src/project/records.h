@@ -102,7 +102,7 @@ enum CodeBlockIndex : int {
     BLOCK_USER_ROUTINES,
 };
 
-// One entry of a form's menu or of a tree view. The chain is flat: `level` alone tells the nesting.
+// One entry of a form's menu or of a tree view. Their row is flat: `level` alone tells the nesting.
 struct MenuEntryRec {
     std::string label;
     std::string name;
@@ -117,7 +117,6 @@ struct MenuEntryRec {
     int callbackId = 0;   // of the live entry; not stored
     int storedHandle = 0; // what the file held there, kept for the next save
     std::array<CallbackSlot, ENTRY_SLOTS> slots;
-    MenuEntryRec* next = nullptr;
 };
 using TreeEntryRec = MenuEntryRec;
 
@@ -125,7 +124,6 @@ using TreeEntryRec = MenuEntryRec;
 struct ListEntryRec {
     std::string text;
     std::string icon; // empty for none
-    ListEntryRec* next = nullptr;
 };
 
 // The status bar of a form.
@@ -158,9 +156,9 @@ struct StatusBarPtr : std::unique_ptr<StatusBarRec> {
 // One form or widget. Which generic field means what depends on `type`. A record owns what it points to except the
 // `child` and `next` chains, which belong to the tree. Whoever remembers a record beyond one event remembers its id.
 struct WidgetNode {
-    std::string name;                // variable name in generated source, unique in the project
-    int selected = 0;                // 1 on the current widget
-    MenuEntryRec* entries = nullptr; // form: menu; tree view: its entries
+    std::string name;                  // variable name in generated source, unique in the project
+    int selected = 0;                  // 1 on the current widget
+    std::vector<MenuEntryRec> entries; // form: menu; tree view: its entries
     WidgetType type = TYPE_NONE;
     int unknownCode = 0;  // of an unknown type, as its file has it
     int parentHandle = 0; // live handle of the parent; not stored
@@ -224,7 +222,7 @@ struct WidgetNode {
     std::string backgroundImage;
     std::string parentName;
     int formType = 0;
-    ListEntryRec* listEntries = nullptr;
+    std::vector<ListEntryRec> listEntries;
     std::array<CallbackSlot, WIDGET_SLOTS> slots;
     std::string bubbleHelp;
     int activeOnInit = 0;

@@ -154,19 +154,15 @@ void readListEntry(RecordSource& source, ListEntryRec& entry) {
     if (source.version >= VERSION_50) readString(source.reader, entry.icon);
 }
 
-// A chain of entries behind MENU or LIST, added to what is at `link`. False when its end was not found.
-template <typename Entry> bool readEntries(RecordSource& source, Entry** link, void (*readOne)(RecordSource&, Entry&)) {
-    while (*link) link = &(*link)->next;
+// The entries behind MENU or LIST, added to `entries`. False when their end was not found.
+template <typename Entry>
+bool readEntries(RecordSource& source, std::vector<Entry>& entries, void (*readOne)(RecordSource&, Entry&)) {
     for (;;) {
         const std::uint64_t before = source.reader.fields;
-        auto* entry = new Entry();
-        readOne(source, *entry);
-        if (source.reader.fields == before) { // the data ended ahead of it
-            delete entry;
-            return false;
-        }
-        *link = entry;
-        link = &entry->next;
+        Entry entry;
+        readOne(source, entry);
+        if (source.reader.fields == before) return false; // the data ended ahead of it
+        entries.push_back(std::move(entry));
         const Keyword keyword = readKeyword(source.reader);
         if (keyword == KEY_END || keyword == KEY_ENDFIL) return true;
         if (keyword == KEY_NEXT) continue;
@@ -187,8 +183,8 @@ Keyword readSections(RecordSource& source, WidgetNode& node) {
             readSizes(source.reader, node.rowHeights, node.rows);
             break;
         case KEY_STABAR: readStatusBar(source.reader, node); break;
-        case KEY_MENU: whole = readEntries(source, &node.entries, readEntry); break;
-        case KEY_LIST: whole = readEntries(source, &node.listEntries, readListEntry); break;
+        case KEY_MENU: whole = readEntries(source, node.entries, readEntry); break;
+        case KEY_LIST: whole = readEntries(source, node.listEntries, readListEntry); break;
         default: return keyword;
         }
         if (!whole) return KEY_NONE;

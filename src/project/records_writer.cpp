@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <span>
 
 namespace {
 
@@ -69,31 +70,37 @@ void writeStatusBar(FileWriter& writer, const StatusBarRec& bar) {
     writeString(writer, bar.name);
 }
 
-void writeEntries(FileWriter& writer, const MenuEntryRec* entry) {
-    writeKeyword(writer, KEY_MENU);
-    for (; entry; entry = entry->next) {
-        for (const EntryStringRow& row : entryStrings) writeString(writer, entry->*row.field);
-        for (const CallbackSlot& slot : entry->slots) {
-            const int size = codeSize(slot);
-            writeEntrySize(writer, size);
-            writeText(writer, slot, static_cast<std::size_t>(size));
-        }
-        for (const EntryNumberRow& row : entryNumbers) writeNumber(writer, entry->*row.field);
-        writeKeyword(writer, entry->next ? KEY_NEXT : KEY_END);
+void writeEntry(FileWriter& writer, const MenuEntryRec& entry) {
+    for (const EntryStringRow& row : entryStrings) writeString(writer, entry.*row.field);
+    for (const CallbackSlot& slot : entry.slots) {
+        const int size = codeSize(slot);
+        writeEntrySize(writer, size);
+        writeText(writer, slot, static_cast<std::size_t>(size));
+    }
+    for (const EntryNumberRow& row : entryNumbers) writeNumber(writer, entry.*row.field);
+}
+
+void writeListEntry(FileWriter& writer, const ListEntryRec& entry) {
+    writeString(writer, entry.text);
+    writeString(writer, entry.icon);
+}
+
+template <typename Entry>
+void writeEntries(FileWriter& writer, Keyword section, std::span<const Entry> entries,
+                  void (*writeOne)(FileWriter&, const Entry&)) {
+    if (entries.empty()) return;
+    writeKeyword(writer, section);
+    for (const Entry& entry : entries) {
+        writeOne(writer, entry);
+        writeKeyword(writer, &entry == &entries.back() ? KEY_END : KEY_NEXT);
     }
 }
 
 // An empty last row is not stored.
-bool storedListEntry(const ListEntryRec& entry) { return entry.next || !entry.text.empty() || !entry.icon.empty(); }
-
-void writeListEntries(FileWriter& writer, const ListEntryRec* entry) {
-    if (!entry || !storedListEntry(*entry)) return;
-    writeKeyword(writer, KEY_LIST);
-    for (; entry && storedListEntry(*entry); entry = entry->next) {
-        writeString(writer, entry->text);
-        writeString(writer, entry->icon);
-        writeKeyword(writer, entry->next && storedListEntry(*entry->next) ? KEY_NEXT : KEY_END);
-    }
+std::span<const ListEntryRec> storedListEntries(const WidgetNode& node) {
+    const std::span<const ListEntryRec> all = node.listEntries;
+    const bool emptyLast = !all.empty() && all.back().text.empty() && all.back().icon.empty();
+    return emptyLast ? all.first(all.size() - 1) : all;
 }
 
 // A record with the sections ahead of its children.
@@ -110,8 +117,8 @@ void writeOne(FileWriter& writer, WidgetNode& node) {
         writeSizes(writer, node.rowHeights, node.rows);
     }
     if (node.statusBar && node.type == TYPE_FORM) writeStatusBar(writer, *node.statusBar);
-    if (node.entries) writeEntries(writer, node.entries);
-    writeListEntries(writer, node.listEntries);
+    writeEntries<MenuEntryRec>(writer, KEY_MENU, node.entries, writeEntry);
+    writeEntries(writer, KEY_LIST, storedListEntries(node), writeListEntry);
     if (node.child) writeKeyword(writer, KEY_CHILD);
 }
 

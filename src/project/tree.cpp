@@ -3,7 +3,6 @@
 // holds a record longer than the tree does.
 #include "project/tree.h"
 
-#include "project/code_stores.h"
 #include "project/widget_types.h"
 
 #include <functional>
@@ -144,8 +143,8 @@ bool standsInList(const WidgetNode* node, const WidgetNode* list) {
 }
 
 bool hasEntry(const WidgetNode& node, std::string_view name) {
-    for (const MenuEntryRec* entry = node.entries; entry; entry = entry->next)
-        if (entry->name == name) return true;
+    for (const MenuEntryRec& entry : node.entries)
+        if (entry.name == name) return true;
     return false;
 }
 
@@ -365,10 +364,6 @@ void freeRecord(WidgetNode* node) {
     if (node->parent && node->parent->lastChild == node) node->parent->lastChild = nullptr;
     if (lastForm == node) lastForm = nullptr;
     if (project.currentWidget == node) project.currentWidget = nullptr;
-    if (codeEditing.widget == node) codeEditing.widget = nullptr;
-    if (codeEditing.entryOwner == node) codeEditing.entryOwner = nullptr;
-    freeEntries(node->entries);
-    freeListEntries(node->listEntries);
     delete node;
 }
 

@@ -51,12 +51,6 @@ WidgetNode* previousOf(const WidgetNode& node);                  // the sibling 
 
 void freeRecord(WidgetNode* node); // one record and what it owns
 
-// The two kinds of entry chains that a record owns: copy and free them whole.
-MenuEntryRec* copyEntries(const MenuEntryRec* first);
-ListEntryRec* copyListEntries(const ListEntryRec* first);
-void freeEntries(MenuEntryRec* first);
-void freeListEntries(ListEntryRec* first);
-
 // Every change of the tree goes through these, so that lookups by name, by handle and of the parent stay current.
 void appendForm(WidgetNode* form);
 void adoptForms(WidgetNode* first);                   // the same with a whole chain

@@ -54,9 +54,9 @@ constexpr std::string MenuEntryRec::*ICONS[] = {&MenuEntryRec::icon1, &MenuEntry
 int iconPosition(RowId row) { return row == ROW_ICON ? 1 : row == ROW_CLOSE_ICON ? 2 : 3; }
 
 // The icons of a tree view are those of its entries: they are what the program shows.
-void storeEntryIcons(const WidgetNode& treeView, int position, const std::string& name) {
-    for (MenuEntryRec* entry = treeView.entries; entry; entry = entry->next)
-        if (entry->kind == MENU_ENTRY) entry->*ICONS[position - 1] = name;
+void storeEntryIcons(WidgetNode& treeView, int position, const std::string& name) {
+    for (MenuEntryRec& entry : treeView.entries)
+        if (entry.kind == MENU_ENTRY) entry.*ICONS[position - 1] = name;
 }
 
 void storeIcon(WidgetNode& target, const PropertyRow& row, const std::string& name) {
@@ -73,8 +73,8 @@ void storeIcon(WidgetNode& target, const PropertyRow& row, const std::string& na
 } // namespace
 
 bool mayReplaceEntryIcons(const WidgetNode& treeView, int position) {
-    for (const MenuEntryRec* entry = treeView.entries; entry; entry = entry->next) {
-        if (entry->kind != MENU_ENTRY || (entry->*ICONS[position - 1]).empty()) continue;
+    for (const MenuEntryRec& entry : treeView.entries) {
+        if (entry.kind != MENU_ENTRY || (entry.*ICONS[position - 1]).empty()) continue;
         return host.messageBox("Overwriting existing icons",
                                "The Treeview already has entries containing icons|This will replace all the icons with "
                                "the icon chosen",

@@ -31,8 +31,7 @@ void renameFamily(const std::string& from, const std::string& to) {
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
         const std::string name = familyName(node->name, from, to);
         if (name != node->name) renameRecord(*node, name);
-        for (MenuEntryRec* entry = node->entries; entry; entry = entry->next)
-            entry->name = familyName(entry->name, from, to);
+        for (MenuEntryRec& entry : node->entries) entry.name = familyName(entry.name, from, to);
     }
 }
 

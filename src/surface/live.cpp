@@ -211,12 +211,12 @@ void clearPlaceholder(const WidgetNode& parent) {
 }
 
 void fillListEntries(WidgetNode& node) {
-    for (const ListEntryRec* entry = node.listEntries; entry; entry = entry->next) {
-        if (entry->icon.empty())
-            owSetListEntry(node.handle, OADD, owString, entry->text.c_str(), 0);
+    for (const ListEntryRec& entry : node.listEntries) {
+        if (entry.icon.empty())
+            owSetListEntry(node.handle, OADD, owString, entry.text.c_str(), 0);
         else
-            owSetListEntry(node.handle, OADD, owString, entry->text.c_str(), owIcon,
-                           owGetIconResource(entry->icon.c_str()), 0);
+            owSetListEntry(node.handle, OADD, owString, entry.text.c_str(), owIcon,
+                           owGetIconResource(entry.icon.c_str()), 0);
     }
     if (node.type == TYPE_COMBO_BOX) owSetListEntry(node.handle, OSELECT, owEntry, 1, 0);
 }

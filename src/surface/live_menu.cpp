@@ -25,8 +25,8 @@ struct Levels {
 };
 
 // A pull-down hangs on the entry before it and holds the entries of the level that follows.
-int levelBelow(const MenuEntryRec& pullDown, const MenuEntryRec* before) {
-    if (pullDown.next) return pullDown.next->level;
+int levelBelow(const std::vector<MenuEntryRec>& entries, const MenuEntryRec& pullDown, const MenuEntryRec* before) {
+    if (&pullDown != &entries.back()) return (&pullDown)[1].level;
     return before ? before->level + 1 : 1;
 }
 
@@ -43,29 +43,29 @@ int createTreeRow(const WidgetNode& box, const MenuEntryRec& entry, int parent) 
 } // namespace
 
 void buildLiveMenu(WidgetNode& form) {
-    if (!form.entries) return;
+    if (form.entries.empty()) return;
     Levels levels{{owCreateMenuBar(form.handle)}};
     const MenuEntryRec* before = nullptr;
-    for (MenuEntryRec* entry = form.entries; entry; entry = entry->next) {
-        switch (entry->kind) {
-        case MENU_BAR: entry->handle = levels.at(0); break;
+    for (MenuEntryRec& entry : form.entries) {
+        switch (entry.kind) {
+        case MENU_BAR: entry.handle = levels.at(0); break;
         case MENU_PULL_DOWN:
             if (!before) break;
-            entry->handle = owCreatePullDownMenu(before->handle);
-            levels.open(levelBelow(*entry, before), entry->handle);
+            entry.handle = owCreatePullDownMenu(before->handle);
+            levels.open(levelBelow(form.entries, entry, before), entry.handle);
             break;
         case MENU_ENTRY:
-            entry->handle = owCreateMenuEntry(
-                levels.at(entry->level), entry->label.c_str(), owAccel, entry->accel, owHelp, entry->help.c_str(),
-                owUncheckIcon, owGetIconResource(entry->icon1.c_str()), owCheckIcon,
-                owGetIconResource(entry->icon2.c_str()), owGreyIcon, owGetIconResource(entry->icon3.c_str()), 0);
-            if (entry->level > 0) {
-                entry->callbackId = entry->handle;
-                owDefineCallback(entry->handle, entry->handle);
+            entry.handle = owCreateMenuEntry(levels.at(entry.level), entry.label.c_str(), owAccel, entry.accel, owHelp,
+                                             entry.help.c_str(), owUncheckIcon, owGetIconResource(entry.icon1.c_str()),
+                                             owCheckIcon, owGetIconResource(entry.icon2.c_str()), owGreyIcon,
+                                             owGetIconResource(entry.icon3.c_str()), 0);
+            if (entry.level > 0) {
+                entry.callbackId = entry.handle;
+                owDefineCallback(entry.handle, entry.handle);
             }
-            before = entry;
+            before = &entry;
             break;
-        case MENU_SEPARATOR: entry->handle = owCreateMenuSeparator(levels.at(entry->level)); break;
+        case MENU_SEPARATOR: entry.handle = owCreateMenuSeparator(levels.at(entry.level)); break;
         default: break;
         }
     }
@@ -82,20 +82,20 @@ void buildLiveStatusBar(WidgetNode& form) {
 void buildLiveTree(WidgetNode& box) {
     Levels levels{{box.handle}};
     const MenuEntryRec* before = nullptr;
-    for (MenuEntryRec* entry = box.entries; entry; entry = entry->next) {
-        if (entry->kind == MENU_PULL_DOWN && before) {
-            entry->handle = before->handle;
-            levels.open(levelBelow(*entry, before), before->handle);
-        } else if (entry->kind == MENU_ENTRY) {
-            const int parent = levels.at(entry->level);
-            entry->handle = createTreeRow(box, *entry, parent);
+    for (MenuEntryRec& entry : box.entries) {
+        if (entry.kind == MENU_PULL_DOWN && before) {
+            entry.handle = before->handle;
+            levels.open(levelBelow(box.entries, entry, before), before->handle);
+        } else if (entry.kind == MENU_ENTRY) {
+            const int parent = levels.at(entry.level);
+            entry.handle = createTreeRow(box, entry, parent);
             if (box.subType == ORESOURCEICONS && parent != box.handle) {
                 owTreeViewAction(parent, OOPENENTRY);
                 owTreeViewAction(parent, OCLOSEENTRY);
             }
-            before = entry;
-        } else if (entry->kind == MENU_BAR) {
-            entry->handle = box.handle;
+            before = &entry;
+        } else if (entry.kind == MENU_BAR) {
+            entry.handle = box.handle;
         }
     }
 }

@@ -209,7 +209,7 @@ void finishValue(WidgetNode& n) {
 }
 
 void finishList(WidgetNode& n) {
-    if (n.contents == 0 && n.listEntries) fillListEntries(n);
+    if (n.contents == 0) fillListEntries(n);
 }
 
 void finishPanel(WidgetNode& n) {

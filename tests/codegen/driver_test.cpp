@@ -189,7 +189,7 @@ TEST_F(Driver, TextIsMadeWithoutTouchingTheProject) {
         EXPECT_EQ(project.forms->name, "A");
         EXPECT_EQ(project.forms->text, "it's \"a\"");
         EXPECT_EQ(project.forms->next->parentName, "E");
-        EXPECT_EQ(findName(project.forms, "M", false)->entries->next->label, "it's \"e\"");
+        EXPECT_EQ(findName(project.forms, "M", false)->entries.at(1).label, "it's \"e\"");
         EXPECT_EQ(findName(project.forms, "T", false)->columnWidths, (std::vector<int>{10, 20}));
         GeneratedText second;
         ASSERT_TRUE(generateText("prog", second));
@@ -282,7 +282,7 @@ TEST_F(Driver, TheMapLeadsFromTheSourceToTheUsersCode) {
             const std::string code =
                 place.kind == PastedCode::PROJECT_BLOCK ? project.codeBlocks[static_cast<std::size_t>(place.index)]
                 : place.kind == PastedCode::ENTRY_SLOT
-                    ? project.forms->entries->next->slots[static_cast<std::size_t>(place.index)]
+                    ? project.forms->entries.at(1).slots[static_cast<std::size_t>(place.index)]
                     : findName(project.forms, place.widget, false)->slots[static_cast<std::size_t>(place.index)];
             std::stringstream own(code);
             std::string line;

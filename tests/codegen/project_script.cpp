@@ -58,7 +58,6 @@ struct Script {
     std::vector<WidgetNode*> levels; // the widget last named at each depth
     WidgetNode* widget = nullptr;
     MenuEntryRec* entry = nullptr;
-    ListEntryRec* listEntry = nullptr;
 
     void setProject(std::string line) {
         const std::map<std::string, int*> fields = {
@@ -121,7 +120,6 @@ struct Script {
 
     void addWidget(WidgetType type, const std::string& name, std::size_t depth) {
         entry = nullptr;
-        listEntry = nullptr;
         if (type == TYPE_FORM) {
             addForm(name);
         } else if (type == TYPE_MAIN_PANEL) {
@@ -138,28 +136,25 @@ struct Script {
     }
 
     void addEntry(std::string line) {
-        MenuEntryRec* added = new MenuEntryRec;
-        added->kind = std::stoi(firstWord(line));
-        added->level = std::stoi(firstWord(line));
+        MenuEntryRec& added = widget->entries.emplace_back();
+        added.kind = std::stoi(firstWord(line));
+        added.level = std::stoi(firstWord(line));
         std::vector<std::string> parts = pieces(line);
         parts.resize(7);
-        added->name = parts[0];
-        added->label = parts[1];
-        added->accel = parts[2].empty() ? 0 : std::stoi(parts[2]);
-        added->help = parts[3];
-        added->icon1 = parts[4];
-        added->icon2 = parts[5];
-        added->icon3 = parts[6];
-        (entry != nullptr ? entry->next : widget->entries) = added;
-        entry = added;
+        added.name = parts[0];
+        added.label = parts[1];
+        added.accel = parts[2].empty() ? 0 : std::stoi(parts[2]);
+        added.help = parts[3];
+        added.icon1 = parts[4];
+        added.icon2 = parts[5];
+        added.icon3 = parts[6];
+        entry = &added;
     }
 
     void addListEntry(const std::string& line) {
         std::vector<std::string> parts = pieces(line);
         parts.resize(2);
-        ListEntryRec* added = new ListEntryRec{parts[0], parts[1], nullptr};
-        (listEntry != nullptr ? listEntry->next : widget->listEntries) = added;
-        listEntry = added;
+        widget->listEntries.push_back({parts[0], parts[1]});
     }
 
     void addStatusBar(const std::string& line) {

@@ -52,12 +52,10 @@ WidgetNode* addWidget(WidgetNode& parent, WidgetType type, const char* name) {
     return node;
 }
 
-MenuEntryRec* entry(const char* name, int kind, int level, MenuEntryRec* next = nullptr) {
-    auto* made = new MenuEntryRec;
-    made->name = made->label = name;
-    made->kind = kind;
-    made->level = level;
-    made->next = next;
+MenuEntryRec entry(const char* name, int kind) {
+    MenuEntryRec made;
+    made.name = made.label = name;
+    made.kind = kind;
     return made;
 }
 
@@ -71,10 +69,10 @@ struct NavigationTest : BuildRoom, testing::WithParamInterface<int> {
         WidgetNode* first = newForm();
         renameNode(*first, "Form1");
         first->formType = FORM_MASTER_SDI;
-        first->entries = entry("Form1_Bar", MENU_BAR, 0, entry("Form1_Save", MENU_ENTRY, 0));
+        first->entries = {entry("Form1_Bar", MENU_BAR), entry("Form1_Save", MENU_ENTRY)};
         addWidget(*first->child, TYPE_BUTTON, "Button12");
         addWidget(*first->child, TYPE_BUTTON, "Button1");
-        addWidget(*first->child, TYPE_TREE_VIEW, "Tree1")->entries = entry("Tree1_Leaf", MENU_ENTRY, 0);
+        addWidget(*first->child, TYPE_TREE_VIEW, "Tree1")->entries = {entry("Tree1_Leaf", MENU_ENTRY)};
         WidgetNode* second = newForm();
         renameNode(*second, "Form2");
         second->formType = FORM_STATIC_SDI;
@@ -103,8 +101,7 @@ struct NavigationTest : BuildRoom, testing::WithParamInterface<int> {
         if (place.place == CodePlace::block) return project.codeBlocks[static_cast<size_t>(place.index)];
         WidgetNode* node = findName(project.forms, place.widget, false);
         if (place.place == CodePlace::widgetSlot) return node->slots[static_cast<size_t>(place.index)];
-        MenuEntryRec* at = node->entries;
-        while (at->name != place.entry) at = at->next;
+        const auto at = std::ranges::find(node->entries, place.entry, &MenuEntryRec::name);
         return at->slots[static_cast<size_t>(place.index)];
     }
     static void expectPlace(const CodeLocation& found, const Place& place, const std::string& how) {

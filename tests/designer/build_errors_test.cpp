@@ -36,13 +36,12 @@ struct BuildErrors : testing::Test {
         preferences.generateSavesProject = 0;
         project.sourceDir = scratch.path.string();
         project.sourceName = "app.f90";
-        auto* bar = new MenuEntryRec;
-        bar->name = "Form1_Bar";
-        bar->kind = MENU_BAR;
-        bar->next = new MenuEntryRec;
-        bar->next->name = bar->next->label = "Form1_Save";
-        bar->next->kind = MENU_ENTRY;
-        project.forms->entries = bar;
+        MenuEntryRec bar, save;
+        bar.name = "Form1_Bar";
+        bar.kind = MENU_BAR;
+        save.name = save.label = "Form1_Save";
+        save.kind = MENU_ENTRY;
+        project.forms->entries = {bar, save};
     }
     void TearDown() override {
         if (started) endDesigner();
@@ -78,7 +77,7 @@ TEST_F(BuildErrors, LeadToTheirPlacesInTheEditor) {
     EXPECT_EQ(project.currentWidget, form);
     EXPECT_EQ(behindCaret(), "garbage here ?");
 
-    buildWith(form->entries->next->slots[ENTRY_GENERAL]);
+    buildWith(form->entries[1].slots[ENTRY_GENERAL]);
     EXPECT_EQ(project.currentBlockName, "General Callback");
     EXPECT_EQ(codeEditing.target, EDIT_MENU_SLOT);
     ASSERT_NE(codeEditing.currentEntry, nullptr);

@@ -142,16 +142,12 @@ TEST(Editor, AnyNumberOfLinesIsOneEdit) {
 
 TEST(Editor, CodeOfAMenuEntryReachesTheMenu) {
     Desk desk;
-    auto* bar = new MenuEntryRec;
-    bar->kind = MENU_BAR;
-    MenuEntryRec** end = &bar->next;
+    desk.form->entries.emplace_back().kind = MENU_BAR;
     for (const char* name : {"FileOpen", "FileExit"}) {
-        *end = new MenuEntryRec;
-        (*end)->kind = MENU_ENTRY;
-        (*end)->label = (*end)->name = name;
-        end = &(*end)->next;
+        MenuEntryRec& entry = desk.form->entries.emplace_back();
+        entry.kind = MENU_ENTRY;
+        entry.label = entry.name = name;
     }
-    desk.form->entries = bar;
     selectWidget(desk.form);
     EXPECT_NE(owEnqWidgetStatus(editor.menuTab), OUNSELECTABLE);
     action.status = editor.menuTab;
@@ -163,8 +159,8 @@ TEST(Editor, CodeOfAMenuEntryReachesTheMenu) {
     EXPECT_EQ(textOf(codeText()), "");
     typeCode(desk, "stop");
     selectWidget(desk.form);
-    EXPECT_EQ(bar->next->slots[ENTRY_GENERAL], "call open()");
-    EXPECT_EQ(bar->next->next->slots[ENTRY_GENERAL], "stop");
+    EXPECT_EQ(desk.form->entries[1].slots[ENTRY_GENERAL], "call open()");
+    EXPECT_EQ(desk.form->entries[2].slots[ENTRY_GENERAL], "stop");
     EXPECT_EQ(desk.form->slots[SLOT_GENERAL], "");
 }
 

@@ -125,16 +125,11 @@ TEST(Looks, TheIconsOfATreeViewAreWrittenIntoItsEntries) {
     WidgetNode* tree = desk.place(PLACE_TREE, desk.panel, 20, 20);
     ASSERT_TRUE(tree);
     tree->subType = ORESOURCEICONS;
-    MenuEntryRec** end = &tree->entries;
-    for (const int kind : {MENU_BAR, MENU_ENTRY, MENU_ENTRY}) {
-        *end = new MenuEntryRec;
-        (*end)->kind = kind;
-        end = &(*end)->next;
-    }
+    for (const int kind : {MENU_BAR, MENU_ENTRY, MENU_ENTRY}) tree->entries.emplace_back().kind = kind;
     editIcon(*tree, propertyRow(ROW_CLOSE_ICON), {.text = "mthumb", .number = 0, .value = 0});
     EXPECT_EQ(tree->closeIcon, "mthumb");
-    EXPECT_EQ(tree->entries->icon2, "") << "the box itself is no entry";
-    for (const MenuEntryRec* entry = tree->entries->next; entry; entry = entry->next) EXPECT_EQ(entry->icon2, "mthumb");
+    EXPECT_EQ(tree->entries[0].icon2, "") << "the box itself is no entry";
+    for (const int entry : {1, 2}) EXPECT_EQ(tree->entries[entry].icon2, "mthumb");
 }
 
 constexpr int NUMBERS[] = {

@@ -101,13 +101,12 @@ void giveEntries(WidgetNode& form) {
     form.statusBar = std::make_unique<StatusBarRec>();
     form.statusBar->name = "Bar";
     form.statusBar->panes = 1;
-    auto* entry = new MenuEntryRec;
-    entry->kind = MENU_BAR;
-    entry->name = "Menu";
-    entry->next = new MenuEntryRec;
-    entry->next->kind = MENU_ENTRY;
-    entry->next->label = entry->next->name = "File";
-    form.entries = entry;
+    MenuEntryRec bar, file;
+    bar.kind = MENU_BAR;
+    bar.name = "Menu";
+    file.kind = MENU_ENTRY;
+    file.label = file.name = "File";
+    form.entries = {bar, file};
 }
 
 // Every question and refusal gets its first button, OK or Yes.

@@ -8,6 +8,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <algorithm>
+
 namespace robot = orba::testing;
 
 namespace {
@@ -271,37 +273,34 @@ struct EntryRow {
     const char* label;
 };
 
-// A chain of entries, each named after its label.
-MenuEntryRec* chainOf(std::initializer_list<EntryRow> rows) {
-    MenuEntryRec* first = nullptr;
-    MenuEntryRec** end = &first;
+// Entries, each named after its label.
+std::vector<MenuEntryRec> entriesOf(std::initializer_list<EntryRow> rows) {
+    std::vector<MenuEntryRec> entries;
     for (const EntryRow& row : rows) {
-        *end = new MenuEntryRec;
-        (*end)->kind = row.kind;
-        (*end)->level = row.level;
-        (*end)->label = (*end)->name = row.label;
-        end = &(*end)->next;
+        MenuEntryRec& entry = entries.emplace_back();
+        entry.kind = row.kind;
+        entry.level = row.level;
+        entry.label = entry.name = row.label;
     }
-    return first;
+    return entries;
 }
 
-MenuEntryRec* entryOf(const WidgetNode* node, const std::string& label) {
-    MenuEntryRec* entry = node->entries;
-    while (entry && entry->label != label) entry = entry->next;
-    return entry;
+const MenuEntryRec* entryOf(const WidgetNode* node, const std::string& label) {
+    const auto entry = std::ranges::find(node->entries, label, &MenuEntryRec::label);
+    return entry == node->entries.end() ? nullptr : &*entry;
 }
 
 TEST(Surface, MenuOfAFormIsLive) {
     Desk desk;
-    desk.form->entries = chainOf({{MENU_BAR, 0, ""},
-                                  {MENU_ENTRY, 0, "File"},
-                                  {MENU_PULL_DOWN, 1, ""},
-                                  {MENU_ENTRY, 1, "Send"},
-                                  {MENU_PULL_DOWN, 2, ""},
-                                  {MENU_ENTRY, 2, "Mail"},
-                                  {MENU_SEPARATOR, 1, ""},
-                                  {MENU_ENTRY, 1, "Exit"},
-                                  {MENU_ENTRY, 0, "Help"}});
+    desk.form->entries = entriesOf({{MENU_BAR, 0, ""},
+                                    {MENU_ENTRY, 0, "File"},
+                                    {MENU_PULL_DOWN, 1, ""},
+                                    {MENU_ENTRY, 1, "Send"},
+                                    {MENU_PULL_DOWN, 2, ""},
+                                    {MENU_ENTRY, 2, "Mail"},
+                                    {MENU_SEPARATOR, 1, ""},
+                                    {MENU_ENTRY, 1, "Exit"},
+                                    {MENU_ENTRY, 0, "Help"}});
     rebuildWidget(*desk.form);
     desk.run();
     for (const char* label : {"File", "Send", "Mail", "Exit", "Help"}) {
@@ -320,11 +319,11 @@ TEST(Surface, EntriesOfATreeViewAreLive) {
     Desk desk;
     constexpr int PLACE_TREE = TOOL_TREE_VIEW;
     WidgetNode* tree = desk.place(PLACE_TREE, desk.panel, 20, 20);
-    tree->entries = chainOf({{MENU_BAR, 0, ""},
-                             {MENU_ENTRY, 0, "Fruit"},
-                             {MENU_PULL_DOWN, 1, ""},
-                             {MENU_ENTRY, 1, "Apple"},
-                             {MENU_ENTRY, 0, "Stone"}});
+    tree->entries = entriesOf({{MENU_BAR, 0, ""},
+                               {MENU_ENTRY, 0, "Fruit"},
+                               {MENU_PULL_DOWN, 1, ""},
+                               {MENU_ENTRY, 1, "Apple"},
+                               {MENU_ENTRY, 0, "Stone"}});
     rebuildWidget(*tree);
     desk.run();
     for (const char* label : {"Fruit", "Apple", "Stone"}) {

@@ -37,22 +37,15 @@ WidgetNode& put(WidgetNode& parent, WidgetType type, int x, int y, int width, in
 }
 
 void addRows(WidgetNode& list) {
-    for (const char* text : {"beta", "Alpha", "gamma delta"}) {
-        ListEntryRec** end = &list.listEntries;
-        while (*end) end = &(*end)->next;
-        *end = new ListEntryRec{text, "", nullptr};
-    }
+    for (const char* text : {"beta", "Alpha", "gamma delta"}) list.listEntries.push_back({text, ""});
 }
 
 void addEntries(WidgetNode& tree) {
-    MenuEntryRec** end = &tree.entries;
     for (const char* label : {"", "Trunk", "Branch"}) {
-        *end = new MenuEntryRec;
-        MenuEntryRec& entry = **end;
+        MenuEntryRec& entry = tree.entries.emplace_back();
         entry.kind = *label ? MENU_ENTRY : MENU_BAR;
         entry.label = label;
         entry.name = *label ? tree.name + label[0] : "";
-        end = &entry.next;
     }
 }
 

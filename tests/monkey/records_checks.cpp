@@ -65,9 +65,9 @@ void checkNames() {
     forEachRecord([&](const WidgetNode& node) {
         add(node.name);
         if (node.statusBar) add(node.statusBar->name);
-        for (const MenuEntryRec* entry = node.entries; entry; entry = entry->next)
-            if (node.type != TYPE_TREE_VIEW || entry->kind == MENU_ENTRY || entry->kind == MENU_SEPARATOR)
-                add(entry->name);
+        for (const MenuEntryRec& entry : node.entries)
+            if (node.type != TYPE_TREE_VIEW || entry.kind == MENU_ENTRY || entry.kind == MENU_SEPARATOR)
+                add(entry.name);
         if (node.type != TYPE_MAIN_PANEL) expect(!node.name.empty(), "names: a record has none");
     });
 }

@@ -151,9 +151,7 @@ TEST(CodeStores, EntriesAreEditedInACopyAndWrittenBackByName) {
     addEntry(*form, MENU_SEPARATOR, 1, "##sep1", "separator1");
     EXPECT_EQ(offeredEntrySlots(*form), std::vector{ENTRY_GENERAL});
     copyEntriesForEditing(form);
-    int copied = 0;
-    for (const MenuEntryRec* e = codeEditing.entryCopy; e; e = e->next) ++copied;
-    EXPECT_EQ(copied, 3) << "entries and separators";
+    EXPECT_EQ(codeEditing.entryCopy.size(), 3U) << "entries and separators";
     EXPECT_FALSE(bindEntryCode(""));
     EXPECT_FALSE(bindEntryCode("File_Pop1"));
     project.currentBlockName = "Pre Action";
@@ -162,9 +160,8 @@ TEST(CodeStores, EntriesAreEditedInACopyAndWrittenBackByName) {
     EXPECT_EQ(codeEditing.target, EDIT_MENU_SLOT);
     codeEditing.codeModified = true;
     commitCode("stop", 1, 1);
-    const MenuEntryRec* quit = form->entries->next->next->next;
-    EXPECT_EQ(quit->slots[ENTRY_GENERAL], "stop");
-    EXPECT_EQ(form->entries->next->slots[ENTRY_GENERAL], "");
+    EXPECT_EQ(form->entries[3].slots[ENTRY_GENERAL], "stop");
+    EXPECT_EQ(form->entries[1].slots[ENTRY_GENERAL], "");
 
     WidgetNode* tree = addRecord(form->child, TYPE_TREE_VIEW, "Form1_TreeView1");
     addEntry(*tree, MENU_ENTRY, 0, "leaf", "leaf");
@@ -176,8 +173,8 @@ TEST(CodeStores, EntriesAreEditedInACopyAndWrittenBackByName) {
     project.currentBlockName = "Drag Drop Callback";
     codeEditing.codeModified = true;
     commitCode("drop", 1, 1);
-    EXPECT_EQ(tree->entries->slots[ENTRY_DRAG_DROP], "drop");
-    EXPECT_EQ(tree->entries->slots[ENTRY_DOUBLE_CLICK], "");
+    EXPECT_EQ(tree->entries[0].slots[ENTRY_DRAG_DROP], "drop");
+    EXPECT_EQ(tree->entries[0].slots[ENTRY_DOUBLE_CLICK], "");
     freshProject();
 }
 

@@ -144,7 +144,7 @@ TEST(CopiedNames, ACopyNeverSharesANameWhereverItStands) {
                 nameCopies({copy});
                 expectNamesOnce();
                 EXPECT_EQ(panel->name, "Form1_Panel1") << "the original keeps its name";
-                EXPECT_EQ(tree->entries->name, "Form1_Apple");
+                EXPECT_EQ(tree->entries[0].name, "Form1_Apple");
                 EXPECT_EQ(copy->name.substr(0, 6), otherForm ? "Form2_" : "Form1_");
             }
     freshProject();

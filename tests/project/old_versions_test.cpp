@@ -69,9 +69,9 @@ void fillProject() {
     }
     addEntry(*project.forms, MENU_BAR, 0, "", "Form1_Menubar");
     addEntry(*project.forms, MENU_ENTRY, 0, "File", "Form1_File");
-    for (MenuEntryRec* e = project.forms->entries; e; e = e->next) {
-        e->help = e->icon1 = e->icon2 = e->icon3 = "x";
-        for (std::string& slot : e->slots) slot = "a~b^c";
+    for (MenuEntryRec& e : project.forms->entries) {
+        e.help = e.icon1 = e.icon2 = e.icon3 = "x";
+        for (std::string& slot : e.slots) slot = "a~b^c";
     }
     addListEntry(*findName(project.forms, "Form1_List1", false), "row", "icon");
     for (CodeBlock& block : project.codeBlocks) block = "call~it^now";
@@ -201,19 +201,19 @@ TEST_P(OldVersion, CodeIsReadIntoItsSlotsAndBlocks) {
     for (int slot = 0; slot < WIDGET_SLOTS; ++slot)
         EXPECT_EQ(button.slots[slot], since<std::string>(firsts[slot], code + std::to_string(slot), "")) << slot;
 
-    const MenuEntryRec* entry = project.forms->entries;
-    ASSERT_TRUE(entry && entry->next);
-    EXPECT_EQ(entry->name, "Form1_Menubar");
-    EXPECT_EQ(entry->next->label, "File");
-    EXPECT_EQ(entry->next->kind, MENU_ENTRY);
-    EXPECT_EQ(entry->next->help, since<std::string>(21, "x", ""));
-    EXPECT_EQ(entry->next->icon3, since<std::string>(50, "x", ""));
-    EXPECT_EQ(entry->next->slots[ENTRY_GENERAL], code);
-    EXPECT_EQ(entry->next->slots[ENTRY_DRAG_DROP], since<std::string>(50, code, ""));
-    const ListEntryRec* row = record("Form1_List1")->listEntries;
-    ASSERT_TRUE(row);
-    EXPECT_EQ(row->text, "row");
-    EXPECT_EQ(row->icon, since<std::string>(50, "icon", ""));
+    ASSERT_EQ(project.forms->entries.size(), 2U);
+    EXPECT_EQ(project.forms->entries[0].name, "Form1_Menubar");
+    const MenuEntryRec& entry = project.forms->entries[1];
+    EXPECT_EQ(entry.label, "File");
+    EXPECT_EQ(entry.kind, MENU_ENTRY);
+    EXPECT_EQ(entry.help, since<std::string>(21, "x", ""));
+    EXPECT_EQ(entry.icon3, since<std::string>(50, "x", ""));
+    EXPECT_EQ(entry.slots[ENTRY_GENERAL], code);
+    EXPECT_EQ(entry.slots[ENTRY_DRAG_DROP], since<std::string>(50, code, ""));
+    const std::vector<ListEntryRec>& rows = record("Form1_List1")->listEntries;
+    ASSERT_EQ(rows.size(), 1U);
+    EXPECT_EQ(rows[0].text, "row");
+    EXPECT_EQ(rows[0].icon, since<std::string>(50, "icon", ""));
 
     const std::string block = version < 71 ? "call|it\tnow" : "call~it^now";
     const int blockFirsts[] = {30, 51, 10, 10, 20, 10, 30, 10, 21};

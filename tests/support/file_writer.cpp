@@ -162,16 +162,16 @@ void record(Stream& s, const WidgetNode& n) {
         s.num(n.statusBar->panes);
         s.str(n.statusBar->name);
     }
-    if (n.entries) s.key("MENU");
-    for (const MenuEntryRec* e = n.entries; e; e = e->next) {
-        entry(s, *e);
-        s.key(e->next ? "NEXT" : "END");
+    if (!n.entries.empty()) s.key("MENU");
+    for (const MenuEntryRec& e : n.entries) {
+        entry(s, e);
+        s.key(&e != &n.entries.back() ? "NEXT" : "END");
     }
-    if (n.listEntries) s.key("LIST");
-    for (const ListEntryRec* e = n.listEntries; e; e = e->next) {
-        s.str(e->text);
-        if (s.from(50)) s.str(e->icon);
-        s.key(e->next ? "NEXT" : "END");
+    if (!n.listEntries.empty()) s.key("LIST");
+    for (const ListEntryRec& e : n.listEntries) {
+        s.str(e.text);
+        if (s.from(50)) s.str(e.icon);
+        s.key(&e != &n.listEntries.back() ? "NEXT" : "END");
     }
     if (n.child) {
         s.key("CHILD");

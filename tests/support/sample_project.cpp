@@ -118,8 +118,8 @@ struct Maker {
             addEntry(n, MENU_BAR, 0, "", n.name + "_Menubar");
             for (int i = number(0, 5); i > 0; --i)
                 addEntry(n, number(MENU_PULL_DOWN, MENU_SEPARATOR), number(0, 3), text(9), n.name + std::to_string(i));
-            for (MenuEntryRec* e = n.entries; e; e = e->next)
-                for (std::string& slot : e->slots) code(slot);
+            for (MenuEntryRec& e : n.entries)
+                for (std::string& slot : e.slots) code(slot);
         }
         if (n.type == TYPE_FORM && chance(60)) {
             n.statusBar = std::make_unique<StatusBarRec>();
@@ -152,20 +152,15 @@ WidgetNode* addRecord(WidgetNode* parent, WidgetType type, const std::string& na
 }
 
 void addEntry(WidgetNode& owner, int kind, int level, const std::string& label, const std::string& name) {
-    auto* entry = new MenuEntryRec();
-    entry->kind = kind;
-    entry->level = level;
-    entry->label = label;
-    entry->name = name;
-    MenuEntryRec** link = &owner.entries;
-    while (*link) link = &(*link)->next;
-    *link = entry;
+    MenuEntryRec& entry = owner.entries.emplace_back();
+    entry.kind = kind;
+    entry.level = level;
+    entry.label = label;
+    entry.name = name;
 }
 
 void addListEntry(WidgetNode& owner, const std::string& text, const std::string& icon) {
-    ListEntryRec** link = &owner.listEntries;
-    while (*link) link = &(*link)->next;
-    *link = new ListEntryRec{text, icon, nullptr};
+    owner.listEntries.push_back({text, icon});
 }
 
 WidgetNode* freshProject() {

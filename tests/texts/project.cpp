@@ -94,15 +94,13 @@ struct Maker {
     }
 };
 
-MenuEntryRec* append(WidgetNode& owner, int kind, int level, const std::string& name, const std::string& label) {
-    MenuEntryRec** end = &owner.entries;
-    while (*end != nullptr) end = &(*end)->next;
-    *end = new MenuEntryRec;
-    (*end)->kind = kind;
-    (*end)->level = level;
-    (*end)->name = name;
-    (*end)->label = label;
-    return *end;
+MenuEntryRec& append(WidgetNode& owner, int kind, int level, const std::string& name, const std::string& label) {
+    MenuEntryRec& entry = owner.entries.emplace_back();
+    entry.kind = kind;
+    entry.level = level;
+    entry.name = name;
+    entry.label = label;
+    return entry;
 }
 
 void addMenu(Maker& m, WidgetNode& form) {
@@ -110,7 +108,7 @@ void addMenu(Maker& m, WidgetNode& form) {
     append(form, MENU_BAR, 0, bar, "");
     append(form, MENU_ENTRY, 0, bar + "1", m.type("Menu entry", "entry", firstBarAsTab));
     append(form, MENU_PULL_DOWN, 1, bar + "Down", "");
-    append(form, MENU_ENTRY, 1, bar + "2", m.type("Menu entry below", "entry", firstBarAsTab))->help =
+    append(form, MENU_ENTRY, 1, bar + "2", m.type("Menu entry below", "entry", firstBarAsTab)).help =
         m.type("Help of a menu entry", "tip", barsAsLines);
 }
 
