@@ -5,6 +5,7 @@
 #include "project/tree.h"
 #include "project/widget_types.h"
 #include "surface/live.h"
+#include "surface/live_types.h"
 #include "surface/state.h"
 
 namespace {
@@ -36,10 +37,15 @@ After afterOf(const WidgetNode& target, const PropertyRow& row) {
 void storeAndFollow(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     store(target, row, input);
     const bool shows = row.after != After::Font || bearsFont(target);
-    if (row.keyword && row.whole && shows) setLive(target, row.keyword, target.*row.whole);
+    const int keyword = liveKeyword(target, row);
+    if (keyword && row.whole && shows) setLive(target, keyword, target.*row.whole);
     if (row.id == ROW_FORM_TITLE_BAR || row.id == ROW_BAR_TITLE_BAR) activateWidget(&target);
     follow(target, afterOf(target, row));
     markEdited();
+}
+
+int liveKeyword(const WidgetNode& target, const PropertyRow& row) {
+    return row.keyword == PropertyRow::AS_CREATED ? createdKeyword(target.type, row.whole) : row.keyword;
 }
 
 void setLive(const WidgetNode& node, int keyword, int value) {

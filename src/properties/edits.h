@@ -69,8 +69,9 @@ bool mayReplaceEntryIcons(const WidgetNode& treeView, int position);
 // Stores the value in the row's field, sets the live property and does what the row says follows.
 void storeAndFollow(WidgetNode& target, const PropertyRow& row, const CellInput& input);
 
-void setLive(const WidgetNode& node, int keyword, int value); // one property of the live widget
-void rebuildLive(WidgetNode& node);                           // these three do nothing while defaults are edited
+int liveKeyword(const WidgetNode& target, const PropertyRow& row); // of the row's property; 0 for none
+void setLive(const WidgetNode& node, int keyword, int value);      // one property of the live widget
+void rebuildLive(WidgetNode& node);                                // these three do nothing while defaults are edited
 void redrawLive(WidgetNode& node);
 void rebuildFormOf(WidgetNode& node); // and gives `node` the focus
 void markEdited();

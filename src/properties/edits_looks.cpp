@@ -90,7 +90,7 @@ void editColour(WidgetNode& target, const PropertyRow& row, const CellInput& inp
     const bool hadImage = framesImage && !painted.icon.empty();
     if (hadImage) removeImage(painted);
     if (row.id == ROW_FORM_COLOUR && design.defaultsMode) target.backgroundImage.clear();
-    setLive(painted, row.keyword, input.value);
+    setLive(painted, liveKeyword(painted, row), input.value);
     const bool lines = isText(target) && row.id == ROW_TEXT_COLOUR && !isSingleLine(target);
     if (hadImage || lines)
         rebuildLive(target);

@@ -167,12 +167,14 @@ struct PropertyRow {
     NumberFormat number = {};
     int colour = 0;         // colour index shown while the field holds 0
     const char* unset = ""; // text of a colour cell while the field holds 0
-    int keyword = 0;        // property of the live widget
+    int keyword = 0;        // property of the live widget, AS_CREATED for the one that its creation told the field by
     After after = After::Nothing;
     bool onlyChanges = false; // choosing the stored value again does nothing at all
     bool ofTabBox = false;    // on a panel in a tab box, the box is shown and edited
     void (*edit)(WidgetNode& target, const PropertyRow& row,
                  const CellInput& input) = nullptr; // null: store and follow
+
+    static constexpr int AS_CREATED = -1;
 };
 
 const PropertyRow& propertyRow(RowId id);

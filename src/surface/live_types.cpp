@@ -287,6 +287,13 @@ static_assert(Missing<missingRow(TYPES)>::none);
 
 const LiveType* liveType(WidgetType type) { return rowOf(TYPES, type); }
 
+int createdKeyword(WidgetType type, int WidgetNode::*field) {
+    const AttributesOfType* known = attributesOf(type);
+    if (!known) return 0;
+    const auto told = std::ranges::find(known->attributes, field, &Attribute::whole);
+    return told == known->attributes.end() ? 0 : NUMBERS[static_cast<size_t>(told->keyword)];
+}
+
 int createStandIn(const WidgetNode& n, int parent) {
     return owCreatePanel(parent, BOX(n), owTitle, n.name.c_str(), owBorderType, OSINGLE, owVpos, n.vpos, owHpos, n.hpos,
                          owExpand, n.expand, 0);

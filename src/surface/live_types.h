@@ -19,6 +19,9 @@ const LiveType* liveType(WidgetType type); // null for a type that is none or un
 // A bordered box with the widget's name, for a type that the toolkit refused.
 int createStandIn(const WidgetNode& node, int parent);
 
+// The keyword by which the creation call tells a field, as a program's does; 0 for none.
+int createdKeyword(WidgetType type, int WidgetNode::*field);
+
 void buildLiveMenu(WidgetNode& form);      // menu bar of a form
 void buildLiveStatusBar(WidgetNode& form); // status bar of a form
 void buildLiveTree(WidgetNode& treeView);  // entries of a tree view

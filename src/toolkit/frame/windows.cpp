@@ -18,6 +18,8 @@ namespace orba {
 namespace {
 
 constexpr int ACTIVATION_RETRY = 120; // milliseconds
+constexpr int FRAMED = 100;           // milliseconds from the showing of a window until it has its frame
+constexpr Qt::WindowStates FITTED_ELSEWHERE = Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen;
 
 QSize screenSize() { return QGuiApplication::primaryScreen()->geometry().size(); }
 
@@ -72,6 +74,17 @@ void closeRequested(Widget& window) {
     }
     post(window, Slot::general, OCLOSED);
     obeyQuitMode(window);
+}
+
+// A window that is still being fitted when the window manager frames it gets its frame where its client was to be. Once
+// the frame is known it is brought to its place.
+void placeOnceFramed(const Widget& window) {
+    if (windowData(window).frame) return;
+    QTimer::singleShot(FRAMED, window.view, [handle = window.handle] {
+        Widget* framed = widgetOf(handle);
+        if (!framed || !framed->view->isVisible() || framed->view->windowState() & FITTED_ELSEWHERE) return;
+        if (isSettling(*framed) && framed->view->pos() != topLeftOf(*framed)) moveWindow(*framed);
+    });
 }
 
 ProgramDoing activation; // by the program: what Qt tells of it for a while is no user's doing
@@ -173,7 +186,10 @@ void showWindow(Widget& window, bool front) {
         window.view->show();
         // Only on the screen do the bars have their final height.
         QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        if (first) fitWindow(window);
+        if (first) {
+            fitWindow(window);
+            placeOnceFramed(window);
+        }
     }
     window.view->update();
     if (!front) return;
