@@ -10,8 +10,10 @@
 #include <cstdlib>
 #include <string>
 
-static const char FILE_NAME[] = "wdesign.prf";
-static constexpr std::size_t SLOT_BYTES = 25;
+namespace {
+
+const char FILE_NAME[] = "wdesign.prf";
+constexpr std::size_t SLOT_BYTES = 25;
 
 // How a field stands in its slot. The file holds "place once" where the program holds "repeat placement".
 enum FieldKind { FIELD_NUMBER, FIELD_NEGATED, FIELD_TEXT };
@@ -22,11 +24,11 @@ struct PreferenceField {
     int least = 0, most = 1;  // a number outside them is damage
 };
 
-static constexpr int LONGEST_BACKUP = 24 * 60; // minutes
-static constexpr int WIDEST_INDENT = 99;       // blanks
+constexpr int LONGEST_BACKUP = 24 * 60; // minutes
+constexpr int WIDEST_INDENT = 99;       // blanks
 
 // In file order.
-static constexpr PreferenceField FIELDS[] = {
+constexpr PreferenceField FIELDS[] = {
     {FIELD_NEGATED, &Preferences::repeatPlacement},
     {FIELD_NUMBER, &Preferences::argumentPrompts},
     {FIELD_NUMBER, &Preferences::delDeletes},
@@ -44,7 +46,7 @@ static constexpr PreferenceField FIELDS[] = {
     {FIELD_NUMBER, &Preferences::tabSpaces, 0, WIDEST_INDENT},
     {FIELD_NUMBER, &Preferences::replaceTab},
 };
-static constexpr bool eachStandsOnce() {
+constexpr bool eachStandsOnce() {
     for (const PreferenceField& field : FIELDS)
         for (const PreferenceField* other = &field + 1; other != std::end(FIELDS); ++other)
             if (field.number == other->number) return false;
@@ -52,12 +54,12 @@ static constexpr bool eachStandsOnce() {
 }
 static_assert(std::size(FIELDS) == 16 && eachStandsOnce());
 
-static bool printable(const std::string& text) {
+bool printable(const std::string& text) {
     return std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 127; });
 }
 
 // What no user can have set leaves the field at its default.
-static void takeField(Preferences& values, const PreferenceField& field, const std::string& text) {
+void takeField(Preferences& values, const PreferenceField& field, const std::string& text) {
     if (field.kind == FIELD_TEXT) {
         if (printable(text)) values.configDirExpr = text;
         return;
@@ -68,11 +70,13 @@ static void takeField(Preferences& values, const PreferenceField& field, const s
     values.*field.number = field.kind == FIELD_NEGATED ? number == 0 : static_cast<int>(number);
 }
 
-static std::string fieldText(const Preferences& values, const PreferenceField& field) {
+std::string fieldText(const Preferences& values, const PreferenceField& field) {
     if (field.kind == FIELD_TEXT) return std::string(cutBetweenLetters(values.configDirExpr, SLOT_BYTES - 1));
     const int number = values.*field.number;
     return std::to_string(field.kind == FIELD_NEGATED ? static_cast<int>(number == 0) : number);
 }
+
+} // namespace
 
 void loadPreferences(int defaultPointSize) {
     preferences = {};

@@ -10,20 +10,22 @@
 #include <sstream>
 #include <vector>
 
-static const char FILE_NAME[] = "wdesign.lst";
-static constexpr std::size_t LINE_LIMIT = 254; // bytes of a path; a line with its end has one more
+namespace {
 
-static std::vector<std::string> paths; // as the menu shows them
-static std::vector<int> menuHandles;   // the separator and the entries
+const char FILE_NAME[] = "wdesign.lst";
+constexpr std::size_t LINE_LIMIT = 254; // bytes of a path; a line with its end has one more
+
+std::vector<std::string> paths; // as the menu shows them
+std::vector<int> menuHandles;   // the separator and the entries
 
 // A row that names a project from wherever the designer is started. A path that is cut would name another file.
-static bool usable(const std::string& line) {
+bool usable(const std::string& line) {
     const bool plain = std::none_of(line.begin(), line.end(), [](unsigned char c) { return c < ' '; });
     return plain && line.size() <= LINE_LIMIT && isAbsolutePath(line);
 }
 
 // False when there is no list.
-static bool readList(std::vector<std::string>& lines) {
+bool readList(std::vector<std::string>& lines) {
     std::string text;
     if (settingsPlaces.dataDir.empty() || !readTextFile(settingsFileToWrite(FILE_NAME), text)) return false;
     std::istringstream stream(text);
@@ -36,11 +38,13 @@ static bool readList(std::vector<std::string>& lines) {
 }
 
 // Behind a bar an entry shows its key, so a bar in a name is shown as a broken one.
-static std::string caption(std::size_t row) {
+std::string caption(std::size_t row) {
     std::string text = std::to_string(row + 1) + " " + paths[row];
     for (std::size_t at = text.find('|'); at != text.npos; at = text.find('|', at)) text.replace(at, 1, "\u00A6");
     return text;
 }
+
+} // namespace
 
 void loadRecentProjects(int menu) {
     paths.clear();
@@ -54,11 +58,15 @@ void loadRecentProjects(int menu) {
     }
 }
 
-static void eraseEntries() {
+namespace {
+
+void eraseEntries() {
     for (const int handle : menuHandles) owEraseWidget(handle);
     menuHandles.clear();
     paths.clear();
 }
+
+} // namespace
 
 void addRecentProject(int menu, const std::string& path) {
     const std::string whole = absolutePath(path);

@@ -15,7 +15,9 @@
 #include <string>
 #include <vector>
 
-static const char FILE_NAME[] = "wdesign.ini";
+namespace {
+
+const char FILE_NAME[] = "wdesign.ini";
 
 enum WindowKind { KIND_WINDOW, KIND_PANE, KIND_BAR };
 
@@ -25,7 +27,7 @@ struct WindowRowInfo {
     WindowState fallback; // -1 as size of the master window: what the screen leaves
 };
 
-static constexpr WindowRowInfo ROWS[] = {
+constexpr WindowRowInfo ROWS[] = {
     {WINDOW_MASTER, KIND_WINDOW, {4, 42, -1, -1, 4}},
     {WINDOW_PROPERTIES, KIND_PANE, {0, 0, 235, 513, POSITION_RIGHT}},
     {WINDOW_HIERARCHY, KIND_PANE, {0, 0, 150, 513, POSITION_LEFT}},
@@ -35,14 +37,14 @@ static constexpr WindowRowInfo ROWS[] = {
     {WINDOW_TOOL_BOX, KIND_BAR, {0, 0, 1000, 0, POSITION_TOP}},
     {WINDOW_COMPILER_LOG, KIND_PANE, {0, 0, 800, 119, POSITION_BOTTOM}},
 };
-static constexpr bool rowsMatch() {
+constexpr bool rowsMatch() {
     for (int row = 0; row < WINDOW_ROWS; row++)
         if (ROWS[row].row != row) return false;
     return true;
 }
 static_assert(sizeof ROWS / sizeof *ROWS == WINDOW_ROWS && rowsMatch());
 
-static WindowState fallbackOf(const WindowRowInfo& info, int screenWidth, int screenHeight) {
+WindowState fallbackOf(const WindowRowInfo& info, int screenWidth, int screenHeight) {
     WindowState state = info.fallback;
     if (info.row == WINDOW_MASTER) {
         state.width = screenWidth - 8;
@@ -53,13 +55,13 @@ static WindowState fallbackOf(const WindowRowInfo& info, int screenWidth, int sc
 
 // ---- Reading ----
 
-static constexpr int LARGEST_NUMBER = 999999; // that a row can hold
-static constexpr std::size_t FILE_LIMIT = 1 << 16;
+constexpr int LARGEST_NUMBER = 999999; // that a row can hold
+constexpr std::size_t FILE_LIMIT = 1 << 16;
 
 using Row = std::vector<int>;
 
 // The numbers of a line; nothing when something else stands there.
-static std::optional<Row> numbersOf(const std::string& line) {
+std::optional<Row> numbersOf(const std::string& line) {
     std::istringstream words(line);
     Row numbers;
     std::string word;
@@ -74,11 +76,11 @@ static std::optional<Row> numbersOf(const std::string& line) {
 }
 
 // The editor's row ends with the size of the code font; the preferences hold the one in force.
-static std::size_t numbersIn(WindowRow row) { return row == WINDOW_CODE_EDITOR ? 6 : 5; }
+std::size_t numbersIn(WindowRow row) { return row == WINDOW_CODE_EDITOR ? 6 : 5; }
 
 // A row stands on its line, so that one that is damaged costs no other. In a file of numbers alone the lines may be
 // broken anywhere, if they come to all the rows.
-static std::vector<Row> readRows() {
+std::vector<Row> readRows() {
     std::vector<Row> rows;
     std::string text, line;
     readTextFile(settingsFileToRead(FILE_NAME), text, FILE_LIMIT);
@@ -99,12 +101,12 @@ static std::vector<Row> readRows() {
     return rows;
 }
 
-static bool knownState(int state, WindowKind kind) {
+bool knownState(int state, WindowKind kind) {
     return kind == KIND_WINDOW ? state >= 0 : state >= POSITION_BOTTOM && state <= POSITION_FLOATING;
 }
 
 // False when the row cannot be shown.
-static bool takeRow(const Row& row, const WindowRowInfo& info, WindowState& state) {
+bool takeRow(const Row& row, const WindowRowInfo& info, WindowState& state) {
     if (row.size() < numbersIn(info.row)) return false;
     state = {.x = row[0], .y = row[1], .width = row[2], .height = row[3], .state = row[4]};
     const bool sized = state.width > 0 && (info.kind == KIND_BAR ? state.height >= 0 : state.height > 0);
@@ -112,12 +114,14 @@ static bool takeRow(const Row& row, const WindowRowInfo& info, WindowState& stat
 }
 
 // A window is as large as the screen at most, and then stands inside it.
-static void pullInsideScreen(WindowState& state, WindowKind kind, int screenWidth, int screenHeight) {
+void pullInsideScreen(WindowState& state, WindowKind kind, int screenWidth, int screenHeight) {
     state.width = std::min(state.width, screenWidth);
     state.height = std::min(state.height, screenHeight);
     if (kind != KIND_BAR) state.x = std::clamp(state.x, 0, screenWidth - state.width);
     state.y = std::clamp(state.y, 0, screenHeight - state.height);
 }
+
+} // namespace
 
 void loadWindowStates(int screenWidth, int screenHeight) {
     const std::vector<Row> rows = readRows();
@@ -135,9 +139,11 @@ void loadWindowStates(int screenWidth, int screenHeight) {
 
 // ---- Writing ----
 
+namespace {
+
 // Brings a row up to date from its live window. The rows of the master window and of the Text Editor follow their own
 // events, so they hold what is to be stored.
-static void readLiveWindow(WindowState& state, WindowKind kind) {
+void readLiveWindow(WindowState& state, WindowKind kind) {
     if (state.handle == 0) return;
     if (kind == KIND_BAR) {
         owEnqToolbarPos(state.handle, &state.x, &state.y, &state.width, &state.state);
@@ -153,7 +159,7 @@ static void readLiveWindow(WindowState& state, WindowKind kind) {
     }
 }
 
-static std::string rowText(WindowRow row, const WindowState& state) {
+std::string rowText(WindowRow row, const WindowState& state) {
     char line[128];
     int length = std::snprintf(line, sizeof line, "%6d %6d %6d %6d %3d", state.x, state.y, state.width, state.height,
                                state.state);
@@ -162,6 +168,8 @@ static std::string rowText(WindowRow row, const WindowState& state) {
                                 preferences.codePointSize);
     return std::string(line, static_cast<std::size_t>(length)) + '\n';
 }
+
+} // namespace
 
 void saveWindowStates() {
     for (const WindowRowInfo& info : ROWS) readLiveWindow(windowStates[info.row], info.kind);

@@ -1,6 +1,8 @@
 #include "compile/message_lines.h"
 
-static constexpr BuildStep STEPS[] = {
+namespace {
+
+constexpr BuildStep STEPS[] = {
     {StepKind::eachSource,
      R"(f90 -c "{src}"{m64} -o "{obj}"{cflags}{dirs} -p "{sourceDir}" -p "{lib}" -p "{lib}\modules")", " -p {dir}"},
     {StepKind::withResource, R"(rc -v "{rcFile}")"},
@@ -8,12 +10,14 @@ static constexpr BuildStep STEPS[] = {
      R"(f90{m64}{dirs}{cflags} -p "{sourceDir}" -p "{lib}" -p "{lib}\modules" -o "{exe}" "{main}"{res}{objs}{objects}{files}{libraries}{linkWords})",
      R"( -p "{dir}")"},
 };
-static constexpr LanguageSteps ALL_LANGUAGES[] = {{0, STEPS}};
+constexpr LanguageSteps ALL_LANGUAGES[] = {{0, STEPS}};
 
-static MessagePosition position(const std::string& message) {
+MessagePosition position(const std::string& message) {
     const size_t words = message.find("on line");
     return words == std::string::npos ? MessagePosition{} : lineAt(message, words + 8);
 }
+
+} // namespace
 
 constinit const Compiler compilers::ABSOFT = {
     .profile = COMPILER_ABSOFT,
