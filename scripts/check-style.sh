@@ -20,7 +20,7 @@ came=$(git diff -U0 "$base" -- "${files[@]}" | grep -E '^\+[^+]' || true)
 if grep -nE '^\+static [^=;]*\(' <<<"$came"; then
   echo "A function of one file stands in an unnamed namespace, not behind \"static\"." && failed=1
 fi
-if grep -nE '[!=]= nullptr' <<<"$came"; then
+if grep -nE '(if|while|for) \(.*[!=]= nullptr|[!=]= nullptr *(&&|\|\||\?)' <<<"$came"; then
   echo "A pointer is its own condition: write \"if (pointer)\" or \"if (!pointer)\"." && failed=1
 fi
 

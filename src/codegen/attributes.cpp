@@ -385,17 +385,17 @@ std::string_view keywordName(Keyword keyword) { return NAMES[static_cast<std::si
 
 const AttributesOfType* attributesOf(WidgetType type) {
     const AttributesOfType* row = rowOf(TYPES, type);
-    return row != nullptr && !row->routine.empty() ? row : nullptr;
+    return row && !row->routine.empty() ? row : nullptr;
 }
 
 bool isTold(const Attribute& attribute, const WidgetNode& node) {
     if (!attribute.lean) return true;
-    return (attribute.when == nullptr || attribute.when(node)) &&
+    return (!attribute.when || attribute.when(node)) &&
            (attribute.standard == Attribute::NO_STANDARD || !isStandard(attribute, node));
 }
 
 bool isStandard(const Attribute& attribute, const WidgetNode& node) {
-    if (attribute.when != nullptr && !attribute.when(node)) return true;
+    if (attribute.when && !attribute.when(node)) return true;
     if (attribute.kind == AttributeKind::EDGE) return node.*attribute.whole != 0;
     if (attribute.otherIsStandard) return nameOf(attribute.names, node.*attribute.whole).empty();
     return attribute.standard != Attribute::NO_STANDARD && node.*attribute.whole == attribute.standard;

@@ -6,7 +6,7 @@ namespace {
 
 void appendName(std::string& to, const Attribute& attribute, const WidgetNode& node, const AttributeForms& forms) {
     std::string_view name = attribute.other;
-    if (attribute.whole != nullptr) name = nameOf(attribute.names, node.*attribute.whole, attribute.other);
+    if (attribute.whole) name = nameOf(attribute.names, node.*attribute.whole, attribute.other);
     if (name.empty()) return;
     const bool behindBlank = name == attribute.*forms.blankAhead;
     put(to, behindBlank ? forms.nameBehindBlank : forms.name, keywordName(attribute.keyword), name);

@@ -47,7 +47,7 @@ void beginDialogue(Generation& g, const WidgetNode& form) {
 }
 
 void writeStatusBar(Generation& g, const WidgetNode& form) {
-    if (form.statusBar == nullptr) return;
+    if (!form.statusBar) return;
     const StatusBarRec& bar = *form.statusBar;
     write(g, "\n// Create Statusbar for %s\n", form.name);
     for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
@@ -90,7 +90,7 @@ void createCForm(Generation& g, const Placed& w) {
     writeNamed(g, "owInitState", INITIAL_STATE, form.initialState);
     if (g.masterWritten) writeNamed(g, "owQuitMode", QUIT_MODE, form.quitMode);
     if (!g.masterWritten && form.buildInfo == 0) write(g, ", owBuildInfo,OOFF");
-    if (form.formType == FORM_MASTER_MDI && form.child != nullptr) writeBackgroundImage(g, *form.child);
+    if (form.formType == FORM_MASTER_MDI && form.child) writeBackgroundImage(g, *form.child);
     endFormWithIcon(g, form);
     g.masterWritten = true;
 

@@ -126,7 +126,7 @@ void checkTexts(TextCheck check, const WidgetNode& node) {
     if (node.type == TYPE_FORM || node.type == TYPE_ICON || node.type == TYPE_GAUGE) check.checkName("Icon", node.icon);
     if (hasNamedImage(node)) check.checkName("Background Image", node.backgroundImage);
     if (node.type == TYPE_PANEL) check.checkName("Tab Icon", node.closeIcon);
-    if (node.statusBar != nullptr) {
+    if (node.statusBar) {
         check.widget = node.statusBar->name;
         for (int pane = 0; pane < std::min(node.statusBar->panes, STATUS_PANES); ++pane) {
             check.checkText("Text", node.statusBar->texts[static_cast<std::size_t>(pane)]);
@@ -178,7 +178,7 @@ void checkImageFiles(TextCheck check, const WidgetNode& node) {
 
 // Only Windows programs have the array that a status bar's panes are sized by.
 void checkPlatform(TextCheck check, const WidgetNode& node) {
-    if (node.statusBar != nullptr && project.projectPlatform != 'w') {
+    if (node.statusBar && project.projectPlatform != 'w') {
         check.widget = node.statusBar->name;
         check.complain("Statusbar", "an X project cannot hold a status bar; delete it");
     }
@@ -207,8 +207,8 @@ void checkLengths(std::vector<Complaint>& complaints) {
         lines = continues(line) ? lines + 1 : 0;
         if (lines != CONTINUATION_LIMIT + 1) continue;
         const WidgetNode* node = findName(project.forms, widget, false);
-        const WidgetNode* form = node != nullptr ? formOf(node, project.forms) : project.forms;
-        complaints.push_back({form->name, widget, node != nullptr ? textProperty(*node) : "",
+        const WidgetNode* form = node ? formOf(node, project.forms) : project.forms;
+        complaints.push_back({form->name, widget, node ? textProperty(*node) : "",
                               "its statement goes on for more than 255 lines, the most of Fortran; shorten the text"});
     }
 }
@@ -228,8 +228,8 @@ std::vector<Complaint> checkProject() {
     checkNames(complaints);
     const WidgetNode* form = nullptr;
     bool master = false;
-    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
-        if (node->parent == nullptr) form = node;
+    for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
+        if (!node->parent) form = node;
         master = master || node->formType == FORM_MASTER_SDI || node->formType == FORM_MASTER_MDI;
         const TextCheck check{complaints, form, node->name};
         checkTexts(check, *node);

@@ -38,7 +38,7 @@ std::unordered_map<std::string, std::string> takenNames() {
     take(language.ownNames, PROGRAM);
     take(language.reservedWords, "the language as a reserved word");
     take(language.libraryNames(), "a routine or constant of the library");
-    for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) {
+    for (const WidgetNode* form = project.forms; form; form = form->next) {
         taken.emplace(sameName("Generate" + form->name), PROGRAM);
     }
     return taken;
@@ -76,10 +76,10 @@ struct NameCheck {
 void checkNames(std::vector<Complaint>& complaints) {
     NameCheck names{complaints, takenNames()};
     const WidgetNode* form = nullptr;
-    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
-        if (node->parent == nullptr) form = node;
+    for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
+        if (!node->parent) form = node;
         names.check(*form, node->name);
-        if (node->type == TYPE_FORM && node->statusBar != nullptr) names.check(*form, node->statusBar->name);
+        if (node->type == TYPE_FORM && node->statusBar) names.check(*form, node->statusBar->name);
         for (const MenuEntryRec& entry : node->entries) {
             const bool structure = entry.kind == MENU_BAR || entry.kind == MENU_PULL_DOWN;
             if (node->type != TYPE_TREE_VIEW || !structure) names.check(*form, entry.name);

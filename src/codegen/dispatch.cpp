@@ -90,7 +90,7 @@ void writeDispatch(Generation& g) {
     g.branchOpen = false;
     g.branchUnended = false;
     for (const WidgetNode* form : g.forms) {
-        for (const WidgetNode* node = form; node != nullptr; node = walkBelow(node, form)) {
+        for (const WidgetNode* node = form; node; node = walkBelow(node, form)) {
             writeWidgetBranches(g, *node);
             writeEntryBranches(g, *node);
             passOn(g);

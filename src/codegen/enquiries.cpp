@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <limits>
 
-bool hasStatusBar(const WidgetNode& form) { return project.projectPlatform == 'w' && form.statusBar != nullptr; }
+bool hasStatusBar(const WidgetNode& form) { return project.projectPlatform == 'w' && form.statusBar; }
 
 // A lone blank is what an empty field of the preferences holds.
 bool checksConfiguration() {
@@ -31,7 +31,7 @@ bool hasListEntries(const WidgetNode& list) {
 
 TypeSet typesBelow(const WidgetNode& form) {
     TypeSet types;
-    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) types.add(node->type);
+    for (const WidgetNode* node = &form; node; node = walkBelow(node, &form)) types.add(node->type);
     return types;
 }
 

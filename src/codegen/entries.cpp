@@ -22,19 +22,19 @@ struct ChainPlace {
         owner = previous = &menu;
         if (menu.kind == MENU_PULL_DOWN) pullDowns[menu.level] = &menu;
     }
-    bool behindMenuBar() const { return previous != nullptr && previous->kind == MENU_BAR; }
+    bool behindMenuBar() const { return previous && previous->kind == MENU_BAR; }
 
     // An entry at the top goes back to the first one, a shallower one to the menu of its level.
     void findOwner(const MenuEntryRec& entry) {
         if (behindMenuBar()) return;
         if (entry.level == 0) {
             owner = first;
-        } else if (previous != nullptr && entry.level < previous->level) {
+        } else if (previous && entry.level < previous->level) {
             const auto menu = pullDowns.find(entry.level);
             if (menu != pullDowns.end()) owner = menu->second;
         }
     }
-    std::string_view ownerName(std::string_view otherwise) const { return owner != nullptr ? owner->name : otherwise; }
+    std::string_view ownerName(std::string_view otherwise) const { return owner ? owner->name : otherwise; }
 };
 
 // A menu entry that opens forms answers a press although it holds no code of its own. A form in a module of its own has
@@ -59,7 +59,7 @@ void writeMenu(Generation& g, const WidgetNode& form) {
             place.openMenu(entry);
             break;
         case MENU_PULL_DOWN:
-            g.language.pullDown(g, entry, place.previous != nullptr ? place.previous->name : form.name);
+            g.language.pullDown(g, entry, place.previous ? place.previous->name : form.name);
             place.openMenu(entry);
             break;
         case MENU_ENTRY:

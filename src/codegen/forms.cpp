@@ -27,8 +27,7 @@ void applySizing(Placed& widget) {
 
 void writeComment(Generation& g, const Placed& widget) {
     const TypeCard& card = cardOf(widget.node);
-    const std::string_view noun =
-        card.nounFixed != nullptr && !g.language.commentsLikeFree ? card.nounFixed : card.noun;
+    const std::string_view noun = card.nounFixed && !g.language.commentsLikeFree ? card.nounFixed : card.noun;
     if (noun.empty()) return;
     if (g.language.commentsLikeFree) {
         write(g, "\n%s Create %s %s child of %s\n", g.facts.comment, noun, widget.node.name, widget.parent);
@@ -62,9 +61,9 @@ void writeStatus(Generation& g, const WidgetNode& node) {
 void writeWidget(Generation& g, const Placed& widget) {
     writeComment(g, widget);
     const CreationRow* creation = rowOf(g.language.creation, widget.node.type);
-    if (creation != nullptr && creation->write != nullptr) {
+    if (creation && creation->write) {
         creation->write(g, widget);
-        if (g.language.furtherProperties != nullptr) g.language.furtherProperties(g, widget);
+        if (g.language.furtherProperties) g.language.furtherProperties(g, widget);
     }
     writeDefineCalls(g, widget.node);
     writeStatus(g, widget.node);
@@ -73,9 +72,9 @@ void writeWidget(Generation& g, const Placed& widget) {
 } // namespace
 
 void writeFormRoutine(Generation& g, const WidgetNode& form) {
-    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
+    for (const WidgetNode* node = &form; node; node = walkBelow(node, &form)) {
         // Tool bars and panes live on the window itself, not on its main panel.
-        const bool onWindow = isBarOrPane(*node) || node->parent == nullptr;
+        const bool onWindow = isBarOrPane(*node) || !node->parent;
         Placed widget{*node, form, onWindow ? form.name : node->parent->name, node->width, node->height};
         applySizing(widget);
         writeWidget(g, widget);
@@ -84,9 +83,9 @@ void writeFormRoutine(Generation& g, const WidgetNode& form) {
 }
 
 void writeIdentifiers(Generation& g, const WidgetNode& form) {
-    for (const WidgetNode* node = &form; node != nullptr; node = walkBelow(node, &form)) {
+    for (const WidgetNode* node = &form; node; node = walkBelow(node, &form)) {
         write(g, g.language.declareWidget, node->name);
-        if (node->type == TYPE_FORM && node->statusBar != nullptr) {
+        if (node->type == TYPE_FORM && node->statusBar) {
             write(g, g.language.declareWidget, node->statusBar->name);
         }
         for (const MenuEntryRec& entry : node->entries) {
@@ -159,7 +158,7 @@ std::string_view parentName(const Generation& g, const WidgetNode& form) {
 
 const WidgetNode* activeOnInit(const Generation& g) {
     for (const WidgetNode* form : g.forms) {
-        for (const WidgetNode* node = form; node != nullptr; node = walkBelow(node, form)) {
+        for (const WidgetNode* node = form; node; node = walkBelow(node, form)) {
             if (node->activeOnInit == 1) return node;
         }
     }

@@ -68,7 +68,7 @@ void writeValue(Generation& g, const WidgetNode& node, const Attribute& attribut
 
 void writeProperty(Generation& g, const WidgetNode& node, const Attribute& attribute) {
     if (attribute.onWindowsOnly && !g.windows) return;
-    if (attribute.when != nullptr && !attribute.when(node)) return;
+    if (attribute.when && !attribute.when(node)) return;
     const auto* row = std::ranges::find_if(PROPERTIES, [&](const NumberedProperty& property) {
         return property.keyword == attribute.keyword && property.types.holds(node.type);
     });
@@ -80,7 +80,7 @@ void writeProperty(Generation& g, const WidgetNode& node, const Attribute& attri
 void writeFurtherProperties(Generation& g, const Placed& widget) {
     const WidgetNode& node = widget.node;
     const AttributesOfType* type = attributesOf(node.type);
-    if (type == nullptr || node.onToolbar == 1) return;
+    if (!type || node.onToolbar == 1) return;
     for (const Attribute& attribute : type->attributes) {
         switch (attribute.keyword) {
         case PLACE: break;

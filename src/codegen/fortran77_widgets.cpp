@@ -120,7 +120,7 @@ void createDialogue(Generation& g, const Placed& w) {
 }
 
 void writeStatusBar(Generation& g, const WidgetNode& form) {
-    if (form.statusBar == nullptr) return;
+    if (!form.statusBar) return;
     const StatusBarRec& bar = *form.statusBar;
     write(g, "\nC Create Statusbar for %s\n", form.name);
     write(g, "      CALL STABAR(%s,0,%s)\n", form.name, bar.name);
@@ -156,7 +156,7 @@ void createForm(Generation& g, const Placed& w) {
         createMaster(g, w);
     }
     g.masterWritten = true;
-    if (g.windows && form.formType == FORM_MASTER_MDI && form.child != nullptr && form.child->format == 1) {
+    if (g.windows && form.formType == FORM_MASTER_MDI && form.child && form.child->format == 1) {
         write(g, "      CALL GUIESC(1300,%s,0,0,0,0,0,IRET1,IRET2,\"%s\")\n", form.parentName,
               form.child->backgroundImage);
     }

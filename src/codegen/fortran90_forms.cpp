@@ -50,7 +50,7 @@ void beginDialogue(Generation& g, const WidgetNode& form) {
 }
 
 void writeStatusBar(Generation& g, const WidgetNode& form) {
-    if (form.statusBar == nullptr) return;
+    if (!form.statusBar) return;
     const StatusBarRec& bar = *form.statusBar;
     write(g, "\n! Create Statusbar for %s\n", form.name);
     for (int pane = 0; pane < bar.panes && pane < STATUS_PANES; ++pane) {
@@ -86,7 +86,7 @@ void createFreeForm(Generation& g, const Placed& w) {
     add(g, ", '%s'", fortranText(form.text));
     if (!isMdiChild(form)) addPosition(g, form);
     if (g.masterWritten) addNamed(g, "owQuitMode", QUIT_MODE, form.quitMode);
-    if (form.formType == FORM_MASTER_MDI && form.child != nullptr) addBackgroundImage(g, *form.child);
+    if (form.formType == FORM_MASTER_MDI && form.child) addBackgroundImage(g, *form.child);
     add(g, ", owInitState=%s", nameOf(INITIAL_STATE, form.initialState, "ONORMAL"));
     if (!g.masterWritten && form.buildInfo == 0) add(g, ", owBuildInfo=OOFF");
     addFormIcon(g, form);

@@ -28,7 +28,7 @@ std::string localTime() {
                                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     const std::time_t now = std::time(nullptr);
     const std::tm* time = std::localtime(&now);
-    if (time == nullptr) return "\n";
+    if (!time) return "\n";
     const auto two = [](int number) { return std::string(number < 10 ? "0" : "") + std::to_string(number); };
     std::string text;
     put(text, "%s %s %2d %s:%s:%s %d\n", DAYS[time->tm_wday], MONTHS[time->tm_mon], time->tm_mday, two(time->tm_hour),
@@ -60,20 +60,20 @@ bool mayBeMaster(const WidgetNode& form) {
 // The form that stands first in the source; the other forms keep their order. Null when none may.
 WidgetNode* findMaster() {
     WidgetNode* form = project.forms;
-    while (form != nullptr && !mayBeMaster(*form)) form = form->next;
+    while (form && !mayBeMaster(*form)) form = form->next;
     return form;
 }
 
 void noteForms(Generation& g, const WidgetNode* master) {
     g.forms.push_back(master);
-    for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) {
+    for (const WidgetNode* form = project.forms; form; form = form->next) {
         if (form != master) g.forms.push_back(form);
     }
     for (const WidgetNode* form : g.forms) g.formsByParent[form->parentName].push_back(form);
 }
 
 bool anyWindowCallback() {
-    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
+    for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
         if (hasWindowCode(*node)) return true;
     }
     return false;
@@ -114,7 +114,7 @@ bool generateText(const std::string& path, GeneratedText& generated, const TextS
     generated.text.clear();
     generated.map.clear();
     const WidgetNode* master = findMaster();
-    if (master == nullptr) return false;
+    if (!master) return false;
 
     const Language& language = languageOf(project.projectLanguage);
     Generation g{.language = language,
@@ -155,7 +155,7 @@ namespace {
 
 // Sizes that the user has dragged on live arrays come into the records.
 void storeArraySizes() {
-    for (WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
+    for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
         if (is(*node, HAS_CELLS)) host.storeArrayGeometry(*node);
     }
 }
@@ -184,7 +184,7 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
     storeArraySizes();
     const TextSink toFile = [&](std::string_view piece) { writeSafeFile(file, piece.data(), piece.size()); };
     GeneratedText own;
-    const bool made = generated != nullptr ? generateText(path, *generated) : generateText(path, own, toFile);
+    const bool made = generated ? generateText(path, *generated) : generateText(path, own, toFile);
     if (!made) {
         abandonSafeFile(file);
         busy.end();
@@ -193,7 +193,7 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
                       "Type of one form to Master, then try again");
         return false;
     }
-    if (generated != nullptr) toFile(generated->text);
+    if (generated) toFile(generated->text);
     const bool written = commitWhatIsNew(file, DATED);
     if (written) {
         markGenerated(fileName);

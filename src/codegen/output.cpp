@@ -14,7 +14,7 @@ File openOne(const std::string& path) { return {openForReading(path), &std::fclo
 bool readLine(std::FILE* file, std::string& line) {
     line.clear();
     char part[4096];
-    while (std::fgets(part, sizeof part, file) != nullptr) {
+    while (std::fgets(part, sizeof part, file)) {
         line += part;
         if (line.back() == '\n') return true;
     }

@@ -126,7 +126,7 @@ bool writeResourceScript(const std::string& base) {
     if (!openSafeFile(file, base + "rc.rc")) return false;
     Script script;
     put(script.text, "CREATEPROCESS_MANIFEST_RESOURCE_ID RT_MANIFEST \"%s.exe.manifest\"\n", doubledBackslashes(base));
-    for (const WidgetNode* node = project.forms; node != nullptr; node = walkList(node, project.forms)) {
+    for (const WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
         addResources(script, *node);
     }
     writeSafeFile(file, script.text.data(), script.text.size());

@@ -163,7 +163,7 @@ TEST_F(Driver, TheMasterStandsFirstFromThenOn) {
         "2001 A\n.formType 0\n2001 B\n.formType 4\n2001 M\n.formType 1\n2001 C\n.formType 0\n.parentName M\n");
     generate();
     std::string order;
-    for (const WidgetNode* form = project.forms; form != nullptr; form = form->next) order += form->name;
+    for (const WidgetNode* form = project.forms; form; form = form->next) order += form->name;
     EXPECT_EQ(order, "MABC");
     // The names that the source gives to parents stay out of the records.
     EXPECT_EQ(findForm(project.forms, "A")->parentName, "NONE");

@@ -86,7 +86,7 @@ struct Script {
         const std::size_t colon = line.find(": ");
         const std::string name = line.substr(0, colon) + " Callback";
         const std::string code = unescaped(line.substr(colon + 2));
-        if (entry != nullptr) {
+        if (entry) {
             ASSERT_GE(entrySlotIndexOf(name), 0) << line;
             entry->slots[static_cast<std::size_t>(entrySlotIndexOf(name))] = code;
         } else {
@@ -99,9 +99,9 @@ struct Script {
         const std::string name = firstWord(line);
         for (const FieldRow& row : recordFields()) {
             if (name != row.name) continue;
-            if (row.number != nullptr) widget->*row.number = std::stoi(line);
-            if (row.real != nullptr) widget->*row.real = std::stof(line);
-            if (row.string != nullptr) widget->*row.string = unescaped(line);
+            if (row.number) widget->*row.number = std::stoi(line);
+            if (row.real) widget->*row.real = std::stof(line);
+            if (row.string) widget->*row.string = unescaped(line);
             return;
         }
         if (name == "text") {
