@@ -201,6 +201,75 @@ TEST(Keys, TheRightButtonIsAKey) {
     EXPECT_EQ(reports(), Ids{1635});
 }
 
+TEST(Keys, OfAWidgetGoBeforeThoseAroundIt) {
+    Toolkit toolkit;
+    const int outer = owCreatePanel(toolkit.panel, 0, 0, 200, 200, 0);
+    const int inner = owCreatePanel(outer, 0, 0, 100, 100, 0);
+    const int inside = owCreateTextEntry(inner, 0, 0, 80, 24, "", 20, OEDIT, 0);
+    const int between = owCreateTextEntry(outer, 0, 120, 80, 24, "", 20, OEDIT, 0);
+    const int outside = owCreateTextEntry(toolkit.panel, 220, 0, 80, 24, "", 20, OEDIT, 0);
+    owDefineKeyCallback('x', 700);
+    owDefineWidgetKeyCallback(outer, 'x', 701);
+    owDefineWidgetKeyCallback(inner, 'x', OLEAVEKEY);
+    const struct {
+        int entry, identifier;
+        const char* text;
+    } rows[] = {{outside, 700, ""}, {between, 701, ""}, {inside, 0, "x"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(owEnqWidgetKeyCallback(row.entry, 'x'), row.identifier);
+        type(row.entry, "x");
+        EXPECT_EQ(identifiers(), row.identifier ? Ids{row.identifier} : Ids{});
+        EXPECT_EQ(shownText(row.entry), QLatin1String(row.text));
+    }
+    owDefineWidgetKeyCallback(inner, 'x', 0);
+    type(inside, "x");
+    EXPECT_EQ(identifiers(), Ids{701}) << "a row taken back leaves the key to the widget around";
+    owDefineWidgetKeyCallback(outer, OKEYRIGHTBUTTON, 702);
+    click(inner, {50, 50}, Qt::RightButton);
+    click(toolkit.panel, {300, 200}, Qt::RightButton);
+    EXPECT_EQ(identifiers(), Ids{702});
+}
+
+TEST(Input, TellsWhereTheFocusHasMoved) {
+    Toolkit toolkit;
+    const int one = owCreateTextEntry(toolkit.panel, 0, 0, 80, 24, "", 20, OEDIT, 0);
+    const int two = owCreateTextEntry(toolkit.panel, 0, 40, 80, 24, "", 20, OEDIT, 0);
+    focus(one);
+    owDefineInputCallback(900);
+    events();
+    click(two);
+    auto all = events();
+    ASSERT_EQ(all.size(), 1U);
+    EXPECT_EQ(all[0].callback, 900);
+    EXPECT_EQ(all[0].widget, two);
+    owSetActiveWidget(one);
+    owSetActiveWidget(two);
+    owSetActiveWidget(one);
+    all = events();
+    ASSERT_EQ(all.size(), 1U) << "only where it has ended";
+    EXPECT_EQ(all[0].widget, one);
+    owDefineInputCallback(0);
+    click(two);
+    EXPECT_EQ(identifiers(), Ids{});
+}
+
+TEST(Input, OfAWindowIsSetWhileAnotherOneIsActive) {
+    Toolkit toolkit;
+    const int here = owCreateTextEntry(toolkit.panel, 0, 0, 80, 24, "", 20, OEDIT, 0);
+    const int next = owCreateTextEntry(toolkit.panel, 0, 40, 80, 24, "", 20, OEDIT, 0);
+    const int window = owCreateComplexDialogueBox(1, 10, 10, 200, 100, OTITLE, "Other", 0);
+    const int there = owCreateTextEntry(window, 0, 0, 80, 24, "", 20, OEDIT, 0);
+    owSetActiveWidget(here);
+    owDrawWindow(window, 1);
+    owSetActiveWidget(there);
+    owSetWindowInput(next);
+    EXPECT_EQ(owEnqActiveWidget(), there);
+    viewOf(window)->window()->hide();
+    viewOf(1)->window()->activateWindow();
+    settle(20);
+    EXPECT_EQ(owEnqActiveWidget(), next);
+}
+
 TEST(Timers, RepeatUntilStopped) {
     Toolkit toolkit;
     owDefineTimerCallback(20, 900);

@@ -16,8 +16,14 @@ namespace {
 using Declarations = std::set<std::string>;
 
 // Entry points that are no rows of the table: they have no Fortran binding.
-const Declarations cOnly = {"int owEnqShiftKey(void)", "int owStopAsked(int)", "void owEnqScreenSize(int*, int*)",
-                            "void owUpdateWindows(void)"};
+const Declarations cOnly = {"int owEnqShiftKey(void)",
+                            "int owStopAsked(int)",
+                            "void owEnqScreenSize(int*, int*)",
+                            "void owUpdateWindows(void)",
+                            "void owDefineWidgetKeyCallback(int, int, int)",
+                            "int owEnqWidgetKeyCallback(int, int)",
+                            "void owDefineInputCallback(int)",
+                            "void owSetWindowInput(int)"};
 
 // A declaration by its types: parameters may bear any name.
 std::string typesOf(const std::string& declaration) {

@@ -216,6 +216,7 @@ int runBox(QDialog& box) {
 void forgetEvents(const Widget& widget) {
     std::erase_if(session.queue, [&widget](const Event& event) { return event.handle == widget.handle; });
     if (session.activeWindow == widget.handle) session.activeWindow = 0;
+    if (session.inputTold == widget.handle) session.inputTold = 0; // another widget may get the number
 }
 
 } // namespace orba

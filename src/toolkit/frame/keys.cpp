@@ -71,6 +71,15 @@ bool isFirstStation(const QObject* target) {
 // Typed characters that share a number with an arrow key are no key of the program's.
 bool namesTypedCharacter(int code, const QKeyEvent& event) { return isArrowCode(code) && !event.text().isEmpty(); }
 
+// What the key sends from `widget`: the innermost one that speaks of it decides, then the program's own keys.
+int identifierOf(const Widget& widget, int code) {
+    for (const Widget* one = &widget; one; one = one->parent) {
+        const auto row = one->keys.find(code);
+        if (row != one->keys.end()) return row.value() == OLEAVEKEY ? 0 : row.value();
+    }
+    return session.keys.value(code);
+}
+
 // True when the program has taken the key.
 bool takeKey(QObject* target, const QKeyEvent& event) {
     const int code = keyCode(event);
@@ -79,7 +88,7 @@ bool takeKey(QObject* target, const QKeyEvent& event) {
     if (boxIsOpen() || namesTypedCharacter(code, event) || !isFirstStation(target)) return false;
     const Widget* widget = widgetAt(target);
     if (!widget) return false;
-    if (const int identifier = session.keys.value(code)) {
+    if (const int identifier = identifierOf(*widget, code)) {
         postIdentifier(identifier, widget->handle, code);
         return true;
     }
@@ -90,10 +99,10 @@ bool takeKey(QObject* target, const QKeyEvent& event) {
 bool takeButton(QObject* target, const QMouseEvent& event) {
     const int code = buttonCode(event.button());
     session.lastKey = code;
-    const int identifier = session.keys.value(code);
-    if (identifier == 0 || boxIsOpen()) return false;
     const Widget* widget = widgetAt(target);
-    if (!widget || !widget->view) return false;
+    if (!widget || !widget->view || boxIsOpen()) return false;
+    const int identifier = identifierOf(*widget, code);
+    if (identifier == 0) return false;
     postIdentifier(identifier, widget->handle, code, 0, widget->view->mapFromGlobal(event.globalPosition()));
     return true;
 }
@@ -135,6 +144,15 @@ private:
 };
 
 InputFilter* filter = nullptr;
+
+// Moves that nobody has read yet count as the last one of them.
+void tellInput(const QWidget* now) {
+    const Widget* widget = now ? widgetAt(now) : nullptr;
+    if (!widget || session.inputIdentifier == 0 || widget->handle == session.inputTold) return;
+    session.inputTold = widget->handle;
+    std::erase_if(session.queue, [](const Event& event) { return event.identifier == session.inputIdentifier; });
+    postIdentifier(session.inputIdentifier, widget->handle, session.lastKey);
+}
 
 struct Timer {
     int identifier;
@@ -297,9 +315,31 @@ bool inputBlocked(const QObject* target) {
     return true;
 }
 
+void defineWidgetKey(int handle, int code, int identifier) {
+    if (Widget* widget = widgetOf(handle)) setKey(widget->keys, code, identifier);
+}
+
+int widgetKey(int handle, int code) {
+    const Widget* widget = widgetOf(handle);
+    return widget ? identifierOf(*widget, code) : 0;
+}
+
+void defineInput(int identifier) {
+    session.inputIdentifier = identifier;
+    session.inputTold = 0;
+}
+
+void setWindowInput(int handle) {
+    const Widget* widget = widgetOf(handle);
+    if (!widget || !widget->view) return;
+    QWidget* target = focusTarget(widget->view);
+    (target ? target : widget->view.data())->setFocus(Qt::OtherFocusReason);
+}
+
 void installInputFilter() {
     if (!filter) filter = new InputFilter;
     qApp->installEventFilter(filter);
+    QObject::connect(qApp, &QApplication::focusChanged, filter, [](QWidget*, QWidget* now) { tellInput(now); });
 }
 
 void removeInputFilter() {

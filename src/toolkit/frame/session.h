@@ -34,7 +34,9 @@ struct Session {
     QHash<int, int> keys;          // key code to identifier
     QHash<int, int> keySelects;
     int lastKey = 0;
-    int activeWindow = 0; // handle that the input is confined to, 0 for none
+    int inputIdentifier = 0; // sent when the focus has moved, 0 for none
+    int inputTold = 0;       // widget that it was sent for last
+    int activeWindow = 0;    // handle that the input is confined to, 0 for none
     int gridColumns = 36;
     int gridRows = 27;
     bool gridCells = false; // numbers are cells

@@ -3,6 +3,7 @@
 
 #include "toolkit/frame/arguments.h"
 
+#include <QHash>
 #include <QPointF>
 #include <QPointer>
 #include <QRect>
@@ -157,6 +158,7 @@ struct Widget {
     QPointer<QWidget> client; // where children live; null: the view itself
     Placement place;
     std::array<int, static_cast<int>(Slot::count)> callbacks{};
+    QHash<int, int> keys; // of its own and of all that lies in it: key code to identifier
     int status = OSELECTABLE;
     int quitMode = OHIDE;
     int titleFlag = OALL;

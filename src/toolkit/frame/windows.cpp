@@ -89,7 +89,16 @@ void placeOnceFramed(const Widget& window) {
 
 ProgramDoing activation; // by the program: what Qt tells of it for a while is no user's doing
 
+// A window that may not have the input now hands it on to the one that has.
+void returnInput(Widget& window) {
+    QTimer::singleShot(0, window.view, [view = window.view.data()] {
+        Widget* holder = widgetOf(session.activeWindow);
+        if (holder && view->isActiveWindow() && inputBlocked(view)) raiseWindow(*holder);
+    });
+}
+
 void activated(Widget& window) {
+    if (inputBlocked(window.view)) returnInput(window);
     if (!activation.settling() && !isSettling(window)) post(window, Slot::select, 1);
 }
 
@@ -203,6 +212,13 @@ void inputByUser() {
     session.expectedFocus = 0;
 }
 
+// A request for another window is under way; a later one has to come behind it.
+static bool otherRequested(const QWidget& top) {
+    const Widget* expected = widgetOf(session.expectedFocus);
+    const QWidget* window = expected && expected->view ? expected->view->window() : nullptr;
+    return window && window != &top && !window->isActiveWindow();
+}
+
 void activateView(QWidget* view) {
     Widget* window = windowOf(widgetAt(view));
     if (!window) return;
@@ -215,7 +231,7 @@ void activateView(QWidget* view) {
             frame->mdiArea()->setActiveSubWindow(frame);
         }
     }
-    if (top->isActiveWindow()) return;
+    if (top->isActiveWindow() && !otherRequested(*top)) return;
     activation.settle();
     session.expectedFocus = widgetAt(view)->handle;
     top->activateWindow();

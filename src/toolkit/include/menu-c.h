@@ -511,6 +511,17 @@ int owStopAsked(int callback); /* as owUpdateWindows, but menus, what calls back
 void owUpdateWindows(void); /* repaints what has changed while a long command runs; input waits for the next owAction */
 void owEnqScreenSize(int* width, int* height); /* of the main screen, in pixels */
 int owEnqShiftKey(void); /* 1 while a Shift key is held down */
+/* A key of a widget's own, for it and all that lies in it: taken like one of owDefineKeyCallback, ahead of that and of
+ * what the widgets around say. OLEAVEKEY leaves the key to the widget that has the focus, 0 takes the row back. */
+#define OLEAVEKEY (-1)
+void owDefineWidgetKeyCallback(int widget, int key, int callback);
+int owEnqWidgetKeyCallback(int widget, int key); /* what the key sends while `widget` has the focus; 0: it has the key */
+/* Sent, with the widget, after the focus has moved to another one; 0 ends it. Moves that follow one another without
+ * an owAction between them are one. */
+void owDefineInputCallback(int callback);
+/* The widget that has the focus once its window is active: unlike with owSetActiveWidget the window stays where it
+ * is. */
+void owSetWindowInput(int widget);
 
 void owDefineCallback(int widget, int callback);
 void owDefineSelectCallback(int widget, int callback);
