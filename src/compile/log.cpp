@@ -210,3 +210,12 @@ void forgetLog() {
 }
 
 void logEntryChosen(int entry) { goToLogEntry(entry, compiler.profile); }
+
+int messageBeside(int entry, int step) {
+    const int count = static_cast<int>(compilerLog.lines.size());
+    for (int at = std::max(entry, step > 0 ? 0 : 1) + step; at >= 1 && at <= count; at += step) {
+        const std::string& line = compilerLog.lines[static_cast<size_t>(at) - 1];
+        if (!isSourceExcerpt(line) && messagePosition(line, compiler.profile).line > 0 && logEntryLeads(at)) return at;
+    }
+    return 0;
+}

@@ -47,4 +47,7 @@ int scanLog(int compilerProfile);
 void forgetLog();
 
 // A click on an entry of the log (15028), numbered from 1.
+// The next message behind an entry (step 1), or ahead of it (-1), that leads to a place in the code; 0 for none.
+int messageBeside(int entry, int step);
+
 void logEntryChosen(int entry);

@@ -214,6 +214,8 @@ const char* placeName(const CodeLocation& location) {
     }
 }
 
+bool logEntryLeads(int entry) { return logPosition(compilerLog.lines, entry, compiler.profile, source.path).line > 0; }
+
 void goToLogEntry(int entry, int compilerProfile) {
     showPosition(logPosition(compilerLog.lines, entry, compilerProfile, source.path), compilerProfile);
 }

@@ -33,5 +33,8 @@ bool buildSourceMapped();
 // widget whose statement it is, and otherwise to the end of the code ahead of it.
 CodeLocation findLocation(int line, int column);
 
+// Whether an entry of `compilerLog` has a usable line number.
+bool logEntryLeads(int entry);
+
 // Shows the place of an entry of `compilerLog`. Nothing happens when it holds no usable line number.
 void goToLogEntry(int entry, int compilerProfile);

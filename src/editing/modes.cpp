@@ -17,21 +17,28 @@ void disableUndo() {
 }
 
 void install(bool text) {
-    const bool changed = textMode != text;
-    textMode = text;
-    if (changed) disableUndo();
+    if (textMode != text) {
+        textMode = text;
+        disableUndo();
+    }
     hooks.inputMode(text);
-    for (const int key : {OKEYRETURN, OKEYESC, OKEYSHIFTTAB}) owDefineKeyCallback(key, 0);
-    owDefineKeyCallback(OKEYTAB, text ? static_cast<int>(CMD_TEXT_TAB) : 0);
 }
 
 } // namespace
 
+void inputMoved(int widget) {
+    const bool text = widget == codeText();
+    if (text) {
+        design.codeFocus = 1;
+        design.helpContext = "Code Editor";
+    }
+    if (text != textMode) install(text);
+}
+
 void enterTextMode() {
+    if (codeText()) owSetActiveWidget(codeText());
     install(true);
-    design.codeFocus = 1;
-    design.helpContext = "Code Editor";
-    if (codeText() && owEnqActiveWidget() != codeText()) owSetActiveWidget(codeText());
+    inputMoved(codeText());
 }
 
 void leaveTextMode() { install(false); }

@@ -83,6 +83,8 @@ struct Chooser {
     int popup = 0;
     int window = 0;
     int list = 0;
+    int ok = 0, cancel = 0; // buttons
+    bool open = false;
 } chooser;
 
 using Names = std::vector<std::string>;
@@ -152,9 +154,10 @@ void makeChooser() {
                                                 owCallback, CMD_NAME_WINDOW, 0);
     chooser.list =
         owCreateListBox(chooser.window, 10, 10, 310, 126, ONONE, owVpos, OTOP, owDoubleClickCallback, CMD_NAME_OK, 0);
-    owCreatePushButton(chooser.window, 166, 144, 74, 25, "Cancel", owVpos, OTOP, owCallback, CMD_NAME_CANCEL, 0);
-    owCreatePushButton(chooser.window, 246, 144, 74, 25, "OK", owVpos, OTOP, owType, ODEFAULTBUTTON, owCallback,
-                       CMD_NAME_OK, 0);
+    chooser.cancel =
+        owCreatePushButton(chooser.window, 166, 144, 74, 25, "Cancel", owVpos, OTOP, owCallback, CMD_NAME_CANCEL, 0);
+    chooser.ok = owCreatePushButton(chooser.window, 246, 144, 74, 25, "OK", owVpos, OTOP, owType, ODEFAULTBUTTON,
+                                    owCallback, CMD_NAME_OK, 0);
 }
 
 void openChooser(const Family& family) {
@@ -163,21 +166,24 @@ void openChooser(const Family& family) {
     owSetListEntry(chooser.list, OCLEAR, 0);
     for (const std::string& name : namesOf(family)) owSetListEntry(chooser.list, OADD, owString, name.c_str(), 0);
     owSetListEntry(chooser.list, OSELECT, owEntry, 1, 0);
-    owDefineKeyCallback(OKEYESC, CMD_NAME_CANCEL);
-    owDefineKeyCallback(OKEYRETURN, CMD_NAME_OK);
     owDrawWindow(chooser.window, 1);
+    openDialogueKeys(chooser.window, {chooser.ok, CMD_NAME_OK}, CMD_NAME_CANCEL);
+    addDialogueButton({chooser.cancel, CMD_NAME_CANCEL});
+    chooser.open = true;
     owSetActiveWidget(chooser.list);
 }
 
 void closeChooser() {
-    owDefineKeyCallback(OKEYRETURN, 0);
-    owDefineKeyCallback(OKEYESC, 0);
+    if (!chooser.open) return;
     owSetListEntry(chooser.list, OCLEAR, 0);
+    closeDialogueKeys();
     owRemoveWindow(chooser.window);
+    chooser.open = false;
     hooks.enterTextMode();
 }
 
 void insertChosen() {
+    if (!chooser.open) return;
     int count = 0, selected = 0, current = 0;
     owEnqListStatus(chooser.list, &count, &selected, &current);
     char name[NAME_LIMIT + 1] = "";

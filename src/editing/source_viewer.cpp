@@ -129,20 +129,21 @@ void makeViewer(const std::string& path) {
     moveCaret(viewer.text, 1);
 }
 
-void bindKeys(bool bound) {
-    owDefineKeyCallback(KEY_CTRL_C, bound ? static_cast<int>(CMD_VIEWER_COPY) : 0);
-    owDefineKeyCallback(KEY_CTRL_A, bound ? static_cast<int>(CMD_VIEWER_SELECT_ALL) : 0);
-    owDefineKeyCallback(KEY_CTRL_F, bound ? static_cast<int>(CMD_VIEWER_FIND) : 0);
-    owDefineKeyCallback(KEY_F3, bound && !viewer.wanted.empty() ? static_cast<int>(CMD_VIEWER_FIND_NEXT) : 0);
+// Copy and Select All act on the text; a field keeps these keys for itself.
+void bindKeys() {
+    owDefineWidgetKeyCallback(viewer.text, KEY_CTRL_C, CMD_VIEWER_COPY);
+    owDefineWidgetKeyCallback(viewer.text, KEY_CTRL_A, CMD_VIEWER_SELECT_ALL);
+    owDefineWidgetKeyCallback(viewer.window, KEY_CTRL_F, CMD_VIEWER_FIND);
+    owDefineWidgetKeyCallback(viewer.window, KEY_F3,
+                              viewer.wanted.empty() ? 0 : static_cast<int>(CMD_VIEWER_FIND_NEXT));
 }
 
 void closeViewer() {
     if (!viewer.window) return;
-    bindKeys(false);
     owRemoveWindow(viewer.window);
     owEraseWidget(viewer.window);
     viewer = {};
-    hooks.leaveTextMode();
+    hooks.giveInputBack();
 }
 
 void find() {
@@ -151,7 +152,8 @@ void find() {
     owFindTextDialogue(viewer.text, wanted, sizeof wanted);
     viewer.wanted = wanted;
     owSetWidgetStatus(viewer.findNext, viewer.wanted.empty() ? OUNSELECTABLE : OSELECTABLE);
-    bindKeys(true);
+    showPosition();
+    bindKeys();
 }
 
 void findNext() {
@@ -160,6 +162,7 @@ void findNext() {
     int found = owFindText(viewer.text, range.end, viewer.wanted.c_str(), 0);
     if (found <= 0) found = owFindText(viewer.text, 1, viewer.wanted.c_str(), 0); // goes on at the top
     if (found > 0) select(viewer.text, {found, found + characters(viewer.wanted)});
+    showPosition();
 }
 
 void goToLine() {
@@ -182,7 +185,7 @@ void sourceViewerCommand() {
     owEraseWidget(loading);
     owDrawWindow(viewer.window, 1);
     owSetActiveWidget(viewer.text);
-    bindKeys(true);
+    bindKeys();
     showPosition();
 }
 

@@ -1,7 +1,6 @@
 #include "editing/text_commands.h"
 
 #include "editing/editor_window.h"
-#include "editing/modes.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
 #include "project/code_stores.h"
@@ -76,6 +75,7 @@ void changeLines(std::string (*change)(const std::string& line)) {
     }
     select(text, selected);
     markModified();
+    owSetActiveWidget(text); // an icon has sent it
 }
 
 std::string indented(const std::string& line) {
@@ -145,13 +145,9 @@ void textNotification(bool changed) {
 
 void codeChangedCommand() { textNotification(action.status == 1); }
 
-void caretMovedCommand() {
-    enterTextMode();
-    textNotification(false);
-}
+void caretMovedCommand() { textNotification(false); }
 
 void textTabCommand() {
-    if (owEnqActiveWidget() != editor.text) return;
     const int blanks = std::max(preferences.tabSpaces, 0);
     replaceSelection(editor.text, preferences.replaceTab ? std::string(blanks, ' ') : "\t");
     markModified();

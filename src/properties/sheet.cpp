@@ -322,13 +322,6 @@ void applyChange(WidgetNode& widget, const PropertyRow& row, CellInput input) {
         storeAndFollow(target, row, input);
 }
 
-// Keys of the forms' commands that a cell needs for itself while the user types in it. The next change of the input
-// mode binds them again.
-void leaveKeysToCells() {
-    constexpr int CTRL_C = 3, CTRL_V = 22, CTRL_X = 24, CTRL_Y = 25, CTRL_Z = 26;
-    for (const int key : {CTRL_C, CTRL_V, CTRL_X, CTRL_Y, CTRL_Z, OKEYDEL}) owDefineKeyCallback(key, 0);
-}
-
 void chooseColour(WidgetNode& widget, const PropertyRow& row) {
     ORGBSTY rgb = {};
     oEnqRGB(shownColour(widget, row), &rgb);
@@ -379,7 +372,6 @@ void propertySelectedCommand() {
     design.helpContext = "Properties Box";
     const std::string label = currentLabel();
     if (!label.empty()) sheet.label = label;
-    leaveKeysToCells();
     if (!sheet.widget || project.gridMode != 1 || !isArray(*sheet.widget)) return;
     storeArrayGeometry(*sheet.widget);
     applyArrayGeometry(*sheet.widget);

@@ -8,6 +8,7 @@
 #include "editing/code_editor.h"
 #include "editing/code_lists.h"
 #include "editing/editor_window.h"
+#include "editing/modes.h"
 #include "menu-c.h"
 #include "project/host.h"
 #include "project/preferences.h"
@@ -16,6 +17,7 @@
 #include "shell/environment.h"
 #include "shell/saving.h"
 #include "shell/window_control.h"
+#include "surface/event.h"
 #include "surface/hooks.h"
 #include "surface/selection.h"
 #include "surface/state.h"
@@ -23,6 +25,8 @@
 static constexpr int LOG_CAPACITY = 2500; // lines that the list holds
 
 static int logList = 0;
+
+int logWidget() { return logList; }
 
 // ---- Generating -----------------------------------------------------------------------------------------------
 
@@ -38,15 +42,39 @@ void generateCommand() {
 void compileAndRunCommand() { compileCommand(false); }
 void rebuildCommand() { compileCommand(true); }
 
-void logLineCommand() {
+static void selectLogLine(int line) { owSetListEntry(logList, OSELECT, owEntry, line, 0); }
+
+static int currentLogLine() {
     int count = 0, selected = 0, current = 0;
     owEnqListStatus(logList, &count, &selected, &current);
-    if (current > 0) logEntryChosen(current);
+    return current;
 }
+
+void logPlaceCommand() {
+    if (const int line = currentLogLine(); line > 0) logEntryChosen(line);
+}
+
+// Who walks through the log with the keys goes on doing so.
+void logLineCommand() {
+    const bool chosen = action.key == OKEYLEFTBUTTON || action.key == OKEYRETURN;
+    logPlaceCommand();
+    if (!chosen) owSetActiveWidget(logList);
+}
+
+static void stepToMessage(int step) {
+    const int line = messageBeside(currentLogLine(), step);
+    if (line == 0) return;
+    showControlWindow(CMD_VIEW_COMPILER_LOG);
+    selectLogLine(line);
+    logEntryChosen(line);
+}
+
+void nextMessageCommand() { stepToMessage(1); }
+void previousMessageCommand() { stepToMessage(-1); }
 
 void printErrorsCommand() {
     owPrintTextWidget(logList, 0, 0, preferences.codePointSize);
-    owSetActiveWidget(codeText());
+    enterTextMode();
 }
 
 // ---- The log --------------------------------------------------------------------------------------------------
@@ -59,8 +87,6 @@ static void setLogLines(const std::vector<std::string>& lines) {
     clearLog();
     for (const std::string& line : lines) owSetListEntry(logList, OADD, owString, line.c_str(), 0);
 }
-
-static void selectLogLine(int line) { owSetListEntry(logList, OSELECT, owEntry, line, 0); }
 
 static void setLogFont() {
     owSetFontAttribs(logList, owFontFace, "Courier New", owPointSize, preferences.codePointSize, 0);
@@ -82,7 +108,7 @@ static void showLocation(const CodeLocation& location) {
 
 void buildCompilerLog(int pane) {
     logList = owCreateListBox(pane, 0, 0, 800, 119, ONONE, owHpos, OCENTRE, owVpos, OMIDDLE, owExpand, 1, owCapacity,
-                              LOG_CAPACITY, owCallback, CMD_LOG_LINE, 0);
+                              LOG_CAPACITY, owCallback, CMD_LOG_LINE, owDoubleClickCallback, CMD_LOG_PLACE, 0);
     setLogFont();
     buildHooks = {
         .selectorTool = [] { selectTool(TOOL_SELECTOR); },

@@ -9,3 +9,8 @@ void compileAndRunCommand(); // CMD_COMPILE
 void rebuildCommand();       // CMD_REBUILD
 void printErrorsCommand();   // CMD_PRINT_ERRORS
 void logLineCommand();       // CMD_LOG_LINE
+void logPlaceCommand();      // CMD_LOG_PLACE
+void nextMessageCommand();   // CMD_NEXT_MESSAGE
+void previousMessageCommand();
+
+int logWidget(); // handle of the list

@@ -4,9 +4,8 @@
 #include "project/preferences.h"
 #include "project/records.h"
 #include "shell/commands.h"
-#include "surface/state.h"
+#include "shell/keys.h"
 
-#include <set>
 #include <unordered_map>
 #include <vector>
 
@@ -78,16 +77,21 @@ static int widgetsOwner(int id) {
     return id;
 }
 
-static bool conditionsHold(const Command& command) {
+static bool conditionsHold(const Command& command, bool text) {
     const unsigned when = command.when;
-    return command.handler && (!(when & WHEN_TEXT_MODE) || textMode) &&
+    return command.handler && (!(when & WHEN_TEXT_MODE) || text) &&
            (!(when & WHEN_WINDOWS) || project.projectPlatform == 'w') &&
            (!(when & WHEN_PIXELS) || project.gridMode == 0) && (!(when & WHEN_SYNTAX) || preferences.syntaxColours);
 }
 
 int commandStatus(int id) {
     const Command* command = findCommand(id);
-    return command && conditionsHold(*command) ? stateOf(id).asked : STATUS_DISABLED;
+    return command && conditionsHold(*command, textMode) ? stateOf(id).asked : STATUS_DISABLED;
+}
+
+bool commandAllowed(int id) {
+    const Command* command = findCommand(id);
+    return command && conditionsHold(*command, true) && stateOf(id).asked != STATUS_DISABLED;
 }
 
 static void showStatus(int owner) {
@@ -115,36 +119,13 @@ void forgetCommandWidgets() {
     textMode = modeInstalled = false;
 }
 
-// Which command a key sends in the mode in force; 0 for none.
-static int keyTarget(int key) {
-    for (const Command& command : commandTable()) {
-        if (command.key != key || !(command.keyModes & (textMode ? IN_TEXT : IN_DESIGN)) || !command.handler) continue;
-        if ((command.keyModes & WHEN_ENABLED) && commandStatus(command.id) == STATUS_DISABLED) continue;
-        if (command.id == CMD_POPUP && design.unadopted) continue;
-        if (command.id == CMD_DELETE && !preferences.delDeletes) continue;
-        if (command.id == CMD_CODE_HELP && project.projectLanguage == 77) return CMD_HELP;
-        return command.id;
-    }
-    return 0;
-}
-
-static void bindKeys() {
-    std::set<int> keys;
-    for (const Command& command : commandTable())
-        if (command.key) keys.insert(command.key);
-    for (const int key : keys) owDefineKeyCallback(key, keyTarget(key));
-    owDefineKeySelectCallback(OKEYRETURN, 0);
-    owDefineKeySelectCallback(controlKey('W'), 0);
-}
-
 void setCommandStatus(int id, int status) {
     CommandState& state = stateOf(id);
     if (state.asked == status) return;
     state.asked = status;
     showStatus(widgetsOwner(id));
     const Command* command = findCommand(id);
-    if (command && command->key && (command->keyModes & WHEN_ENABLED))
-        owDefineKeyCallback(command->key, keyTarget(command->key));
+    if (command && command->key && (command->keyModes & WHEN_ENABLED)) bindKey(command->key);
 }
 
 void setToolStatus(int tool, int status) {

@@ -1,5 +1,5 @@
-// The state of the commands: enabled, disabled or pressed on every entry and button that offers them, and the key map
-// of the mode in force.
+// The state of the commands: enabled, disabled or pressed on every entry and button that offers them, and their labels
+// in the mode in force.
 #pragma once
 
 #include <string>
@@ -15,7 +15,8 @@ void forgetCommandWidgets();                        // when the windows are gone
 // The state that the owner of the command asks for. A command whose conditions do not hold stays disabled until they
 // do.
 void setCommandStatus(int command, int status);
-int commandStatus(int command); // as shown
+int commandStatus(int command);   // as shown
+bool commandAllowed(int command); // enabled in its own mode, whichever holds
 void setToolStatus(int tool, int status);
 
 void setCommandLabel(int command, const std::string& label);
@@ -27,8 +28,7 @@ void refreshCommands();
 // Labels and bubble helps of the commands that say what a preference adds to them.
 void showPreferenceLabels();
 
-// Text mode: the code editor has the input. The shared entries of the Edit menu act on text, and the other key map
-// holds.
+// Text mode: the code editor has the input. The shared entries of the Edit menu act on text.
 void setInputMode(bool text);
 bool textModeInForce();
 

@@ -11,6 +11,7 @@
 #include "shell/build_commands.h"
 #include "shell/commands.h"
 #include "shell/help.h"
+#include "shell/input.h"
 #include "shell/menus.h"
 #include "shell/project_commands.h"
 #include "shell/window_control.h"
@@ -34,7 +35,7 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_INSERT_FILE, .label = "Insert File...", .mnemonic = 'N', .menuIcon = "insertcode&", .handler = insertFileCommand},
     {.id = CMD_SAVE_FORM, .label = "Save Form...", .mnemonic = 'a', .handler = saveFormCommand},
     {.id = CMD_SAVE_FORM_AS, .label = "Save Form As...", .mnemonic = 'o', .handler = saveFormAsCommand},
-    {.id = CMD_SAVE_PROJECT, .label = "Save Project|Ctrl+S", .mnemonic = 'S', .key = controlKey('S'), .menuIcon = "save&", .barIcon = "save", .bubbleHelp = "Save Project", .handler = saveProjectCommand},
+    {.id = CMD_SAVE_PROJECT, .label = "Save Project|Ctrl+S", .mnemonic = 'S', .key = controlKey('S'), .keyModes = IN_DESIGN | IN_FIELDS, .menuIcon = "save&", .barIcon = "save", .bubbleHelp = "Save Project", .handler = saveProjectCommand},
     {.id = CMD_SAVE_PROJECT_AS, .label = "Save Project As...", .mnemonic = 'A', .handler = saveProjectAsCommand},
     {.id = CMD_PRINT_CODE, .label = "Print...", .mnemonic = 'P', .when = WHEN_TEXT_MODE, .handler = printCodeCommand},
     {.id = CMD_PRINT_ERRORS, .label = "Print Errors...", .mnemonic = 'E', .when = STARTS_DISABLED, .handler = printErrorsCommand},
@@ -50,7 +51,7 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_CUT, .label = "Cut Widget|Ctrl+X", .mnemonic = 't', .key = controlKey('X'), .menuIcon = "cut&", .barIcon = "cut", .bubbleHelp = "Cut Widget from Form to Paste buffer", .handler = cutCommand},
     {.id = CMD_COPY, .label = "Copy Widget|Ctrl+C", .mnemonic = 'C', .key = controlKey('C'), .menuIcon = "copy&", .barIcon = "copy", .bubbleHelp = "Copy Widget from Form to Paste buffer", .handler = copyCommand},
     {.id = CMD_DUPLICATE, .label = "Duplicate Widget|Ctrl+D", .mnemonic = 'L', .key = controlKey('D'), .menuIcon = "copy&", .handler = duplicateCommand},
-    {.id = CMD_PASTE, .label = "Paste Widget|Ctrl+V", .mnemonic = 'P', .key = controlKey('V'), .menuIcon = "paste&", .barIcon = "paste", .bubbleHelp = "Paste Widget from Paste buffer to Form", .when = STARTS_DISABLED, .handler = pasteCommand},
+    {.id = CMD_PASTE, .label = "Paste Widget|Ctrl+V", .mnemonic = 'P', .key = controlKey('V'), .keyModes = IN_DESIGN | WHEN_ENABLED, .menuIcon = "paste&", .barIcon = "paste", .bubbleHelp = "Paste Widget from Paste buffer to Form", .when = STARTS_DISABLED, .handler = pasteCommand},
     {.id = CMD_DELETE, .label = "Delete Widget|Del", .mnemonic = 'D', .key = OKEYDEL, .menuIcon = "deletewidg&", .handler = deleteCommand},
     {.id = CMD_DELETE_MENU_BAR, .label = "Delete Menu Bar", .mnemonic = 'M', .menuIcon = "deletemenu&"},
     {.id = CMD_FIND, .label = "Find|Ctrl+F", .mnemonic = 'F', .key = controlKey('F'), .keyModes = IN_TEXT, .when = WHEN_TEXT_MODE},
@@ -76,10 +77,10 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_VIEW_PROPERTIES, .label = "Properties", .mnemonic = 'P', .handler = viewPaneCommand},
     {.id = CMD_VIEW_CODE_EDITOR, .label = "Code Editor", .mnemonic = 'C', .handler = viewPaneCommand},
     {.id = CMD_VIEW_COMPILER_LOG, .label = "Compiler Log", .mnemonic = 'L', .handler = viewPaneCommand},
-    {.id = CMD_SHOW_ALL, .label = "View/Hide All|F2", .mnemonic = 'V', .key = functionKey(2), .keyModes = IN_BOTH, .barIcon = "formshow", .bubbleHelp = "Hide All Forms", .handler = showAllCommand},
-    {.id = CMD_RAISE_WINDOWS, .label = "Bring control windows to top|F11", .mnemonic = 'B', .key = functionKey(11), .keyModes = IN_BOTH, .handler = raiseWindowsCommand},
-    {.id = CMD_DEFAULT_POSITIONS, .label = "Default window positions/sizes|F12", .mnemonic = 'D', .key = functionKey(12), .keyModes = IN_BOTH, .handler = defaultPositionsCommand},
-    {.id = CMD_SOURCE_VIEWER, .label = "Source Code", .mnemonic = 'S', .handler = sourceViewerCommand},
+    {.id = CMD_SHOW_ALL, .label = "View/Hide All|F2", .mnemonic = 'V', .key = functionKey(2), .keyModes = EVERYWHERE, .barIcon = "formshow", .bubbleHelp = "Hide All Forms", .handler = showAllCommand},
+    {.id = CMD_RAISE_WINDOWS, .label = "Bring control windows to top|F11", .mnemonic = 'B', .key = functionKey(11), .keyModes = EVERYWHERE, .handler = raiseWindowsCommand},
+    {.id = CMD_DEFAULT_POSITIONS, .label = "Default window positions/sizes|F12", .mnemonic = 'D', .key = functionKey(12), .keyModes = EVERYWHERE, .handler = defaultPositionsCommand},
+    {.id = CMD_SOURCE_VIEWER, .label = "Source Code", .mnemonic = 'S', .when = OPENS_WINDOW, .handler = sourceViewerCommand},
     // Arrange
     {.id = CMD_TAB_ORDER, .label = "Change Widget Tab Order...", .mnemonic = 'C'},
     {.id = CMD_ALIGN, .label = "Align Widgets", .mnemonic = 'A', .when = STARTS_DISABLED},
@@ -88,10 +89,10 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_STATUS_BAR_EDITOR, .label = "Status bar...", .mnemonic = 'S', .menuIcon = "Status&", .barIcon = "Status", .bubbleHelp = "Create/View Status Bar", .when = WHEN_WINDOWS},
     // Project
     {.id = CMD_GENERATE, .label = "Generate Code", .mnemonic = 'G', .menuIcon = "Generate&", .barIcon = "Generate", .bubbleHelp = "Generate Code", .handler = generateCommand},
-    {.id = CMD_COMPILE, .label = "Compile, Link & Execute|F5", .mnemonic = 'C', .key = functionKey(5), .keyModes = IN_BOTH | WHEN_ENABLED, .menuIcon = "Compile&", .greyIcon = "Compile#", .barIcon = "Compile", .bubbleHelp = "Compile, Link & Execute", .when = STARTS_DISABLED, .handler = compileAndRunCommand},
+    {.id = CMD_COMPILE, .label = "Compile, Link & Execute|F5", .mnemonic = 'C', .key = functionKey(5), .keyModes = EVERYWHERE | WHEN_ENABLED, .menuIcon = "Compile&", .greyIcon = "Compile#", .barIcon = "Compile", .bubbleHelp = "Compile, Link & Execute", .when = STARTS_DISABLED, .handler = compileAndRunCommand},
     {.id = CMD_COMPILE_AGAIN, .handler = compileAndRunCommand},
     {.id = CMD_REBUILD, .label = "Rebuild all", .mnemonic = 'R', .when = STARTS_DISABLED, .handler = rebuildCommand},
-    {.id = CMD_EXECUTE, .label = "Execute|F6", .mnemonic = 'E', .key = functionKey(6), .keyModes = IN_BOTH | WHEN_ENABLED, .menuIcon = "forward&", .barIcon = "forward", .bubbleHelp = "Execute", .when = STARTS_DISABLED, .handler = executeCommand},
+    {.id = CMD_EXECUTE, .label = "Execute|F6", .mnemonic = 'E', .key = functionKey(6), .keyModes = EVERYWHERE | WHEN_ENABLED, .menuIcon = "forward&", .barIcon = "forward", .bubbleHelp = "Execute", .when = STARTS_DISABLED, .handler = executeCommand},
     {.id = CMD_ABORT, .label = "Abort Execution", .mnemonic = 'A', .menuIcon = "cancel&", .barIcon = "cancel", .bubbleHelp = "Abort Execution", .when = STARTS_DISABLED, .handler = abortCommand},
     {.id = CMD_PROJECT_SETTINGS, .label = "Project Settings...", .mnemonic = 'S'},
     {.id = CMD_CHANGE_PROJECT_TYPE, .label = "Change Project Type...", .mnemonic = 'T'},
@@ -103,11 +104,11 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_PREFERENCES, .label = "Preferences...", .mnemonic = 'P'},
     {.id = CMD_SYNTAX_ATTRIBUTES, .label = "Edit Syntax Attributes...", .mnemonic = 'E', .when = WHEN_SYNTAX},
     // Help
-    {.id = CMD_HELP_DESIGNER, .label = "ORBAWIDG Designer Help Topics", .mnemonic = 'S', .handler = helpTopicsCommand},
-    {.id = CMD_HELP_TOOLKIT, .label = "ORBAWIDG Help Topics", .mnemonic = 'M', .handler = helpTopicsCommand},
-    {.id = CMD_HELP_BASE, .label = "ORBA Help Topics", .mnemonic = 'G', .handler = helpTopicsCommand},
-    {.id = CMD_HELP_PLOT, .label = "ORBAPLOT Help Topics", .mnemonic = 'R', .handler = helpTopicsCommand},
-    {.id = CMD_HELP_MESH, .label = "ORBAMESH Help Topics", .mnemonic = 'S', .handler = helpTopicsCommand},
+    {.id = CMD_HELP_DESIGNER, .label = "ORBAWIDG Designer Help Topics", .mnemonic = 'S', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_TOOLKIT, .label = "ORBAWIDG Help Topics", .mnemonic = 'M', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_BASE, .label = "ORBA Help Topics", .mnemonic = 'G', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_PLOT, .label = "ORBAPLOT Help Topics", .mnemonic = 'R', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_MESH, .label = "ORBAMESH Help Topics", .mnemonic = 'S', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
     {.id = CMD_ABOUT, .label = "About ORBAWIDG Designer", .mnemonic = 'A', .handler = aboutCommand},
     {.id = CMD_ABOUT_OK, .handler = aboutOkCommand},
     // Tool Box
@@ -140,11 +141,11 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_POPUP, .key = OKEYRIGHTBUTTON, .handler = popupCommand},
     {.id = CMD_DESIGN_KEY, .handler = designKeyCommand},
     {.id = CMD_GROUP_CLICKED, .handler = groupClickedCommand},
-    {.id = CMD_HELP, .key = OKEYF1, .handler = contextHelpCommand},
+    {.id = CMD_HELP, .key = OKEYF1, .keyModes = IN_DESIGN | IN_FIELDS, .handler = contextHelpCommand},
     {.id = CMD_CODE_HELP, .key = OKEYF1, .keyModes = IN_TEXT, .handler = codeHelpCommand},
     {.id = CMD_INSERT_NAME, .key = controlKey('W'), .keyModes = IN_TEXT, .handler = insertNameCommand},
     {.id = CMD_COMMIT_CODE, .key = controlKey('S'), .keyModes = IN_TEXT, .handler = commitCommand},
-    {.id = CMD_TEXT_TAB, .handler = textTabCommand},
+    {.id = CMD_TEXT_TAB, .key = OKEYTAB, .keyModes = IN_TEXT, .handler = textTabCommand},
     {.id = CMD_DIALOGUE_TAB, .handler = dialogueTabCommand},
     {.id = CMD_MASTER_WINDOW, .handler = masterWindowEvent},
     {.id = CMD_PANE_PROPERTIES, .handler = controlWindowEvent},
@@ -153,6 +154,10 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_PANE_COMPILER_LOG, .handler = controlWindowEvent},
     {.id = CMD_BAR_ICON_BAR, .handler = controlWindowEvent},
     {.id = CMD_BAR_TOOL_BOX, .handler = controlWindowEvent},
+    {.id = CMD_INPUT_MOVED, .handler = inputMovedCommand},
+    {.id = CMD_NEXT_MESSAGE, .key = functionKey(4), .keyModes = EVERYWHERE, .handler = nextMessageCommand},
+    {.id = CMD_PREVIOUS_MESSAGE, .key = shifted(functionKey(4)), .keyModes = EVERYWHERE, .handler = previousMessageCommand},
+    {.id = CMD_LOG_PLACE, .handler = logPlaceCommand},
     {.id = CMD_LOG_LINE, .handler = logLineCommand},
     {.id = CMD_AUTO_BACKUP, .handler = autoBackupCommand},
     {.id = CMD_WATCH, .handler = watchProgram},
@@ -183,7 +188,7 @@ static constexpr Command COMMANDS[] = {
     {.id = CMD_CODE_CHANGED, .handler = codeChangedCommand},
     {.id = CMD_CODE_SELECT, .handler = caretMovedCommand},
     {.id = CMD_INDENT, .handler = indentCommand},
-    {.id = CMD_UNINDENT, .handler = unindentCommand},
+    {.id = CMD_UNINDENT, .key = OKEYSHIFTTAB, .keyModes = IN_TEXT, .handler = unindentCommand},
     {.id = CMD_COMMENT, .handler = commentCommand},
     {.id = CMD_UNCOMMENT, .handler = uncommentCommand},
 };

@@ -78,11 +78,16 @@ enum ShellCommandId : int {
     CMD_PRINT_ERRORS = 15809,
     CMD_WATCH = 19010,
     CMD_TEXT_MENU = 19980, // the pull-down entry itself; it sends nothing
+    CMD_INPUT_MOVED = 19981,
+    CMD_NEXT_MESSAGE = 19982,
+    CMD_PREVIOUS_MESSAGE = 19983,
+    CMD_LOG_PLACE = 19984, // Return or a double click on a line of the log
 };
 
 // Key codes beside those of the toolkit.
 constexpr int controlKey(char letter) { return letter - 'A' + 1; }
 constexpr int functionKey(int number) { return OKEYF1 + number - 1; }
+constexpr int shifted(int key) { return key + 1000; }
 
 // What has to hold for a command to be enabled, beside having a handler.
 enum CommandCondition : unsigned {
@@ -92,10 +97,18 @@ enum CommandCondition : unsigned {
     WHEN_PIXELS = 4,      // a project in pixel mode
     WHEN_SYNTAX = 8,      // syntax colouring is on
     STARTS_DISABLED = 16, // until someone enables it
+    OPENS_WINDOW = 32,    // no condition: another window has the input when it has run
 };
 
-// Which key map binds the key of a command.
-enum KeyMode : unsigned { IN_DESIGN = 1, IN_TEXT = 2, IN_BOTH = 3, WHEN_ENABLED = 4 };
+// Where the key of a command works: while a form, the hierarchy or a bar has the focus, the code editor's text, or
+// anything else but a dialogue, such as a cell or a list, which keeps all other keys.
+enum KeyMode : unsigned {
+    IN_DESIGN = 1,
+    IN_TEXT = 2,
+    IN_FIELDS = 4,
+    EVERYWHERE = IN_DESIGN | IN_TEXT | IN_FIELDS,
+    WHEN_ENABLED = 8,
+};
 
 struct Command {
     int id = 0;

@@ -1,8 +1,8 @@
 #include "shell/designer.h"
 
+#include "codegen/generate.h"
 #include "compile/catalogue.h"
 #include "compile/execute.h"
-#include "codegen/generate.h"
 #include "editing/modes.h"
 #include "editing/syntax.h"
 #include "menu-c.h"
@@ -17,12 +17,12 @@
 #include "shell/command_states.h"
 #include "shell/commands.h"
 #include "shell/environment.h"
+#include "shell/input.h"
 #include "shell/menus.h"
 #include "shell/project_commands.h"
 #include "shell/splash.h"
 #include "shell/toolkit_host.h"
 #include "shell/window_control.h"
-#include "surface/dialogue_keys.h"
 #include "surface/event.h"
 #include "surface/live.h"
 #include "surface/selection.h"
@@ -69,8 +69,8 @@ static void buildWindows() {
 static void makeFirstProject() {
     owManage();
     raiseFloatingWindows();
-    startNewProject();
     owSetActiveWindow(MASTER_WINDOW);
+    startNewProject(); // its form has the input at first
 }
 
 void startDesigner(const std::string& commandLine) {
@@ -86,6 +86,7 @@ void startDesigner(const std::string& commandLine) {
     loadStartupDefaults(settingsPlaces.dataDir);
     leaveTextMode();
     showSplash();
+    followInput();
     startAutoBackup();
     makeFirstProject();
     const FilePlace place = placeFromCommandLine(commandLine);
@@ -103,10 +104,9 @@ void handleEvent(int callback) {
     if (callback >= EXPOSE_OFFSET && project.currentWidget && project.currentWidget->type == TYPE_GRAPHICS_FRAME)
         drawFrameCross(*project.currentWidget);
     owEnqActionState(&action);
-    if (!dialogueOpen())
-        owDefineKeySelectCallback(OKEYTAB, 0); // the code editor installs it again while it has the input
     runCommand(callback);
     designEvent(callback);
+    giveInputBackAfter(callback);
 }
 
 void runActionLoop() {

@@ -12,7 +12,7 @@
 #include "shell/commands.h"
 #include "shell/environment.h"
 #include "shell/window_control.h"
-#include "surface/live.h"
+#include "surface/dialogue_keys.h"
 #include "surface/state.h"
 
 static const char HELP_VERSION[] = "85";
@@ -128,17 +128,16 @@ void aboutCommand() {
     addAboutLine(panel, 124, "Fortran/C++ GUI Builder");
     addAboutLine(panel, 150, "");
     addAboutLine(panel, 176, "ORBA = " + folders.installDir);
-    owCreatePushButton(panel, 110, 11, 88, 22, "OK", owType, ODEFAULTBUTTON, owCallback, CMD_ABOUT_OK, 0);
-    owDefineKeySelectCallback(OKEYRETURN, CMD_ABOUT_OK);
+    const int ok =
+        owCreatePushButton(panel, 110, 11, 88, 22, "OK", owType, ODEFAULTBUTTON, owCallback, CMD_ABOUT_OK, 0);
     owDrawWindow(aboutBox, 1);
-    owSetActiveWindow(aboutBox);
+    openDialogueKeys(aboutBox, {ok, CMD_ABOUT_OK}, CMD_ABOUT_OK);
+    owSetActiveWidget(ok);
 }
 
 void aboutOkCommand() {
     if (!aboutBox) return;
-    owDefineKeySelectCallback(OKEYRETURN, 0);
-    owSetActiveWindow(0);
+    closeDialogueKeys();
     owEraseWidget(aboutBox);
     aboutBox = 0;
-    activateWidget(project.currentWidget);
 }

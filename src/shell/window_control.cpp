@@ -12,6 +12,8 @@
 #include "shell/command_states.h"
 #include "shell/commands.h"
 #include "shell/environment.h"
+#include "shell/input.h"
+#include "shell/keys.h"
 #include "shell/menus.h"
 #include "shell/project_commands.h"
 #include "surface/event.h"
@@ -95,6 +97,10 @@ void buildMasterWindow() {
     hooks.commandStatus = setCommandStatus;
     hooks.toolStatus = setToolStatus;
     hooks.inputMode = setInputMode;
+    hooks.formMade = bindKeysOn;
+    hooks.keysChanged = bindKeys;
+    hooks.parkKeys = parkKeys;
+    hooks.giveInputBack = giveInputBack;
     hooks.formFileForgotten = forgetFormFile;
     hooks.showCodeEditor = [] { showControlWindow(CMD_VIEW_CODE_EDITOR); };
     hooks.drawControlWindows = [] {

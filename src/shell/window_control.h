@@ -3,6 +3,7 @@
 #pragma once
 
 inline constexpr int MASTER_WINDOW = 1; // its handle
+inline constexpr int FORMS_ROOM = 2;    // the free middle of it, which has the input while none of its fields has
 
 void buildMasterWindow(); // with its menus, bars and status bar, at the stored place
 void buildControlWindows();

@@ -2,54 +2,80 @@
 
 #include "menu-c.h"
 #include "surface/commands.h"
+#include "surface/hooks.h"
+#include "surface/state.h"
 
+#include <string>
 #include <vector>
 
-static std::vector<DialogueButton> buttons; // the home button first; empty while no dialogue is open
-static int marked = 0;                      // handle
+namespace {
 
-static void mark(const DialogueButton& button) {
-    if (button.handle != marked) {
-        if (marked) owSetWidgetProp(marked, owType, ODEFAULT, 0);
-        owSetWidgetProp(button.handle, owType, ODEFAULTBUTTON, 0);
-        marked = button.handle;
-    }
-    owDefineKeySelectCallback(OKEYRETURN, button.command);
+struct Dialogue {
+    int window = 0;
+    std::vector<DialogueButton> buttons; // the home button first
+    int marked = 0;                      // handle
+    int input = 0;                       // widget that had the focus when another dialogue opened above
+    std::string helpContext;             // of what was below
+};
+
+std::vector<Dialogue> stack; // the open dialogues, the one with the input last
+
+void mark(Dialogue& dialogue, const DialogueButton& button) {
+    if (button.handle == dialogue.marked) return;
+    if (dialogue.marked) owSetWidgetProp(dialogue.marked, owType, ODEFAULT, 0);
+    owSetWidgetProp(button.handle, owType, ODEFAULTBUTTON, 0);
+    dialogue.marked = button.handle;
 }
 
-void openDialogueKeys(int window, DialogueButton home, int cancelCommand) {
-    buttons = {home};
-    marked = home.handle;
-    owDefineKeySelectCallback(OKEYRETURN, home.command);
-    owDefineKeyCallback(OKEYESC, cancelCommand);
-    owDefineKeySelectCallback(OKEYTAB, CMD_DIALOGUE_TAB);
-    owDefineKeySelectCallback(OKEYSHIFTTAB, CMD_DIALOGUE_TAB);
+void bindTab(bool bound) {
+    for (const int key : {OKEYTAB, OKEYSHIFTTAB})
+        owDefineKeySelectCallback(key, bound ? static_cast<int>(CMD_DIALOGUE_TAB) : 0);
+}
+
+} // namespace
+
+void openDialogueKeys(int window, DialogueButton home, int cancelCommand, const char* topic) {
+    if (stack.empty()) {
+        hooks.parkKeys(true);
+        bindTab(true);
+    } else {
+        stack.back().input = owEnqActiveWidget();
+    }
+    stack.push_back({window, {home}, home.handle, 0, design.helpContext});
+    if (topic) design.helpContext = topic;
+    owDefineWidgetKeyCallback(window, OKEYESC, cancelCommand);
+    owDefineWidgetKeyCallback(window, OKEYF1, CMD_HELP);
     owSetActiveWindow(window);
 }
 
 void addDialogueButton(DialogueButton button) {
-    if (!buttons.empty()) buttons.push_back(button);
+    if (!stack.empty()) stack.back().buttons.push_back(button);
 }
 
 void closeDialogueKeys() {
-    buttons.clear();
-    marked = 0;
-    owDefineKeySelectCallback(OKEYRETURN, 0);
-    owDefineKeyCallback(OKEYESC, 0);
-    owDefineKeySelectCallback(OKEYTAB, 0);
-    owDefineKeySelectCallback(OKEYSHIFTTAB, 0);
+    if (stack.empty()) return;
+    owDefineWidgetKeyCallback(stack.back().window, OKEYESC, 0);
+    owDefineWidgetKeyCallback(stack.back().window, OKEYF1, 0);
+    design.helpContext = stack.back().helpContext;
+    stack.pop_back();
+    if (!stack.empty()) {
+        owSetActiveWindow(stack.back().window);
+        if (stack.back().input) owSetActiveWidget(stack.back().input);
+        return;
+    }
+    bindTab(false);
+    hooks.parkKeys(false);
     owSetActiveWindow(0);
+    hooks.giveInputBack();
 }
 
-bool dialogueOpen() { return !buttons.empty(); }
+bool dialogueOpen() { return !stack.empty(); }
 
 void dialogueTabCommand() {
-    if (buttons.empty()) return;
+    if (stack.empty()) return;
+    Dialogue& dialogue = stack.back();
     const int active = owEnqActiveWidget();
-    for (const DialogueButton& button : buttons)
-        if (button.handle == active) {
-            mark(button);
-            return;
-        }
-    mark(buttons.front());
+    for (const DialogueButton& button : dialogue.buttons)
+        if (button.handle == active) return mark(dialogue, button);
+    mark(dialogue, dialogue.buttons.front());
 }

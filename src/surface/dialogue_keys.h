@@ -1,5 +1,10 @@
-// The keys of a dialogue while it is open: Return presses the marked button, Esc cancels, Tab and Shift+Tab move on and
-// take the mark to a push button that gets the focus.
+// The input and the keys of dialogues. A dialogue that is opened takes the input from all other windows, and no command
+// of the designer has a key until it is closed. Return presses the default button, which the toolkit does once the
+// field that has the focus is committed; Esc cancels; F1 shows the dialogue's help. A push button that gets the focus
+// takes the mark of the default button for as long.
+//
+// A dialogue may open another one: the one below waits, and gets the input back, its own widget first, when the other
+// is closed. Only when the last one is closed do the commands have their keys again.
 #pragma once
 
 struct DialogueButton {
@@ -7,15 +12,17 @@ struct DialogueButton {
     int command = 0;
 };
 
-// Confines the input to `window` and binds the keys. `home` is the default button, marked at first.
-void openDialogueKeys(int window, DialogueButton home, int cancelCommand);
+// Of a window that is made already. `home` is the default button, marked at first; Esc sends `cancelCommand`, none for
+// 0. `topic` is the page that F1 opens, null for that of what was worked on before.
+void openDialogueKeys(int window, DialogueButton home, int cancelCommand, const char* topic = nullptr);
 
-// Another push button of the open dialogue, which Return presses while it has the focus.
+// Another push button of the dialogue on top.
 void addDialogueButton(DialogueButton button);
 
-// Frees the keys and gives the input back.
+// Closes the keys of the dialogue on top, whose window goes next. The input goes to the dialogue below, or to what had
+// it before the first.
 void closeDialogueKeys();
 
-bool dialogueOpen(); // the keys are bound at the moment
+bool dialogueOpen();
 
-void dialogueTabCommand(); // Tab or Shift+Tab in a dialogue
+void dialogueTabCommand(); // CMD_DIALOGUE_TAB: Tab or Shift+Tab in a dialogue

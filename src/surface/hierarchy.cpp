@@ -153,7 +153,12 @@ void selectByName(const std::string& name, bool fromTree) {
         }
         selectWidget(node);
     }
-    hooks.enterTextMode();
+    // Who walks through the rows with the keys goes on doing so.
+    if (fromTree && action.key != OKEYLEFTBUTTON)
+        owSetActiveWidget(treeBox);
+    else
+        hooks.enterTextMode();
 }
 
 void hierarchyRowCommand() { selectByName(rowLabel(action.widget), true); }
+int hierarchyBox() { return treeBox; }

@@ -17,3 +17,4 @@ void selectByName(const std::string& name, bool fromTree);
 
 // Resource icon of a record, as its row and the tab order list show it.
 const char* hierarchyIcon(const WidgetNode& node);
+int hierarchyBox(); // handle of the tree view

@@ -17,8 +17,12 @@ struct SurfaceHooks {
     void (*statusText)(int pane, const std::string& text); // StatusPane of the master window's status bar
     void (*commandStatus)(int command, int status);        // all entries and buttons of it: 0 disabled, 1, 2 pressed
     void (*toolStatus)(int tool, int status);              // Tool Box button of a tool code
-    void (*inputMode)(bool text); // installs the key map of the mode, and gives the shared Edit entries, icons and
-                                  // popup their labels and commands of that mode; all from the command table
+    void (*inputMode)(bool text); // gives the shared Edit entries, icons and popup their labels and commands of the
+                                  // mode; all from the command table
+    void (*formMade)(int window); // a form came to life
+    void (*keysChanged)();        // another command may have a key now
+    void (*parkKeys)(bool);       // while a dialogue has the input no command has its key
+    void (*giveInputBack)();      // to what had it before a dialogue
     void (*drawControlWindows)(); // hierarchy and compiler log
     void (*showCodeEditor)();     // its pane, if it is hidden
     void (*formFileForgotten)();  // the remembered form file name is emptied

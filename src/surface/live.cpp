@@ -98,6 +98,7 @@ void defineFormCallbacks(WidgetNode& form) {
     owDefineSelectCallback(form.handle, form.handle + OBJECT_SELECT_OFFSET);
     form.formCallbackId = form.handle;
     form.designSelectId = form.handle + OBJECT_SELECT_OFFSET;
+    hooks.formMade(form.handle);
     if (WidgetNode* panel = form.child) {
         owDefineCallback(panel->handle, panel->handle);
         panel->designCallbackId = panel->handle;

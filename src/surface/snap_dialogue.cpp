@@ -37,7 +37,6 @@ void close() {
     owRemoveWindow(dialogue.window);
     owEraseWidget(dialogue.window);
     dialogue = {};
-    activateWidget(project.currentWidget);
 }
 
 } // namespace

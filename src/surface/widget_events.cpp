@@ -128,7 +128,7 @@ void unadoptCommand() {
     owAdoptChild(0, 0, 0);
     design.unadopted = 1;
     hooks.commandStatus(CMD_UNADOPT, OCHECKED);
-    owDefineKeyCallback(OKEYRIGHTBUTTON, 0);
+    hooks.keysChanged();
     owSetDesignCallback(0);
     activateWidget(project.currentWidget);
     markChanged();

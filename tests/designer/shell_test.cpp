@@ -1,6 +1,7 @@
 // The frame around the forms: start-up, commands and keys, control windows, dialogues, help.
 #include "designer_fixture.h"
 
+#include "editing/editor_window.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
 #include "project/files.h"
@@ -136,7 +137,7 @@ TEST_F(DesignerTest, AToolStaysInHandWhenPreferred) {
     EXPECT_NE(live("Form1_Button2"), 0);
 }
 
-TEST_F(DesignerTest, KeysFollowTheModeOfInput) {
+TEST_F(DesignerTest, KeysFollowTheInput) {
     start();
     struct Case {
         int key;
@@ -159,13 +160,15 @@ TEST_F(DesignerTest, KeysFollowTheModeOfInput) {
         {functionKey(1), CMD_HELP, CMD_CODE_HELP},
         {functionKey(2), CMD_SHOW_ALL, CMD_SHOW_ALL},
     };
-    for (const Case& one : cases) EXPECT_EQ(owEnqKeyCallback(one.key), one.design) << one.key;
-    EXPECT_EQ(owEnqKeyCallback(controlKey('F')), CMD_NEW_FORM);
-    setInputMode(true);
-    for (const Case& one : cases) EXPECT_EQ(owEnqKeyCallback(one.key), one.text) << one.key;
-    EXPECT_NE(owEnqKeyCallback(controlKey('F')), CMD_NEW_FORM);
-    setInputMode(false);
-    for (const Case& one : cases) EXPECT_EQ(owEnqKeyCallback(one.key), one.design) << one.key;
+    setCommandStatus(CMD_PASTE, STATUS_ENABLED);
+    for (const Case& one : cases) {
+        EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, one.key), one.design) << one.key;
+        EXPECT_EQ(owEnqWidgetKeyCallback(codeText(), one.key), one.text) << one.key;
+    }
+    EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, controlKey('F')), CMD_NEW_FORM);
+    EXPECT_NE(owEnqWidgetKeyCallback(codeText(), controlKey('F')), CMD_NEW_FORM);
+    setCommandStatus(CMD_PASTE, STATUS_DISABLED);
+    EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, controlKey('V')), 0);
 }
 
 TEST_F(DesignerTest, SharedEntriesSayWhatTheyActOn) {
@@ -203,12 +206,12 @@ TEST_F(DesignerTest, CompileAndExecuteHaveTheirKeysOnlyWhileEnabled) {
     start();
     setCommandStatus(CMD_COMPILE, STATUS_ENABLED);
     setCommandStatus(CMD_EXECUTE, STATUS_ENABLED);
-    EXPECT_EQ(owEnqKeyCallback(functionKey(5)), CMD_COMPILE);
-    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), CMD_EXECUTE);
+    EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, functionKey(5)), CMD_COMPILE);
+    EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, functionKey(6)), CMD_EXECUTE);
     setCommandStatus(CMD_COMPILE, STATUS_DISABLED);
     setCommandStatus(CMD_EXECUTE, STATUS_DISABLED);
-    EXPECT_EQ(owEnqKeyCallback(functionKey(5)), 0);
-    EXPECT_EQ(owEnqKeyCallback(functionKey(6)), 0);
+    EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, functionKey(5)), 0);
+    EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, functionKey(6)), 0);
     EXPECT_EQ(owEnqWidgetStatus(button(CMD_EXECUTE)), OUNSELECTABLE);
 }
 
@@ -218,7 +221,7 @@ TEST_F(DesignerTest, DelIsFreeWhenItIsNotToDelete) {
     settingsPlaces.dataDir = data.string();
     savePreferences();
     start();
-    EXPECT_EQ(owEnqKeyCallback(OKEYDEL), 0);
+    EXPECT_EQ(owEnqWidgetKeyCallback(project.forms->handle, OKEYDEL), 0);
     EXPECT_EQ(label(menuEntry(CMD_DELETE)), "Delete Widget");
 }
 
@@ -349,7 +352,7 @@ TEST_F(DesignerTest, TheSnapGridIsSetInItsDialogue) {
     start();
     choose(menuEntry(CMD_SNAP_DIALOGUE));
     pump();
-    EXPECT_EQ(owEnqKeyCallback(OKEYESC), CMD_SNAP_CANCEL);
+    EXPECT_EQ(owEnqWidgetKeyCallback(owEnqActiveWindow(), OKEYESC), CMD_SNAP_CANCEL);
     send(CMD_SNAP_OFF);
     send(CMD_SNAP_OK);
     EXPECT_EQ(project.snapOn, 0);
@@ -362,7 +365,6 @@ TEST_F(DesignerTest, TheSnapGridIsSetInItsDialogue) {
     send(CMD_SNAP_CANCEL);
     EXPECT_EQ(project.snapOn, 0);
     EXPECT_EQ(project.projectModified, 0);
-    EXPECT_EQ(owEnqKeyCallback(OKEYESC), 0);
     project.gridMode = 1;
     refreshCommands();
     EXPECT_EQ(owEnqWidgetStatus(menuEntry(CMD_SNAP_DIALOGUE)), OUNSELECTABLE);
@@ -425,11 +427,10 @@ TEST_F(DesignerTest, TheAboutBoxClosesWithReturn) {
     start();
     choose(menuEntry(CMD_ABOUT));
     pump();
-    EXPECT_EQ(owEnqKeySelectCallback(OKEYRETURN), CMD_ABOUT_OK);
     const int box = owEnqActiveWindow();
     EXPECT_TRUE(isShown(box));
-    send(CMD_ABOUT_OK);
-    EXPECT_EQ(owEnqKeySelectCallback(OKEYRETURN), 0);
+    key(0, Qt::Key_Return);
+    pump();
     EXPECT_EQ(viewOf(box), nullptr);
     EXPECT_NE(owEnqActiveWindow(), box);
 }

@@ -1,0 +1,79 @@
+#include "shell/input.h"
+
+#include "editing/editor_window.h"
+#include "editing/modes.h"
+#include "menu-c.h"
+#include "properties/sheet.h"
+#include "shell/build_commands.h"
+#include "shell/commands.h"
+#include "shell/window_control.h"
+#include "surface/dialogue_keys.h"
+#include "surface/hierarchy.h"
+#include "surface/live.h"
+#include "surface/state.h"
+
+#include <algorithm>
+
+enum class Holder { Form, Widget, Sheet };
+
+// Cells of the property sheet come and go, the forms' widgets too: they are kept by what they belong to.
+static struct {
+    Holder holder = Holder::Form;
+    int widget = 0; // handle, of Holder::Widget
+} input;
+
+// Widgets of the master window that last as long as it.
+static bool lasts(int widget) {
+    const int widgets[] = {codeText(),        logWidget(),     hierarchyBox(), editor.blockList,
+                           editor.widgetList, editor.menuList, editor.treeList};
+    return std::find(std::begin(widgets), std::end(widgets), widget) != std::end(widgets);
+}
+
+static bool isForm(int window) {
+    for (const WidgetNode* form = project.forms; form; form = form->next)
+        if (form->handle == window) return true;
+    return false;
+}
+
+void followInput() {
+    input = {};
+    owDefineInputCallback(CMD_INPUT_MOVED);
+    owSetWindowInput(FORMS_ROOM);
+}
+
+void inputMovedCommand() {
+    const int active = owEnqActiveWidget();
+    if (active == 0 || dialogueOpen()) return;
+    inputMoved(active);
+    const int window = owEnqActiveWindow();
+    if (isForm(window)) {
+        // A press on the menu bar or an icon makes the master window active: none of its fields is to get the keys.
+        owSetWindowInput(FORMS_ROOM);
+        input = {};
+    } else if (lasts(active)) {
+        input = {Holder::Widget, active};
+    } else if (window == MASTER_WINDOW && active != FORMS_ROOM) {
+        input = {Holder::Sheet, 0};
+    }
+}
+
+void giveInputBack() {
+    switch (input.holder) {
+    case Holder::Form:
+        if (groupStands() && design.groupPanel)
+            owSetActiveWidget(design.groupPanel);
+        else
+            activateWidget(project.currentWidget);
+        break;
+    case Holder::Widget: owSetActiveWidget(input.widget); break;
+    case Holder::Sheet:
+        if (propertyList()) owSetActiveWidget(propertyList());
+        break;
+    }
+}
+
+void giveInputBackAfter(int command) {
+    const Command* row = findCommand(command);
+    if (!row || !(row->label || row->barIcon) || (row->when & OPENS_WINDOW) || dialogueOpen()) return;
+    if (owEnqActiveWidget() == FORMS_ROOM) giveInputBack();
+}
