@@ -139,14 +139,14 @@ void addEntries(int combo, const WidgetNode& widget, const PropertyRow& row) {
 }
 
 int makeCellWidget(const WidgetNode& widget, const PropertyRow& row, const Content& content) {
-    constexpr int WIDTH = 200, HEIGHT = 20;
+    constexpr int WIDTH = 200, HEIGHT = 20, LIST_HEIGHT = 320;
     const NumberFormat format = numberFormat(widget, row);
     switch (cellKind(widget, row)) {
     case Cell::Choice:
     case Cell::EditableChoice: {
         const bool fonts = row.id == ROW_FONT_FACE;
         const int display = cellKind(widget, row) == Cell::Choice ? ODISPLAY : OEDIT;
-        const int combo = owCreateComboBox(sheet.list, 0, 0, WIDTH, HEIGHT, fonts ? OFONTS : ONONE, display, 0);
+        const int combo = owCreateComboBox(sheet.list, 0, 0, WIDTH, LIST_HEIGHT, fonts ? OFONTS : ONONE, display, 0);
         addEntries(combo, widget, row);
         return combo;
     }
@@ -366,6 +366,9 @@ void showProperties(WidgetNode* widget) {
 }
 
 const std::string& selectedPropertyLabel() { return sheet.label; }
+bool sheetHolds(int widget) {
+    return widget == sheet.list || std::ranges::find(sheet.rows, widget, &ShownRow::widget) != sheet.rows.end();
+}
 int propertyList() { return sheet.list; }
 
 void propertySelectedCommand() {

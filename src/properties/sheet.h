@@ -12,6 +12,7 @@ void buildPropertySheet(int pane, int panel);
 void showProperties(WidgetNode* widget);
 
 const std::string& selectedPropertyLabel();
+bool sheetHolds(int widget); // handle of the list or of a cell in it
 int propertyList(); // handle of the list; another one after every showProperties
 
 // Handlers of the events of the sheet.

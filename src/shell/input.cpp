@@ -52,7 +52,7 @@ void inputMovedCommand() {
         input = {};
     } else if (lasts(active)) {
         input = {Holder::Widget, active};
-    } else if (window == MASTER_WINDOW && active != FORMS_ROOM) {
+    } else if (sheetHolds(active)) {
         input = {Holder::Sheet, 0};
     }
 }

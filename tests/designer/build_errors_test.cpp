@@ -1,4 +1,6 @@
 // From a build to the code editor: errors of a real compiler in blocks, slots and entries, in the whole designer.
+#define QT_NO_KEYWORDS // the records have a field of the name slots
+
 #include "compile/driver.h"
 #include "compile/log.h"
 #include "compile/toolkit_places.h"
@@ -9,9 +11,13 @@
 #include "project/code_stores.h"
 #include "project/preferences.h"
 #include "project/tree.h"
+#include "shell/build_commands.h"
+#include "shell/command_states.h"
 #include "shell/designer.h"
 #include "support/scratch.h"
+#include "surface/selection.h"
 #include "surface/state.h"
+#include "toolkit/testing/robot.h"
 
 #include <filesystem>
 
@@ -54,6 +60,25 @@ struct BuildErrors : testing::Test {
         compileCommand(false);
         place.clear();
     }
+    // Carries all that waits to the commands.
+    static void run() {
+        constexpr int END = 19991;
+        for (int round = 0; round < 3; round++) {
+            orba::testing::settle(10);
+            owPostCallback(END, 0);
+            for (int callback = 0; owAction(&callback) != END;) handleEvent(callback);
+        }
+    }
+    static void pressKey(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) {
+        orba::testing::key(0, key, held);
+        run();
+    }
+    static void expectInputInCode(const std::string& line) {
+        EXPECT_EQ(owEnqActiveWidget(), codeText());
+        EXPECT_TRUE(textModeInForce());
+        const int start = caretLineStart(codeText());
+        EXPECT_EQ(extract(codeText(), {start, start + lineLength(codeText(), start)}), line);
+    }
     static std::string behindCaret() {
         const int caret = selectionOf(codeText()).start;
         return extract(codeText(), {caret, textLength(codeText()) + 1});
@@ -87,4 +112,53 @@ TEST_F(BuildErrors, LeadToTheirPlacesInTheEditor) {
     buildWith(form->slots[SLOT_GENERAL]);
     EXPECT_EQ(codeEditing.target, EDIT_WIDGET_SLOT) << "and back from the entries";
     EXPECT_EQ(behindCaret(), "garbage here ?");
+}
+
+TEST_F(BuildErrors, GiveTheInputToTheCode) {
+    namespace robot = orba::testing;
+    run();
+    project.codeBlocks[BLOCK_INITIALIZATION] = "   call first garbage\r\n! well\r\n   call second garbage";
+    project.forms->slots[SLOT_GENERAL] = "   call third garbage";
+    project.sourceStale = 1;
+    refreshBlockCopies();
+    compileCommand(false);
+    run();
+    expectInputInCode("   call first garbage");
+
+    // Through the messages and back, from wherever the input is.
+    pressKey(Qt::Key_F4);
+    expectInputInCode("   call second garbage");
+    selectWidget(project.forms);
+    run();
+    EXPECT_NE(owEnqActiveWidget(), codeText());
+    pressKey(Qt::Key_F4);
+    expectInputInCode("   call third garbage");
+    pressKey(Qt::Key_F4);
+    expectInputInCode("   call third garbage");
+    pressKey(Qt::Key_F4, Qt::ShiftModifier);
+    expectInputInCode("   call second garbage");
+
+    // In the log itself: keys walk on, Return and a click lead to the code.
+    owSetActiveWidget(logWidget());
+    run();
+    pressKey(Qt::Key_Home);
+    pressKey(Qt::Key_Down);
+    EXPECT_EQ(owEnqActiveWidget(), logWidget());
+    EXPECT_FALSE(textModeInForce());
+    const auto selectMessage = [](int step) {
+        int count = 0, selected = 0, current = 0;
+        owEnqListStatus(logWidget(), &count, &selected, &current);
+        const int line = messageBeside(step > 0 ? 0 : count + 1, step);
+        owSetListEntry(logWidget(), OSELECT, owEntry, line, 0);
+        owSetActiveWidget(logWidget());
+        run();
+        return line;
+    };
+    selectMessage(1);
+    pressKey(Qt::Key_Return);
+    expectInputInCode("   call first garbage");
+    selectMessage(-1);
+    robot::doubleClick(logWidget(), {20, 4});
+    run();
+    EXPECT_EQ(owEnqActiveWidget(), codeText());
 }

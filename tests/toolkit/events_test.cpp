@@ -262,6 +262,7 @@ TEST(Input, OfAWindowIsSetWhileAnotherOneIsActive) {
     owSetActiveWidget(here);
     owDrawWindow(window, 1);
     owSetActiveWidget(there);
+    settle(20);
     owSetWindowInput(next);
     EXPECT_EQ(owEnqActiveWidget(), there);
     viewOf(window)->window()->hide();

@@ -50,6 +50,18 @@ TEST_F(ValueEntries, EntersWithReturnAndWithLeaving) {
     EXPECT_EQ(number(first), 8);
 }
 
+TEST_F(ValueEntries, EscBringsTheValueBack) {
+    const int first = value(120), other = value(2);
+    type(first, "333");
+    events();
+    QTest::keyClick(field(first), Qt::Key_Escape);
+    EXPECT_EQ(number(first), 120);
+    EXPECT_EQ(shown(first), "120.00");
+    focus(other);
+    EXPECT_EQ(number(first), 120);
+    EXPECT_EQ(identifiers(), (std::vector<int>{other + OIDENT}));
+}
+
 TEST_F(ValueEntries, RefusesWhatIsOutsideTheLimitsOrNoNumber) {
     const struct {
         const char* keys;

@@ -5,7 +5,6 @@
 
 #include <QAbstractTableModel>
 #include <QApplication>
-#include <QComboBox>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -13,9 +12,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
-#include <QTimer>
 #include <QToolTip>
 #include <optional>
+#include <utility>
 
 namespace orba {
 
@@ -461,7 +460,7 @@ void PropertyView::mousePressEvent(QMouseEvent* event) {
     editRow(number);
     auto* combo = qobject_cast<QComboBox*>(cellWidget());
     const bool wantsList = combo && position.x() > labelWidth() && (onButton || !combo->isEditable());
-    if (wantsList) QTimer::singleShot(0, combo, [combo] { combo->showPopup(); });
+    if (wantsList) pressedList_ = combo;
 }
 
 void PropertyView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -483,6 +482,7 @@ void PropertyView::mouseMoveEvent(QMouseEvent* event) {
 
 void PropertyView::mouseReleaseEvent(QMouseEvent* event) {
     dragging_ = false;
+    if (QComboBox* list = std::exchange(pressedList_, nullptr)) return list->showPopup();
     const int pressed = pressedButton_;
     pressedButton_ = 0;
     if (pressed == 0 || !row(pressed)) return;

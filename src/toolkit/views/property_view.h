@@ -6,6 +6,7 @@
 
 #include <QAbstractItemDelegate>
 #include <QColor>
+#include <QComboBox>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -116,9 +117,10 @@ private:
     QPointer<QWidget> editor_;    // the open line editor
     QPointer<QWidget> cellShown_; // the widget of the current row's cell, while it is up
     int changedRow_ = 0;
-    int pressedButton_ = 0; // row whose button is held down
-    bool dragging_ = false; // the splitter between the columns
-    bool handing_ = false;  // a key is with the current row's cell and must not come back
+    int pressedButton_ = 0;           // row whose button is held down
+    QPointer<QComboBox> pressedList_; // that opens when the mouse button is let go: a list under it would close again
+    bool dragging_ = false;           // the splitter between the columns
+    bool handing_ = false;            // a key is with the current row's cell and must not come back
     ProgramDoing program_;
     bool readOnly_ = false;
     bool gridLines_ = true;

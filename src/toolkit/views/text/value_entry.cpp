@@ -221,6 +221,11 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
             enter(true);
             break; // a default button of the window may want it, too
         }
+        if (key->key() == Qt::Key_Escape && edited_) { // what was typed gives way to the value
+            showValue();
+            line_->selectAll();
+            return true;
+        }
         if (options_.increment > 0 && !line_->isReadOnly() &&
             (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down)) {
             step(key->key() == Qt::Key_Up ? 1 : -1);
