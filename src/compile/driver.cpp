@@ -3,7 +3,7 @@
 #include "codegen/check.h"
 #include "codegen/generate.h"
 #include "compile/catalogue.h"
-#include "compile/commands.h"
+#include "compile/command_lines.h"
 #include "compile/execute.h"
 #include "compile/hooks.h"
 #include "compile/log.h"

@@ -1,7 +1,7 @@
 // The toolkit's libraries on the link command: which there are, what they are called for each compiler, and their
 // order.
 #include "compile/catalogue.h"
-#include "compile/commands.h"
+#include "compile/command_lines.h"
 #include "platform/paths.h"
 #include "platform/processes.h"
 #include "platform/text_files.h"

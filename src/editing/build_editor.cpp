@@ -2,11 +2,11 @@
 
 #include "editing/code_editor.h"
 #include "editing/code_lists.h"
+#include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/modes.h"
 #include "editing/rename.h"
 #include "menu-c.h"
-#include "surface/commands.h"
 #include "surface/hooks.h"
 #include "surface/window_states.h"
 

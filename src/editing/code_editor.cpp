@@ -1,6 +1,7 @@
 // Binding the text of the code editor to a block or slot.
 #include "editing/code_editor.h"
 
+#include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/modes.h"
 #include "editing/text_view.h"
@@ -8,7 +9,6 @@
 #include "project/code_stores.h"
 #include "project/host.h"
 #include "project/tree.h"
-#include "surface/commands.h"
 #include "surface/hooks.h"
 #include "surface/selection.h"
 

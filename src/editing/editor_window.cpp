@@ -1,11 +1,11 @@
 #include "editing/editor_window.h"
 
+#include "editing/commands.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
 #include "project/code_stores.h"
 #include "project/language.h"
 #include "project/preferences.h"
-#include "surface/commands.h"
 #include "surface/hooks.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "editing/modes.h"
 
+#include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "menu-c.h"
 #include "surface/commands.h"
@@ -12,7 +13,7 @@ bool textMode = false;
 
 // Both histories have to be asked again after a change of mode.
 void disableUndo() {
-    for (const int command : {CMD_UNDO, CMD_REDO, CMD_TEXT_UNDO, CMD_TEXT_REDO})
+    for (const int command : std::initializer_list<int>{CMD_UNDO, CMD_REDO, CMD_TEXT_UNDO, CMD_TEXT_REDO})
         hooks.commandStatus(command, OUNSELECTABLE);
 }
 

@@ -1,12 +1,12 @@
 #include "editing/name_chooser.h"
 
+#include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
 #include "project/code_stores.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
-#include "surface/commands.h"
 #include "surface/dialogue_keys.h"
 #include "surface/event.h"
 #include "surface/hooks.h"

@@ -1,12 +1,12 @@
 #include "editing/source_viewer.h"
 
 #include "codegen/generate.h"
+#include "editing/commands.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
 #include "project/host.h"
 #include "project/language.h"
 #include "project/preferences.h"
-#include "surface/commands.h"
 #include "surface/event.h"
 #include "surface/hooks.h"
 #include "surface/window_states.h"

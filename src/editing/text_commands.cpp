@@ -1,12 +1,12 @@
 #include "editing/text_commands.h"
 
+#include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/text_view.h"
 #include "menu-c.h"
 #include "project/code_stores.h"
 #include "project/host.h"
 #include "project/preferences.h"
-#include "surface/commands.h"
 #include "surface/event.h"
 #include "surface/hooks.h"
 

@@ -7,7 +7,7 @@
 #include "project/widget_types.h"
 #include "properties/edits.h"
 #include "properties/rows.h"
-#include "surface/commands.h"
+#include "properties/commands.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/selection.h"

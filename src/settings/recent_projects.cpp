@@ -4,7 +4,6 @@
 #include "platform/paths.h"
 #include "platform/text_files.h"
 #include "settings/places.h"
-#include "surface/commands.h"
 
 #include <algorithm>
 #include <sstream>

@@ -5,6 +5,7 @@
 #include <string>
 
 inline constexpr int RECENT_PROJECTS = 5;
+inline constexpr int CMD_RECENT_FIRST = 14090; // the command of the first entry; the others follow
 
 // Reads the list and adds its entries to the menu with the handle `menu`, behind a separator.
 void loadRecentProjects(int menu);

@@ -8,25 +8,17 @@
 #include "editing/code_editor.h"
 #include "editing/code_lists.h"
 #include "editing/editor_window.h"
-#include "editing/modes.h"
 #include "menu-c.h"
 #include "project/host.h"
 #include "project/preferences.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
-#include "shell/environment.h"
+#include "shell/command_table.h"
+#include "shell/compiler_log.h"
 #include "shell/saving.h"
 #include "shell/window_control.h"
-#include "surface/event.h"
 #include "surface/hooks.h"
 #include "surface/selection.h"
 #include "surface/state.h"
-
-static constexpr int LOG_CAPACITY = 2500; // lines that the list holds
-
-static int logList = 0;
-
-int logWidget() { return logList; }
 
 // ---- Generating -----------------------------------------------------------------------------------------------
 
@@ -42,26 +34,9 @@ void generateCommand() {
 void compileAndRunCommand() { compileCommand(false); }
 void rebuildCommand() { compileCommand(true); }
 
-static void selectLogLine(int line) { owSetListEntry(logList, OSELECT, owEntry, line, 0); }
+namespace {
 
-static int currentLogLine() {
-    int count = 0, selected = 0, current = 0;
-    owEnqListStatus(logList, &count, &selected, &current);
-    return current;
-}
-
-void logPlaceCommand() {
-    if (const int line = currentLogLine(); line > 0) logEntryChosen(line);
-}
-
-// Who walks through the log with the keys goes on doing so.
-void logLineCommand() {
-    const bool chosen = action.key == OKEYLEFTBUTTON || action.key == OKEYRETURN;
-    logPlaceCommand();
-    if (!chosen) owSetActiveWidget(logList);
-}
-
-static void stepToMessage(int step) {
+void stepToMessage(int step) {
     const int line = messageBeside(currentLogLine(), step);
     if (line == 0) return;
     showControlWindow(CMD_VIEW_COMPILER_LOG);
@@ -69,31 +44,16 @@ static void stepToMessage(int step) {
     logEntryChosen(line);
 }
 
+} // namespace
+
 void nextMessageCommand() { stepToMessage(1); }
 void previousMessageCommand() { stepToMessage(-1); }
 
-void printErrorsCommand() {
-    owPrintTextWidget(logList, 0, 0, preferences.codePointSize);
-    enterTextMode();
-}
+// ---- What a build asks of the designer ------------------------------------------------------------------------
 
-// ---- The log --------------------------------------------------------------------------------------------------
+namespace {
 
-static void clearLog() { owSetListEntry(logList, OCLEAR, 0); }
-
-static void appendLogLine(const std::string& line) { owSetListEntry(logList, OADD, owString, line.c_str(), 0); }
-
-static void setLogLines(const std::vector<std::string>& lines) {
-    clearLog();
-    for (const std::string& line : lines) owSetListEntry(logList, OADD, owString, line.c_str(), 0);
-}
-
-static void setLogFont() {
-    owSetFontAttribs(logList, owFontFace, "Courier New", owPointSize, preferences.codePointSize, 0);
-    owDrawWidget(logList);
-}
-
-static void showLocation(const CodeLocation& location) {
+void showLocation(const CodeLocation& location) {
     if (location.place == CodePlace::widgetStatement) {
         if (location.widget != project.currentWidget) selectWidget(location.widget);
         return;
@@ -106,10 +66,9 @@ static void showLocation(const CodeLocation& location) {
     showCode(placeName(location), location.widget, location.line, location.column);
 }
 
-void buildCompilerLog(int pane) {
-    logList = owCreateListBox(pane, 0, 0, 800, 119, ONONE, owHpos, OCENTRE, owVpos, OMIDDLE, owExpand, 1, owCapacity,
-                              LOG_CAPACITY, owCallback, CMD_LOG_LINE, owDoubleClickCallback, CMD_LOG_PLACE, 0);
-    setLogFont();
+} // namespace
+
+void joinBuildToWindows() {
     buildHooks = {
         .selectorTool = [] { selectTool(TOOL_SELECTOR); },
         .saveFirst = [] { return preferences.generateSavesProject != 0; },

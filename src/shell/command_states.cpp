@@ -3,11 +3,13 @@
 #include "menu-c.h"
 #include "project/preferences.h"
 #include "project/records.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "shell/keys.h"
 
 #include <unordered_map>
 #include <vector>
+
+namespace {
 
 // An entry or button that means one command on a form and another in the code editor.
 struct ModeTwin {
@@ -17,7 +19,7 @@ struct ModeTwin {
     const char* designHelp;  // null: the entry has no icon on the Icon Bar
 };
 
-static constexpr ModeTwin TWINS[] = {
+constexpr ModeTwin TWINS[] = {
     {CMD_UNDO, CMD_TEXT_UNDO, "Undo Move Resize Widget|Ctrl+Z", nullptr},
     {CMD_REDO, CMD_TEXT_REDO, "Redo Move Resize Widget|Ctrl+Y", nullptr},
     {CMD_CUT, CMD_TEXT_CUT, "Cut Widget|Ctrl+X", "Cut Widget from Form to Paste Buffer"},
@@ -44,18 +46,18 @@ struct PreferenceLabel {
     const char* label; // with the preference on; the key behind the bar stays
 };
 
-static constexpr PreferenceLabel PREFERENCE_LABELS[] = {
+constexpr PreferenceLabel PREFERENCE_LABELS[] = {
     {CMD_GENERATE, &Preferences::generateSavesProject, "Save Project and Generate Code"},
     {CMD_COMPILE, &Preferences::generateSavesProject, "Save Project, Compile, Link & Execute"},
     {CMD_SAVE_PROJECT, &Preferences::saveGeneratesCode, "Save Project and Generate Code"},
     {CMD_SAVE_PROJECT_AS, &Preferences::saveGeneratesCode, "Save Project As... and Generate Code"},
 };
 
-static bool textMode = false;
-static bool modeInstalled = false; // false until the first mode has given the entries their labels
-static std::unordered_map<int, CommandState> states;
+bool textMode = false;
+bool modeInstalled = false; // false until the first mode has given the entries their labels
+std::unordered_map<int, CommandState> states;
 
-static CommandState& stateOf(int id) {
+CommandState& stateOf(int id) {
     const auto found = states.find(id);
     if (found != states.end()) return found->second;
     const Command* command = findCommand(id);
@@ -65,24 +67,26 @@ static CommandState& stateOf(int id) {
 }
 
 // The command that the widgets of `id` send at the moment.
-static int targetOf(int id) {
+int targetOf(int id) {
     for (const ModeTwin& twin : TWINS)
         if (twin.design == id && textMode) return twin.text;
     return id;
 }
 
-static int widgetsOwner(int id) {
+int widgetsOwner(int id) {
     for (const ModeTwin& twin : TWINS)
         if (twin.text == id) return twin.design;
     return id;
 }
 
-static bool conditionsHold(const Command& command, bool text) {
+bool conditionsHold(const Command& command, bool text) {
     const unsigned when = command.when;
     return command.handler && (!(when & WHEN_TEXT_MODE) || text) &&
            (!(when & WHEN_WINDOWS) || project.projectPlatform == 'w') &&
            (!(when & WHEN_PIXELS) || project.gridMode == 0) && (!(when & WHEN_SYNTAX) || preferences.syntaxColours);
 }
+
+} // namespace
 
 int commandStatus(int id) {
     const Command* command = findCommand(id);
@@ -94,7 +98,9 @@ bool commandAllowed(int id) {
     return command && conditionsHold(*command, true) && stateOf(id).asked != STATUS_DISABLED;
 }
 
-static void showStatus(int owner) {
+namespace {
+
+void showStatus(int owner) {
     const int status = commandStatus(targetOf(owner));
     for (ShownWidget& widget : stateOf(owner).widgets)
         if (widget.status != status) {
@@ -102,6 +108,8 @@ static void showStatus(int owner) {
             owSetWidgetStatus(widget.handle, status);
         }
 }
+
+} // namespace
 
 void addCommandWidget(int id, CommandWidget kind, int handle) {
     stateOf(id).widgets.push_back({kind, handle, STATUS_ENABLED});
@@ -160,19 +168,23 @@ void refreshCommands() {
     bindKeys();
 }
 
-static std::string designLabel(const ModeTwin& twin) {
+namespace {
+
+std::string designLabel(const ModeTwin& twin) {
     const std::string label = twin.designLabel;
     const bool keyIsFree = twin.design == CMD_DELETE && !preferences.delDeletes;
     return keyIsFree ? label.substr(0, label.find('|')) : label;
 }
 
-static void retarget(const ModeTwin& twin) {
+void retarget(const ModeTwin& twin) {
     const Command& text = *findCommand(twin.text);
     setCommandLabel(twin.design, textMode ? text.label : designLabel(twin));
     if (twin.designHelp) setCommandHelp(twin.design, textMode ? text.bubbleHelp : twin.designHelp);
     for (const ShownWidget& widget : stateOf(twin.design).widgets)
         owDefineCallback(widget.handle, targetOf(twin.design));
 }
+
+} // namespace
 
 void setInputMode(bool text) {
     const bool changed = textMode != text || !modeInstalled;

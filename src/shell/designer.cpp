@@ -15,7 +15,7 @@
 #include "settings/window_states.h"
 #include "shell/build_commands.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "shell/environment.h"
 #include "shell/input.h"
 #include "shell/menus.h"
@@ -24,6 +24,7 @@
 #include "shell/toolkit_host.h"
 #include "shell/window_control.h"
 #include "surface/event.h"
+#include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/selection.h"
 #include "surface/state.h"
@@ -31,14 +32,16 @@
 
 // ---- Start-up -------------------------------------------------------------------------------------------------
 
-static void openLibraries() {
+namespace {
+
+void openLibraries() {
     oOpenOrba();
     oGuiwin();
     owInitializeMenu();
     oMoveTo2D(0, 0);
 }
 
-static void readGrid() {
+void readGrid() {
     int columns = 0, rows = 0, cellWidth = 0, cellHeight = 0;
     owEnqGuiGrid(&columns, &rows, &cellWidth, &cellHeight);
     environment.codePointSize = cellHeight / 2 - 2;
@@ -49,7 +52,7 @@ static void readGrid() {
     owSetSnapGrid(project.snapGrid);
 }
 
-static void readSettings() {
+void readSettings() {
     int screenWidth = 0, screenHeight = 0;
     owEnqScreenSize(&screenWidth, &screenHeight);
     loadWindowStates(screenWidth, screenHeight);
@@ -57,21 +60,25 @@ static void readSettings() {
     setGridMode(0);
 }
 
-static void buildWindows() {
+void buildWindows() {
     buildMasterWindow();
     selectTool(TOOL_SELECTOR);
     if (preferences.syntaxColours && !loadSyntaxAttributes()) syntaxNotAvailable();
     buildControlWindows();
+    joinBuildToWindows();
+    hooks.formFileForgotten = forgetFormFile;
     loadRecentProjects(fileMenu());
     showPreferenceLabels();
 }
 
-static void makeFirstProject() {
+void makeFirstProject() {
     owManage();
     raiseFloatingWindows();
     owSetActiveWindow(MASTER_WINDOW);
     startNewProject(); // its form has the input at first
 }
+
+} // namespace
 
 void startDesigner(const std::string& commandLine) {
     project.projectPlatform = 'w';
@@ -98,7 +105,11 @@ void startDesigner(const std::string& commandLine) {
 
 // ---- The action loop ------------------------------------------------------------------------------------------
 
-static constexpr int EXPOSE_OFFSET = 3 * OIDENT;
+namespace {
+
+constexpr int EXPOSE_OFFSET = 3 * OIDENT;
+
+} // namespace
 
 void handleEvent(int callback) {
     if (callback >= EXPOSE_OFFSET && project.currentWidget && project.currentWidget->type == TYPE_GRAPHICS_FRAME)

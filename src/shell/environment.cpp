@@ -3,8 +3,12 @@
 #include "platform/environment.h"
 #include "settings/places.h"
 
-static const char PROGRAM_TITLE[] = "ORBAWIDG Designer";
-static const char VERSION_TEXT[] = " v8.5";
+namespace {
+
+const char PROGRAM_TITLE[] = "ORBAWIDG Designer";
+const char VERSION_TEXT[] = " v8.5";
+
+} // namespace
 
 void readEnvironment() {
     readFolders();

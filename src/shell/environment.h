@@ -1,8 +1,11 @@
-// What the program calls itself, and the size of its code font. Filled once at start-up; the folders and the machine
-// are the platform room's.
+// What the program calls itself, the size of its code font, and the handles that its first windows always have. Filled
+// once at start-up; the folders and the machine are the platform room's.
 #pragma once
 
 #include <string>
+
+inline constexpr int MASTER_WINDOW = 1;
+inline constexpr int FORMS_ROOM = 2; // its free middle, which has the input while none of its fields has
 
 struct Environment {
     std::string mainTitle;  // in the title bar

@@ -9,20 +9,22 @@
 #include "project/tree.h"
 #include "project/widget_types.h"
 #include "properties/sheet.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "shell/environment.h"
 #include "shell/window_control.h"
 #include "surface/dialogue_keys.h"
 #include "surface/state.h"
 
-static const char HELP_VERSION[] = "85";
+namespace {
+
+const char HELP_VERSION[] = "85";
 
 struct WidgetTopic {
     WidgetType type;
     const char* topic; // null for one of another kind, see widgetTopic
 };
 
-static constexpr WidgetTopic WIDGET_TOPICS[] = {
+constexpr WidgetTopic WIDGET_TOPICS[] = {
     {TYPE_FORM, "Form"},
     {TYPE_MAIN_PANEL, "Form"},
     {TYPE_BUTTON, "Button"},
@@ -60,7 +62,7 @@ struct HelpLibrary {
     const char* missing;
 };
 
-static constexpr HelpLibrary HELP_LIBRARIES[] = {
+constexpr HelpLibrary HELP_LIBRARIES[] = {
     {CMD_HELP_DESIGNER, "Wdesign", nullptr, "ORBAWIDG Designer help file could not be found"},
     {CMD_HELP_TOOLKIT, "Menu", "Menuf77.hlp", "ORBAWIDG help file could not be found"},
     {CMD_HELP_BASE, "Orba", "Orbaf77.hlp", "ORBA help file could not be found"},
@@ -68,9 +70,9 @@ static constexpr HelpLibrary HELP_LIBRARIES[] = {
     {CMD_HELP_MESH, "Mesh", "Meshf77.hlp", "ORBAMESH help file could not be found"},
 };
 
-static bool contains(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
+bool contains(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
 
-static std::string widgetTopic(const WidgetNode& widget) {
+std::string widgetTopic(const WidgetNode& widget) {
     if (widget.type == TYPE_TOGGLE) {
         if (project.projectPlatform != 'w') return {};
         const WidgetNode* parent = parentOf(&widget, project.forms);
@@ -79,6 +81,8 @@ static std::string widgetTopic(const WidgetNode& widget) {
     const WidgetTopic* row = rowOf(WIDGET_TOPICS, widget.type);
     return row && row->topic ? row->topic : "";
 }
+
+} // namespace
 
 std::string helpTopic() {
     if (contains(design.helpContext, "Properties Box")) {
@@ -109,14 +113,18 @@ void helpTopicsCommand() {
 
 // ---- About ----------------------------------------------------------------------------------------------------
 
-static int aboutBox = 0;
+namespace {
 
-static constexpr int ABOUT_SIZE = 308;
+int aboutBox = 0;
 
-static void addAboutLine(int panel, int y, const std::string& text) {
+constexpr int ABOUT_SIZE = 308;
+
+void addAboutLine(int panel, int y, const std::string& text) {
     owCreateTextEntry(panel, 0, y, ABOUT_SIZE, 22, text.c_str(), 255, ODISPLAY, owVpos, OTOP, owJustify, OCENTRE,
                       owBorderType, ONOBORDER, 0);
 }
+
+} // namespace
 
 void aboutCommand() {
     if (aboutBox) return;

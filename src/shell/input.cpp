@@ -4,9 +4,9 @@
 #include "editing/modes.h"
 #include "menu-c.h"
 #include "properties/sheet.h"
-#include "shell/build_commands.h"
-#include "shell/commands.h"
-#include "shell/window_control.h"
+#include "shell/command_table.h"
+#include "shell/compiler_log.h"
+#include "shell/environment.h"
 #include "surface/dialogue_keys.h"
 #include "surface/hierarchy.h"
 #include "surface/live.h"
@@ -14,26 +14,30 @@
 
 #include <algorithm>
 
+namespace {
+
 enum class Holder { Form, Widget, Sheet };
 
 // Cells of the property sheet come and go, the forms' widgets too: they are kept by what they belong to.
-static struct {
+struct {
     Holder holder = Holder::Form;
     int widget = 0; // handle, of Holder::Widget
 } input;
 
 // Widgets of the master window that last as long as it.
-static bool lasts(int widget) {
+bool lasts(int widget) {
     const int widgets[] = {codeText(),        logWidget(),     hierarchyBox(), editor.blockList,
                            editor.widgetList, editor.menuList, editor.treeList};
     return std::find(std::begin(widgets), std::end(widgets), widget) != std::end(widgets);
 }
 
-static bool isForm(int window) {
+bool isForm(int window) {
     for (const WidgetNode* form = project.forms; form; form = form->next)
         if (form->handle == window) return true;
     return false;
 }
+
+} // namespace
 
 void followInput() {
     input = {};

@@ -6,23 +6,27 @@
 #include "project/preferences.h"
 #include "project/records.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
-#include "shell/window_control.h"
+#include "shell/command_table.h"
+#include "shell/environment.h"
 #include "surface/state.h"
 #include "surface/window_states.h"
 
 #include <set>
 
-static bool parked = false;
+namespace {
+
+bool parked = false;
 
 // ---- What a key means -----------------------------------------------------------------------------------------
 
-static bool sends(const Command& command, int key, unsigned where) {
+bool sends(const Command& command, int key, unsigned where) {
     if (command.key != key || !(command.keyModes & where) || !command.handler) return false;
     if ((command.keyModes & WHEN_ENABLED) && !commandAllowed(command.id)) return false;
     if (command.id == CMD_POPUP && design.unadopted) return false;
     return command.id != CMD_DELETE || preferences.delDeletes;
 }
+
+} // namespace
 
 int keyCommand(int key, unsigned where) {
     for (const Command& command : commandTable()) {
@@ -35,12 +39,16 @@ int keyCommand(int key, unsigned where) {
 
 // ---- Binding --------------------------------------------------------------------------------------------------
 
+namespace {
+
 // A key that means nothing there is left to what has the focus, whatever it means elsewhere.
-static void bindOn(int widget, int key, unsigned where) {
+void bindOn(int widget, int key, unsigned where) {
     if (widget <= 0) return;
     const int command = keyCommand(key, where);
     owDefineWidgetKeyCallback(widget, key, command ? command : OLEAVEKEY);
 }
+
+} // namespace
 
 void bindKey(int key) {
     owDefineKeyCallback(key, parked ? 0 : keyCommand(key, IN_FIELDS));
@@ -51,7 +59,9 @@ void bindKey(int key) {
     for (const WidgetNode* form = project.forms; form; form = form->next) bindOn(form->handle, key, IN_DESIGN);
 }
 
-static const std::set<int>& boundKeys() {
+namespace {
+
+const std::set<int>& boundKeys() {
     static const std::set<int> keys = [] {
         std::set<int> all;
         for (const Command& command : commandTable())
@@ -60,6 +70,8 @@ static const std::set<int>& boundKeys() {
     }();
     return keys;
 }
+
+} // namespace
 
 void bindKeys() {
     for (const int key : boundKeys()) bindKey(key);

@@ -2,12 +2,14 @@
 
 #include "menu-c.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "surface/selection.h"
 
 #include <iterator>
 #include <string>
 #include <vector>
+
+namespace {
 
 enum MenuRowKind { ROW_MENU, ROW_END, ROW_COMMAND, ROW_RULE };
 
@@ -18,14 +20,14 @@ struct MenuRow {
     char mnemonic = 0;
 };
 
-static constexpr MenuRow menu(const char* label, char mnemonic) { return {ROW_MENU, 0, label, mnemonic}; }
-static constexpr MenuRow menu(int command) { return {ROW_MENU, command}; } // one that is not always enabled
-static constexpr MenuRow item(int command) { return {ROW_COMMAND, command}; }
-static constexpr MenuRow RULE = {ROW_RULE};
-static constexpr MenuRow END = {ROW_END};
+constexpr MenuRow menu(const char* label, char mnemonic) { return {ROW_MENU, 0, label, mnemonic}; }
+constexpr MenuRow menu(int command) { return {ROW_MENU, command}; } // one that is not always enabled
+constexpr MenuRow item(int command) { return {ROW_COMMAND, command}; }
+constexpr MenuRow RULE = {ROW_RULE};
+constexpr MenuRow END = {ROW_END};
 
 // clang-format off
-static constexpr MenuRow MENU_BAR_ROWS[] = {
+constexpr MenuRow MENU_BAR_ROWS[] = {
     menu("File", 'F'),
         menu("New", 'N'),
             item(CMD_NEW_PROJECT), item(CMD_NEW_FORM),
@@ -85,15 +87,15 @@ static constexpr MenuRow MENU_BAR_ROWS[] = {
     END,
 };
 
-static constexpr int BAR_RULE = 0; // a separator
-static constexpr int ICON_BAR[] = {
+constexpr int BAR_RULE = 0; // a separator
+constexpr int ICON_BAR[] = {
     CMD_NEW_PROJECT, CMD_OPEN_PROJECT, CMD_SAVE_PROJECT, BAR_RULE,
     CMD_CUT, CMD_COPY, CMD_PASTE, BAR_RULE,
     CMD_UNADOPT, BAR_RULE,
     CMD_MENU_EDITOR, CMD_STATUS_BAR_EDITOR, CMD_SHOW_ALL, BAR_RULE,
     CMD_GENERATE, CMD_COMPILE, CMD_EXECUTE, CMD_ABORT,
 };
-static constexpr int TOOL_BOX[] = {
+constexpr int TOOL_BOX[] = {
     CMD_TOOL_SELECTOR, BAR_RULE,
     // windows and containers
     CMD_NEW_FORM, CMD_TOOL_TAB_BOX, CMD_TOOL_PANEL, CMD_TOOL_TOOL_BAR, CMD_TOOL_PANE, BAR_RULE,
@@ -108,17 +110,21 @@ static constexpr int TOOL_BOX[] = {
     CMD_TOOL_SLIDER, CMD_TOOL_TTY_ENTRY,
 };
 // clang-format on
-static constexpr int POPUP[] = {CMD_CUT, CMD_COPY, CMD_PASTE, CMD_DELETE};
+constexpr int POPUP[] = {CMD_CUT, CMD_COPY, CMD_PASTE, CMD_DELETE};
 
-static constexpr int ICON_SIZE = 23;
-static constexpr int SEPARATOR_WIDTH = 5;
+constexpr int ICON_SIZE = 23;
+constexpr int SEPARATOR_WIDTH = 5;
 
-static int filePullDown = 0;
-static int popup = 0;
+int filePullDown = 0;
+int popup = 0;
+
+} // namespace
 
 int fileMenu() { return filePullDown; }
 
-static int addEntry(int parent, int id, bool withIcons) {
+namespace {
+
+int addEntry(int parent, int id, bool withIcons) {
     const Command& command = *findCommand(id);
     if (!withIcons || !command.menuIcon)
         return owCreateMenuEntry(parent, command.label, owAccel, command.mnemonic, owCallback, id, 0);
@@ -130,12 +136,14 @@ static int addEntry(int parent, int id, bool withIcons) {
                              owGreyIcon, owGetIconResource(command.greyIcon), 0);
 }
 
-static int addPullDown(int parent, const MenuRow& row) {
+int addPullDown(int parent, const MenuRow& row) {
     const int entry = row.command ? addEntry(parent, row.command, true)
                                   : owCreateMenuEntry(parent, row.label, owAccel, row.mnemonic, 0);
     if (row.command) addCommandWidget(row.command, CommandWidget::MenuEntry, entry);
     return owCreatePullDownMenu(entry);
 }
+
+} // namespace
 
 void buildMenuBar(int masterWindow) {
     filePullDown = 0;

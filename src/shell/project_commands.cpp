@@ -13,7 +13,7 @@
 #include "project/tree.h"
 #include "settings/recent_projects.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "shell/menus.h"
 #include "shell/saving.h"
 #include "shell/window_control.h"
@@ -21,16 +21,24 @@
 #include "surface/selection.h"
 #include "surface/state.h"
 
+namespace {
+
 // Where the form file dialogues were left; the name is also where Save Form goes.
-static FilePlace formFile;
+FilePlace formFile;
+
+} // namespace
 
 void forgetFormFile() { formFile.name.clear(); }
 
 // ---- Saving ---------------------------------------------------------------------------------------------------
 
-static void saved(bool success) {
+namespace {
+
+void saved(bool success) {
     if (success && preferences.saveGeneratesCode) generateKnownSource();
 }
+
+} // namespace
 
 void saveProjectCommand() {
     selectTool(TOOL_SELECTOR);
@@ -42,7 +50,11 @@ void saveProjectAsCommand() {
     saved(saveUnderChosenName());
 }
 
-static constexpr int MINUTE = 60000; // milliseconds
+namespace {
+
+constexpr int MINUTE = 60000; // milliseconds
+
+} // namespace
 
 void startAutoBackup() {
     owDefineTimerCallback(preferences.autoBackupOn ? preferences.autoBackupMinutes * MINUTE : 0, CMD_AUTO_BACKUP);
@@ -52,10 +64,12 @@ void autoBackupCommand() { autoBackup(); }
 
 // ---- Opening --------------------------------------------------------------------------------------------------
 
-static bool programRunning() { return childProcess.handle != 0; }
+namespace {
+
+bool programRunning() { return childProcess.handle != 0; }
 
 // What follows from language, platform and grid of the project that has just come in.
-static void adoptProjectSettings() {
+void adoptProjectSettings() {
     owSetSnapGrid(project.snapOn ? project.snapGrid : 1);
     forgetLog();
     const bool fits = compilerFitsProject(true);
@@ -64,11 +78,13 @@ static void adoptProjectSettings() {
     showProjectTitle();
 }
 
-static void showForms(WidgetNode* selected) {
+void showForms(WidgetNode* selected) {
     markFormsShown();
     realiseForms(project.forms);
     if (selected && selected != project.currentWidget) selectWidget(selected);
 }
+
+} // namespace
 
 bool openProjectFile(const std::string& folder, const std::string& name) {
     if (!loadProject(folder, name)) return false;
@@ -80,16 +96,20 @@ bool openProjectFile(const std::string& folder, const std::string& name) {
     return true;
 }
 
-// After a file that could not be read: the selection that was dropped for it comes back, or a form takes it.
-static void selectAgain() { selectWidget(project.currentWidget ? project.currentWidget : project.forms); }
+namespace {
 
-static void openChosen(const FilePlace& place) {
+// After a file that could not be read: the selection that was dropped for it comes back, or a form takes it.
+void selectAgain() { selectWidget(project.currentWidget ? project.currentWidget : project.forms); }
+
+void openChosen(const FilePlace& place) {
     if (!place.name.empty()) {
         dropSelection();
         if (!openProjectFile(place.folder, place.name)) selectAgain();
     }
     activateWidget(project.currentWidget);
 }
+
+} // namespace
 
 void openProjectCommand() {
     selectTool(TOOL_SELECTOR);
@@ -160,11 +180,15 @@ void insertFormCommand() {
     markChanged();
 }
 
+namespace {
+
 // The forms from the active one on go into the file.
-static void saveFormTo(const FilePlace& place) {
+void saveFormTo(const FilePlace& place) {
     commitEditor();
     if (saveForm(joinPath(place.folder, place.name))) formFile = place;
 }
+
+} // namespace
 
 void saveFormAsCommand() {
     selectTool(TOOL_SELECTOR);

@@ -12,7 +12,6 @@
 #include "shell/command_states.h"
 #include "shell/environment.h"
 #include "shell/menus.h"
-#include "shell/window_control.h"
 #include "surface/state.h"
 
 void showProjectTitle() {
@@ -24,7 +23,9 @@ void showProjectTitle() {
 
 // ---- Saving ---------------------------------------------------------------------------------------------------
 
-static bool saveTo(const std::string& folder, const std::string& name) {
+namespace {
+
+bool saveTo(const std::string& folder, const std::string& name) {
     if (!saveProject(folder, name, false)) return false;
     showProjectTitle();
     addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));
@@ -39,11 +40,11 @@ struct ProjectSource {
     std::int64_t exeTime;
 };
 
-static ProjectSource sourceOfProject() {
+ProjectSource sourceOfProject() {
     return {project.sourceDir, project.sourceName, project.missingSource, project.sourceStale, project.exeTime};
 }
 
-static void restoreSource(const ProjectSource& source) {
+void restoreSource(const ProjectSource& source) {
     project.sourceDir = source.folder;
     project.sourceName = source.name;
     project.missingSource = source.missing;
@@ -51,11 +52,13 @@ static void restoreSource(const ProjectSource& source) {
     project.exeTime = source.exeTime;
 }
 
-static bool chooseProjectName(bool asksOverwrite, FilePlace& place) {
+bool chooseProjectName(bool asksOverwrite, FilePlace& place) {
     place.folder = project.projectDir.empty() ? currentFolder() : project.projectDir;
     place.name = project.projectTitle;
     return chooseSaveFile("Save Project As", ".wdp", asksOverwrite, place.folder, place.name);
 }
+
+} // namespace
 
 bool saveUnderChosenName() {
     FilePlace place;
@@ -92,8 +95,10 @@ bool saveQuestion(const char* title, bool asksOverwrite) {
 
 // ---- Generating -----------------------------------------------------------------------------------------------
 
+namespace {
+
 // Asks for the source file. While there is none, the project's own name and folder are the proposal.
-static bool askSourceFile() {
+bool askSourceFile() {
     const std::string oldName = project.sourceName, oldFolder = project.sourceDir;
     if (project.sourceName.empty()) project.sourceName = project.projectTitle;
     if (project.sourceDir.empty()) project.sourceDir = project.projectDir;
@@ -104,13 +109,13 @@ static bool askSourceFile() {
 }
 
 // A source that was chosen now belongs to the project. One that was saved a moment ago is saved again with it.
-static void keepChosenSource() {
+void keepChosenSource() {
     const bool saving = preferences.generateSavesProject || preferences.saveGeneratesCode;
     if (project.projectModified) return;
     if (project.projectName.empty() || !saving || !saveOpenProject()) project.projectModified = 1;
 }
 
-static bool generateTo(const std::string& before) {
+bool generateTo(const std::string& before) {
     const std::string path = sourcePath();
     if (!generateNoted()) return false;
     if (path != before) keepChosenSource();
@@ -118,6 +123,8 @@ static bool generateTo(const std::string& before) {
     enableExecute(false); // there is no program of this source yet
     return true;
 }
+
+} // namespace
 
 bool generateKnownSource() {
     commitEditor();

@@ -5,22 +5,26 @@
 #include "shell/environment.h"
 #include "shell/window_control.h"
 
-static constexpr int PAUSE = 3000; // milliseconds
-static constexpr int SPLASH_END = 19990;
-static constexpr int WIDTH = 420;
-static constexpr int HEIGHT = 220;
-static constexpr int LAST_KEY = 542; // of the toolkit's key codes
+namespace {
 
-static void bindEveryKey(int callback) {
+constexpr int PAUSE = 3000; // milliseconds
+constexpr int SPLASH_END = 19990;
+constexpr int WIDTH = 420;
+constexpr int HEIGHT = 220;
+constexpr int LAST_KEY = 542; // of the toolkit's key codes
+
+void bindEveryKey(int callback) {
     for (int key = 1; key <= LAST_KEY; key++) owDefineKeyCallback(key, callback);
 }
 
-static void addLine(int panel, int y, const std::string& text, int pointSize, int bold) {
+void addLine(int panel, int y, const std::string& text, int pointSize, int bold) {
     const int label =
         owCreateTextEntry(panel, 0, y, WIDTH, pointSize * 2 + 6, text.c_str(), 255, ODISPLAY, owVpos, OTOP, owJustify,
                           OCENTRE, owBorderType, ONOBORDER, owSelectCallback, SPLASH_END, 0);
     owSetFontAttribs(label, owPointSize, pointSize, owBold, bold, 0);
 }
+
+} // namespace
 
 void showSplash() {
     if (environmentSet("ORBA_NO_SPLASH")) return;

@@ -7,10 +7,12 @@
 #include "surface/live.h"
 #include "surface/selection.h"
 
-static constexpr int PATH_BYTES = 4096;
+namespace {
 
-static bool fileDialogue(const std::string& title, const std::string& filter, bool saving, std::string& folder,
-                         std::string& name) {
+constexpr int PATH_BYTES = 4096;
+
+bool fileDialogue(const std::string& title, const std::string& filter, bool saving, std::string& folder,
+                  std::string& name) {
     char chosenName[PATH_BYTES], chosenFolder[PATH_BYTES];
     chosenName[name.copy(chosenName, PATH_BYTES - 1)] = 0;
     chosenFolder[folder.copy(chosenFolder, PATH_BYTES - 1)] = 0;
@@ -22,7 +24,7 @@ static bool fileDialogue(const std::string& title, const std::string& filter, bo
     return true;
 }
 
-static void enquireColour(int index, float& red, float& green, float& blue) {
+void enquireColour(int index, float& red, float& green, float& blue) {
     ORGBSTY colour = {};
     oEnqRGB(index, &colour);
     red = colour.red;
@@ -30,10 +32,12 @@ static void enquireColour(int index, float& red, float& green, float& blue) {
     blue = colour.blue;
 }
 
-static void enquireGrid(int& pixelX, int& pixelY) {
+void enquireGrid(int& pixelX, int& pixelY) {
     int columns = 0, rows = 0;
     owEnqGuiGrid(&columns, &rows, &pixelX, &pixelY);
 }
+
+} // namespace
 
 void fillHost() {
     host.messageBox = [](const std::string& title, const std::string& text, int icon, int buttons) {

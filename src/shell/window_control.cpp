@@ -8,14 +8,13 @@
 #include "properties/sheet.h"
 #include "settings/recent_projects.h"
 #include "settings/window_states.h"
-#include "shell/build_commands.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
+#include "shell/compiler_log.h"
 #include "shell/environment.h"
 #include "shell/input.h"
 #include "shell/keys.h"
 #include "shell/menus.h"
-#include "shell/project_commands.h"
 #include "surface/event.h"
 #include "surface/hierarchy.h"
 #include "surface/hooks.h"
@@ -25,6 +24,8 @@
 #include "surface/window_states.h"
 
 #include <iterator>
+
+namespace {
 
 struct ControlWindow {
     int viewCommand;
@@ -37,7 +38,7 @@ struct ControlWindow {
     void (*fill)(int pane); // builds what a pane holds
 };
 
-static void fillProperties(int pane) {
+void fillProperties(int pane) {
     const WindowState& state = windowStates[WINDOW_PROPERTIES];
     const int panel = owCreatePanel(pane, 0, 0, state.width, state.height, owType, ONOBOUNDARY, owHpos, OCENTRE, owVpos,
                                     OMIDDLE, owExpand, 1, 0);
@@ -45,7 +46,7 @@ static void fillProperties(int pane) {
 }
 
 // In the order in which they are built.
-static constexpr ControlWindow CONTROL_WINDOWS[] = {
+constexpr ControlWindow CONTROL_WINDOWS[] = {
     {CMD_VIEW_ICON_BAR, CMD_BAR_ICON_BAR, WINDOW_ICON_BAR, true, "Icon Bar", "Icon Bar", POSITION_TOP, nullptr},
     {CMD_VIEW_TOOL_BOX, CMD_BAR_TOOL_BOX, WINDOW_TOOL_BOX, true, "Tool Box", "Tool Box", POSITION_TOP, nullptr},
     {CMD_VIEW_PROPERTIES, CMD_PANE_PROPERTIES, WINDOW_PROPERTIES, false, "Properties", "Properties Box", POSITION_RIGHT,
@@ -58,26 +59,32 @@ static constexpr ControlWindow CONTROL_WINDOWS[] = {
      buildCodeEditor},
 };
 
-static const ControlWindow& windowOfView(int viewCommand) {
+const ControlWindow& windowOfView(int viewCommand) {
     for (const ControlWindow& window : CONTROL_WINDOWS)
         if (window.viewCommand == viewCommand) return window;
     return CONTROL_WINDOWS[0];
 }
 
-static int handleOf(const ControlWindow& window) { return windowStates[window.row].handle; }
-static bool isShown(const ControlWindow& window) { return commandStatus(window.viewCommand) == STATUS_PRESSED; }
+int handleOf(const ControlWindow& window) { return windowStates[window.row].handle; }
+bool isShown(const ControlWindow& window) { return commandStatus(window.viewCommand) == STATUS_PRESSED; }
+
+} // namespace
 
 bool controlWindowShown(int viewCommand) { return isShown(windowOfView(viewCommand)); }
 
+namespace {
+
 // Of the master window's row, as the toolkit tells them.
-static constexpr int STATE_MAXIMIZED = OMAXIMIZE;
-static constexpr int STATE_MINIMIZED = OMINIMIZE;
+constexpr int STATE_MAXIMIZED = OMAXIMIZE;
+constexpr int STATE_MINIMIZED = OMINIMIZE;
 
 // ---- Building -------------------------------------------------------------------------------------------------
 
-static int statusBar = 0;
-static constexpr int STATUS_BAR_PANES = 4;
-static const int STATUS_BAR_SIZES[STATUS_BAR_PANES] = {300, 400, 500, -1}; // right edges; the last takes the rest
+int statusBar = 0;
+constexpr int STATUS_BAR_PANES = 4;
+const int STATUS_BAR_SIZES[STATUS_BAR_PANES] = {300, 400, 500, -1}; // right edges; the last takes the rest
+
+} // namespace
 
 void buildMasterWindow() {
     WindowState& state = windowStates[WINDOW_MASTER];
@@ -101,7 +108,6 @@ void buildMasterWindow() {
     hooks.keysChanged = bindKeys;
     hooks.parkKeys = parkKeys;
     hooks.giveInputBack = giveInputBack;
-    hooks.formFileForgotten = forgetFormFile;
     hooks.showCodeEditor = [] { showControlWindow(CMD_VIEW_CODE_EDITOR); };
     hooks.drawControlWindows = [] {
         owDrawWidget(windowStates[WINDOW_HIERARCHY].handle);
@@ -109,13 +115,17 @@ void buildMasterWindow() {
     };
 }
 
-static void placeWindow(const ControlWindow& window) {
+namespace {
+
+void placeWindow(const ControlWindow& window) {
     const WindowState& state = windowStates[window.row];
     if (window.bar)
         owSetToolbarPos(state.handle, state.x, state.y, state.width, state.state);
     else
         owSetPanePos(state.handle, state.x, state.y, state.width, state.height, state.state);
 }
+
+} // namespace
 
 void buildControlWindows() {
     for (const ControlWindow& window : CONTROL_WINDOWS) {
@@ -131,10 +141,14 @@ void buildControlWindows() {
     buildWidgetPopup(MASTER_WINDOW);
 }
 
-static void showAgain(int handle) {
+namespace {
+
+void showAgain(int handle) {
     owSetWidgetStatus(handle, OHIDDEN);
     owSetWidgetStatus(handle, OSELECTABLE);
 }
+
+} // namespace
 
 void raiseFloatingWindows() {
     for (const ControlWindow& window : CONTROL_WINDOWS)
@@ -143,9 +157,11 @@ void raiseFloatingWindows() {
 
 // ---- Showing and hiding ---------------------------------------------------------------------------------------
 
-static constexpr int KIND_REMOVABLE = 2; // a window of its own: taken from the screen as a whole
+namespace {
 
-static void hideWindow(const ControlWindow& window) {
+constexpr int KIND_REMOVABLE = 2; // a window of its own: taken from the screen as a whole
+
+void hideWindow(const ControlWindow& window) {
     const int handle = handleOf(window);
     int kind = 0;
     if (!window.bar) owEnqWidgetProp(handle, owKind, &kind, 0);
@@ -155,7 +171,7 @@ static void hideWindow(const ControlWindow& window) {
         owSetWidgetStatus(handle, OHIDDEN);
 }
 
-static void toggleView() {
+void toggleView() {
     const ControlWindow& window = windowOfView(currentCommand());
     if (!isShown(window)) {
         setCommandStatus(window.viewCommand, STATUS_PRESSED);
@@ -165,6 +181,8 @@ static void toggleView() {
         hideWindow(window);
     }
 }
+
+} // namespace
 
 void viewPaneCommand() { toggleView(); }
 void viewBarCommand() { toggleView(); }
@@ -192,7 +210,9 @@ void markFormsShown() {
     setCommandHelp(CMD_SHOW_ALL, "Hide all Forms");
 }
 
-static void hideForms() {
+namespace {
+
+void hideForms() {
     for (WidgetNode* form = project.forms; form; form = form->next) {
         owRemoveWindow(form->handle);
         form->formHidden = 1;
@@ -202,7 +222,7 @@ static void hideForms() {
     design.formsShown = 0;
 }
 
-static void showForms() {
+void showForms() {
     commitEditor();
     for (WidgetNode* form = project.forms; form; form = form->next) {
         owDrawWindow(form->handle, 1);
@@ -212,6 +232,8 @@ static void showForms() {
     markFormsShown();
     activateWidget(project.currentWidget);
 }
+
+} // namespace
 
 void showAllCommand() {
     if (design.formsShown)
@@ -231,7 +253,9 @@ void raiseWindowsCommand() {
     }
 }
 
-static void placeMasterWindow(const WindowState& row) {
+namespace {
+
+void placeMasterWindow(const WindowState& row) {
     OWIDGET info = {};
     owEnqWidgetInfo(MASTER_WINDOW, &info);
     info.state = ONORMAL; // a maximised window takes no place
@@ -241,6 +265,8 @@ static void placeMasterWindow(const WindowState& row) {
     info.xpos = row.x, info.ypos = row.y, info.width = row.width, info.height = row.height;
     owSetWidgetInfo(MASTER_WINDOW, &info);
 }
+
+} // namespace
 
 void defaultPositionsCommand() {
     deleteWindowStates();
@@ -255,8 +281,10 @@ void defaultPositionsCommand() {
 
 // ---- The master window ----------------------------------------------------------------------------------------
 
+namespace {
+
 // The row keeps the place that the window has, or comes back to, when it is neither maximised nor minimised.
-static void storeMasterPlace(WindowState& state) {
+void storeMasterPlace(WindowState& state) {
     OWIDGET info = {};
     owEnqWidgetInfo(MASTER_WINDOW, &info);
     if (info.state == STATE_MINIMIZED || info.width < 1 || info.height < 1) return;
@@ -266,6 +294,8 @@ static void storeMasterPlace(WindowState& state) {
     state.width = info.width;
     state.height = info.height;
 }
+
+} // namespace
 
 void masterWindowEvent() {
     static bool sheetPending = false;

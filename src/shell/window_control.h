@@ -2,9 +2,6 @@
 // master window that holds them. Built once at start-up, shown and hidden, docked and floated until the end.
 #pragma once
 
-inline constexpr int MASTER_WINDOW = 1; // its handle
-inline constexpr int FORMS_ROOM = 2;    // the free middle of it, which has the input while none of its fields has
-
 void buildMasterWindow(); // with its menus, bars and status bar, at the stored place
 void buildControlWindows();
 void raiseFloatingWindows(); // once the master window shows, above which they belong

@@ -1,57 +1,21 @@
-// Identifiers of the commands and events that more than the shell speaks of; its own are in shell/commands.h.
+// Commands and events of the drawing of forms: their identifiers and their table.
 #pragma once
+
+#include "surface/command.h"
+
+#include <span>
 
 inline constexpr int OBJECT_SELECT_OFFSET = 50000; // select identifier of a widget = handle + this
 
-enum CommandId : int {
-    CMD_RECENT_FIRST = 14090, // and the next four
-    CMD_INSERT_COMMAND = 15020,
-    CMD_COMMIT_CODE = 15021,
-    CMD_CODE_CHANGED = 15022,
-    CMD_CODE_BLOCK = 15023,
-    CMD_CLEAR_CODE = 15024,
-    CMD_CLEAR_ALL_CODE = 15025,
-    CMD_INSERT_FILE = 15027,
-    CMD_PRINT_CODE = 15029,
-    CMD_INSERT_NAME = 15031,
-    CMD_CODE_HELP = 15032,
-    CMD_CODE_TEXT = 15034,
-    CMD_TEXT_REDO = 15041,
-    CMD_TEXT_COPY = 15043,
-    CMD_TEXT_CUT = 15044,
-    CMD_TEXT_DELETE = 15045,
-    CMD_TEXT_TAB = 15046,
-    CMD_FIND = 15049,
-    CMD_HELP_TOOLKIT = 15056,
-    CMD_TEXT_PASTE = 15059,
-    CMD_REPLACE = 15061,
-    CMD_TEXT_UNDO = 15067,
-    CMD_UPPERCASE = 15077,
-    CMD_LOWERCASE = 15078,
-    CMD_CODE_SELECT = 15084,
-    CMD_HELP_BASE = 15085,
-    CMD_HELP_PLOT = 15086,
-    CMD_HELP_MESH = 15087,
+enum SurfaceCommandId : int {
     CMD_COPY = 15130,
     CMD_CUT = 15131,
     CMD_PASTE = 15132,
-    CMD_POPUP = 15133,
     CMD_UNDO = 15134,
     CMD_REDO = 15135,
     CMD_DUPLICATE = 15136,
-    CMD_SOURCE_VIEWER = 15139,
     CMD_NEW_FORM = 15144,
-    CMD_NEW_PROJECT = 15145,
-    CMD_SAVE_PROJECT = 15151,
     CMD_DIALOGUE_TAB = 15165,
-    CMD_FIND_NEXT = 15167,
-    CMD_NAME_CANCEL = 15185,
-    CMD_NAME_OK = 15186,
-    CMD_WIDGET_LIST = 15212,
-    CMD_MENU_ENTRY_LIST = 15215,
-    CMD_TREE_ENTRY_LIST = 15216,
-    CMD_SELECTOR_TABS = 15217,
-    CMD_HELP_DESIGNER = 15225,
     CMD_SNAP_DIALOGUE = 15229,
     CMD_DOUBLE_CLICK = 15277,  // on the adopted widget
     CMD_DESIGN_KEY = 15314,    // an arrow key or Esc on a form
@@ -62,40 +26,20 @@ enum CommandId : int {
     CMD_TOGGLED = 15331,
     CMD_VALUE_EDITED = 15339,
     CMD_VALUE_SELECTED = 15340,
-    CMD_PROPERTY_BUTTON = 15356,
-    CMD_PROPERTY_CHANGED = 15357,
-    CMD_PROPERTY_SELECTED = 15358,
-    CMD_FONT_FACE = 15397,
     CMD_SNAP_ON = 15420,
     CMD_SNAP_OFF = 15421,
     CMD_SNAP_OK = 15422,
     CMD_SNAP_CANCEL = 15423,
     CMD_UNADOPT = 15474,
+    CMD_TAB_ORDER = 15475,
     CMD_ALIGN = 15476,
-    CMD_DEFAULT_POSITIONS = 15485,
-    CMD_RAISE_WINDOWS = 15486,
-    CMD_NAME_WINDOW = 15505,
     CMD_SNAP_WINDOW = 15515,
     CMD_HIERARCHY_ROW = 15529,
-    CMD_INDENT = 15555,
-    CMD_UNINDENT = 15556,
-    CMD_COMMENT = 15557,
-    CMD_UNCOMMENT = 15558,
-    CMD_POINT_SIZE = 15716,
-    CMD_VIEWER_EXIT = 15801,
-    CMD_VIEWER_PRINT = 15802,
-    CMD_VIEWER_COPY = 15803,
-    CMD_VIEWER_SELECT_ALL = 15804,
-    CMD_VIEWER_FIND = 15805,
-    CMD_VIEWER_FIND_NEXT = 15806,
-    CMD_VIEWER_WINDOW = 15807,
-    CMD_VIEWER_CARET = 15808,
-    CMD_VIEWER_GOTO = 15820,
-    CMD_SHOW_ALL = 17100,
-    CMD_ALL_NAMES = 18079,
     CMD_DELETE = 19000,
     CMD_HELP = 19001,
 };
+
+std::span<const Command> surfaceCommands();
 
 // Handles of live widgets are below this; commands lie between 14000 and 20000.
 inline bool isCommand(int identifier) { return identifier >= 14000 && identifier < 20000; }

@@ -1,4 +1,4 @@
-#include "compile/commands.h"
+#include "compile/command_lines.h"
 #include "compile/driver.h"
 #include "compile/execute.h"
 #include "compile/log.h"

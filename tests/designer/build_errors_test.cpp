@@ -11,7 +11,7 @@
 #include "project/code_stores.h"
 #include "project/preferences.h"
 #include "project/tree.h"
-#include "shell/build_commands.h"
+#include "shell/compiler_log.h"
 #include "shell/command_states.h"
 #include "shell/designer.h"
 #include "support/scratch.h"

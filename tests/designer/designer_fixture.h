@@ -4,7 +4,7 @@
 #include "menu-c.h"
 #include "project/records.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "shell/designer.h"
 #include "support/scratch.h"
 

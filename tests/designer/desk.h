@@ -10,7 +10,7 @@
 #include "project/tools.h"
 #include "project/tree.h"
 #include "shell/designer.h"
-#include "surface/commands.h"
+#include "shell/command_table.h"
 #include "surface/selection.h"
 #include "surface/state.h"
 #include "toolkit/testing/robot.h"

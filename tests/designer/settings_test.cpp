@@ -14,7 +14,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-static std::string boxShown;
+namespace {
+
+std::string boxShown;
 
 // A data folder and a current directory of its own for every test, and the last box.
 class SettingsFiles : public testing::Test {
@@ -50,18 +52,22 @@ protected:
     }
 };
 
-static std::string shown(const WindowState& state) {
+std::string shown(const WindowState& state) {
     return std::to_string(state.x) + " " + std::to_string(state.y) + " " + std::to_string(state.width) + " " +
            std::to_string(state.height) + " " + std::to_string(state.state);
 }
 
-static const char* const DEFAULT_ROWS[] = {"4 42 1016 678 4", "0 0 235 513 3", "0 0 150 513 2", "0 0 560 462 2",
+const char* const DEFAULT_ROWS[] = {"4 42 1016 678 4", "0 0 235 513 3", "0 0 150 513 2", "0 0 560 462 2",
                                            "0 0 430 300 32",  "0 0 1000 0 1",  "0 0 1000 0 1",  "0 0 800 119 -1"};
+
+} // namespace
 
 TEST_F(SettingsFiles, WithoutAFileEveryWindowStandsAtItsDefault) {
     loadWindowStates(1024, 768);
     for (int row = 0; row < WINDOW_ROWS; row++) EXPECT_EQ(shown(windowStates[row]), DEFAULT_ROWS[row]) << row;
 }
+
+namespace {
 
 struct WindowFileCase {
     const char* name;
@@ -70,10 +76,10 @@ struct WindowFileCase {
     const char* expected;
 };
 
-static const std::string GOOD_LINE = "    10     20    300    200   2\n";
-static const std::string GOOD_EDITOR = "    10     20    300    200   2  12\n";
+const std::string GOOD_LINE = "    10     20    300    200   2\n";
+const std::string GOOD_EDITOR = "    10     20    300    200   2  12\n";
 
-static const WindowFileCase WINDOW_FILES[] = {
+const WindowFileCase WINDOW_FILES[] = {
     {"seven lines leave the log at its default",
      GOOD_LINE + GOOD_LINE + GOOD_LINE + GOOD_EDITOR + GOOD_LINE + GOOD_LINE + GOOD_LINE, WINDOW_COMPILER_LOG,
      "0 0 800 119 -1"},
@@ -108,6 +114,8 @@ static const WindowFileCase WINDOW_FILES[] = {
     {"the editor's line needs its sixth number", GOOD_LINE + GOOD_LINE + GOOD_LINE + "1 2 3 4 5 x\n",
      WINDOW_CODE_EDITOR, "0 0 560 462 2"},
 };
+
+} // namespace
 
 TEST_F(SettingsFiles, WindowStatesAreReadLineByLine) {
     for (const WindowFileCase& one : WINDOW_FILES) {
@@ -167,7 +175,9 @@ TEST_F(SettingsFiles, AFileThatCannotBeWrittenIsReported) {
 
 // ---- Preferences ----------------------------------------------------------------------------------------------
 
-static std::string slots(std::initializer_list<const char*> texts) {
+namespace {
+
+std::string slots(std::initializer_list<const char*> texts) {
     std::string bytes;
     for (std::string text : texts) {
         text.resize(25, '\0');
@@ -175,6 +185,8 @@ static std::string slots(std::initializer_list<const char*> texts) {
     }
     return bytes;
 }
+
+} // namespace
 
 TEST_F(SettingsFiles, PreferencesHaveTheirDefaults) {
     preferences.autoBackupMinutes = 99;

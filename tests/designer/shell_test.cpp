@@ -11,6 +11,7 @@
 #include "settings/places.h"
 #include "settings/preferences_file.h"
 #include "settings/recent_projects.h"
+#include "shell/environment.h"
 #include "shell/help.h"
 #include "shell/menus.h"
 #include "shell/project_commands.h"
@@ -21,18 +22,39 @@
 #include "toolkit/testing/robot.h"
 
 #include <QWidget>
+#include <map>
+#include <utility>
+
+namespace {
 
 using namespace orba::testing;
 
-static constexpr int BUTTON_TOOL = CMD_TOOL_PUSH_BUTTON;
+constexpr int BUTTON_TOOL = CMD_TOOL_PUSH_BUTTON;
 
-static std::string label(int entry) {
+std::string label(int entry) {
     char text[256];
     owEnqWidgetProp(entry, owLabel, text, 0);
     return text;
 }
 
+} // namespace
+
 // ---- The command line -----------------------------------------------------------------------------------------
+
+// The tables of the rooms are written apart; what they share must not meet twice.
+TEST(CommandTable, NoIdentifierAndNoKeyOfOnePlaceIsGivenTwice) {
+    std::map<int, int> identifiers;
+    std::map<std::pair<int, unsigned>, int> keys;
+    for (const Command& command : commandTable()) {
+        EXPECT_EQ(++identifiers[command.id], 1) << command.id;
+        for (const unsigned place : {IN_DESIGN, IN_TEXT, IN_FIELDS})
+            if (command.key && (command.keyModes & place)) {
+                const int other = std::exchange(keys[{command.key, place}], command.id);
+                EXPECT_EQ(other, 0) << "the key of " << command.id;
+            }
+    }
+    EXPECT_GT(identifiers.size(), 140U);
+}
 
 TEST(CommandLine, NamesOneProject) {
     struct Case {

@@ -6,7 +6,7 @@
 
 #include "menu-c.h"
 #include "shell/command_states.h"
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "shell/designer.h"
 #include "surface/selection.h"
 #include "surface/state.h"

@@ -2,7 +2,7 @@
 
 #include "targets.h"
 
-#include "shell/commands.h"
+#include "shell/command_table.h"
 #include "toolkit/frame/core.h"
 #include "toolkit/testing/robot.h"
 

@@ -1,4 +1,4 @@
-#include "compile/commands.h"
+#include "compile/command_lines.h"
 
 #include "compile/catalogue.h"
 #include "compile/driver.h"

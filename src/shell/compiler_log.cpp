@@ -1,0 +1,62 @@
+#include "shell/compiler_log.h"
+
+#include "compile/log.h"
+#include "editing/modes.h"
+#include "menu-c.h"
+#include "project/preferences.h"
+#include "shell/commands.h"
+#include "surface/event.h"
+
+namespace {
+
+constexpr int LOG_CAPACITY = 2500; // lines that the list holds
+
+int logList = 0;
+
+} // namespace
+
+void buildCompilerLog(int pane) {
+    logList = owCreateListBox(pane, 0, 0, 800, 119, ONONE, owHpos, OCENTRE, owVpos, OMIDDLE, owExpand, 1, owCapacity,
+                              LOG_CAPACITY, owCallback, CMD_LOG_LINE, owDoubleClickCallback, CMD_LOG_PLACE, 0);
+    setLogFont();
+}
+
+int logWidget() { return logList; }
+
+void clearLog() { owSetListEntry(logList, OCLEAR, 0); }
+
+void appendLogLine(const std::string& line) { owSetListEntry(logList, OADD, owString, line.c_str(), 0); }
+
+void setLogLines(const std::vector<std::string>& lines) {
+    clearLog();
+    for (const std::string& line : lines) appendLogLine(line);
+}
+
+void selectLogLine(int line) { owSetListEntry(logList, OSELECT, owEntry, line, 0); }
+
+int currentLogLine() {
+    int count = 0, selected = 0, current = 0;
+    owEnqListStatus(logList, &count, &selected, &current);
+    return current;
+}
+
+void setLogFont() {
+    owSetFontAttribs(logList, owFontFace, "Courier New", owPointSize, preferences.codePointSize, 0);
+    owDrawWidget(logList);
+}
+
+void logPlaceCommand() {
+    if (const int line = currentLogLine(); line > 0) logEntryChosen(line);
+}
+
+// Who walks through the log with the keys goes on doing so.
+void logLineCommand() {
+    const bool chosen = action.key == OKEYLEFTBUTTON || action.key == OKEYRETURN;
+    logPlaceCommand();
+    if (!chosen) owSetActiveWidget(logList);
+}
+
+void printErrorsCommand() {
+    owPrintTextWidget(logList, 0, 0, preferences.codePointSize);
+    enterTextMode();
+}
