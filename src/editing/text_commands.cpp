@@ -65,6 +65,7 @@ std::string changedLines(const std::string& lines, std::string (*change)(const s
 void changeLines(std::string (*change)(const std::string& line)) {
     const int text = editor.text;
     TextRange selected = selectionOf(text);
+    const bool caretOnly = selected.start == selected.end;
     const TextRange old = wholeLines(text, selected);
     const bool any = old.start > 0 && old.start < selected.end;
     const std::string before = extract(text, old);
@@ -73,6 +74,7 @@ void changeLines(std::string (*change)(const std::string& line)) {
         replaceRange(text, old, after);
         selected.end += characters(after) - (old.end - old.start);
     }
+    if (caretOnly) selected.start = selected.end; // nothing selected: the next key would replace it
     select(text, selected);
     markModified();
     owSetActiveWidget(text); // an icon has sent it

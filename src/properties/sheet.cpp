@@ -53,6 +53,7 @@ struct Sheet {
     int pane = 0;
     int panel = 0;
     int list = 0;
+    int labelWidth = LABEL_WIDTH; // of the labels, as the user left it
     WidgetNode* widget = nullptr; // null: no rows
     std::vector<ShownRow> rows;
     std::string label = FALLBACK_LABEL; // of the selected row
@@ -229,7 +230,7 @@ void addRow(const WidgetNode& widget, RowId id) {
 void makeList() {
     int width = 0, height = 0;
     owEnqWidgetProp(sheet.panel, owWidth, &width, owHeight, &height, 0);
-    sheet.list = owCreatePropertyList(sheet.panel, 0, 0, width, height, owColumnWidth, LABEL_WIDTH, owRowHeight,
+    sheet.list = owCreatePropertyList(sheet.panel, 0, 0, width, height, owColumnWidth, sheet.labelWidth, owRowHeight,
                                       preferences.codePointSize + 2 * ROW_MARGIN, owExpand, 1, owVpos, OMIDDLE, owHpos,
                                       OCENTRE, owSelectCallback, CMD_PROPERTY_SELECTED, owCallback, CMD_PROPERTY_BUTTON,
                                       owChangeCallback, CMD_PROPERTY_CHANGED, 0);
@@ -237,7 +238,10 @@ void makeList() {
 
 void eraseList() {
     sheet.rows.clear();
-    if (sheet.list) owEraseWidget(sheet.list);
+    if (sheet.list) {
+        owEnqWidgetProp(sheet.list, owColumnWidth, &sheet.labelWidth, 0);
+        owEraseWidget(sheet.list);
+    }
     sheet.list = 0;
 }
 

@@ -19,6 +19,8 @@
 #include "surface/state.h"
 #include "toolkit/testing/robot.h"
 
+#include <QTextBlock>
+#include <QTextEdit>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -78,6 +80,9 @@ struct BuildErrors : testing::Test {
         EXPECT_TRUE(textModeInForce());
         const int start = caretLineStart(codeText());
         EXPECT_EQ(extract(codeText(), {start, start + lineLength(codeText(), start)}), line);
+        const auto marks = orba::testing::viewOf(codeText())->findChild<QTextEdit*>()->extraSelections();
+        ASSERT_EQ(marks.size(), 1);
+        EXPECT_EQ(marks[0].cursor.block().text().toStdString(), line);
     }
     static std::string behindCaret() {
         const int caret = selectionOf(codeText()).start;

@@ -122,6 +122,19 @@ TEST(Editor, CommandsOnLines) {
     }
 }
 
+TEST(Editor, ACaretStaysACaretWhenItsLineChanges) {
+    Desk desk;
+    showBlock(desk, "User Routines/Functions");
+    owSetTextSetting(codeText(), "abc\nd", 0);
+    select(codeText(), {3, 3});
+    for (const int command : {CMD_COMMENT, CMD_UNCOMMENT}) {
+        desk.command(command);
+        const TextRange range = selectionOf(codeText());
+        EXPECT_EQ(range.start, command == CMD_COMMENT ? 4 : 3);
+        EXPECT_EQ(range.end, range.start);
+    }
+}
+
 TEST(Editor, AnyNumberOfLinesIsOneEdit) {
     Desk desk;
     preferences.selectedIndent = 3;

@@ -33,6 +33,24 @@ TEST(Properties, LabelReachesTheLiveButton) {
     EXPECT_EQ(robot::gripCount(), 8) << "the handles come back";
 }
 
+TEST(Properties, TheLabelsKeepTheWidthThatTheUserGaveThem) {
+    Desk desk;
+    const auto labelWidth = [] {
+        int width = 0;
+        owEnqWidgetProp(propertyList(), owColumnWidth, &width, 0);
+        return width;
+    };
+    const int before = labelWidth();
+    robot::drag(propertyList(), {before, 40}, {before - 50, 40});
+    desk.run();
+    const int given = labelWidth();
+    EXPECT_LT(given, before - 40);
+    desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    EXPECT_EQ(labelWidth(), given);
+    selectWidget(desk.form);
+    EXPECT_EQ(labelWidth(), given);
+}
+
 TEST(Properties, BadNameIsRefusedAndTheOldOneStays) {
     Desk desk;
     WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);

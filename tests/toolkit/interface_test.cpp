@@ -23,7 +23,8 @@ const Declarations cOnly = {"int owEnqShiftKey(void)",
                             "void owDefineWidgetKeyCallback(int, int, int)",
                             "int owEnqWidgetKeyCallback(int, int)",
                             "void owDefineInputCallback(int)",
-                            "void owSetWindowInput(int)"};
+                            "void owSetWindowInput(int)",
+                            "void owMarkTextLine(int, int)"};
 
 // A declaration by its types: parameters may bear any name.
 std::string typesOf(const std::string& declaration) {

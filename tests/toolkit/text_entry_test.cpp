@@ -17,6 +17,23 @@ protected:
     static int position(int handle, int property, int at) { return owEnqTextPos(handle, property, owPosition, at, 0); }
 };
 
+TEST_F(TextEntries, AMarkedLineIsShadedUntilTheTextChanges) {
+    const int text = entry("one\r\ntwo\r\nthree", 120);
+    auto* edit = view(text)->findChild<QTextEdit*>();
+    ASSERT_TRUE(edit);
+    owMarkTextLine(text, 2);
+    ASSERT_EQ(edit->extraSelections().size(), 1);
+    EXPECT_EQ(edit->extraSelections()[0].cursor.blockNumber(), 1);
+    focus(text);
+    QTest::keyClick(field(text), Qt::Key_Down);
+    EXPECT_EQ(edit->extraSelections().size(), 1) << "the caret may move";
+    QTest::keyClicks(field(text), "d");
+    EXPECT_TRUE(edit->extraSelections().isEmpty());
+    owMarkTextLine(text, 1);
+    owMarkTextLine(text, 4);
+    EXPECT_TRUE(edit->extraSelections().isEmpty()) << "there is no such line";
+}
+
 TEST_F(TextEntries, TypingRaisesChangeAndLeavingRaisesTheGeneralEvent) {
     const int text = entry("abc"), other = entry("", 22);
     focus(text);

@@ -744,6 +744,7 @@ int owEnqTextPos(int text, int property, ...);                  /* owPosition; 0
 void owEnqSelectedTextRange(int text, int* start, int* end, ...); /* owLength, owString: the text as well */
 void owSetSelectedTextRange(int text, int start, int end);      /* 1, 0 or 1, -1 all; 0, 0 nothing */
 void owEnqSelectedText(int text, char* buffer, int length);
+void owMarkTextLine(int text, int line);                        /* shades a line, from 1, until the text changes; 0: none */
 int owFindText(int text, int start, const char* string, ...);   /* position of the match, 0 for none */
 int owFindTextDialogue(int text, char* buffer, int length);     /* 1 found; the string looked for comes back */
 int owReplaceTextDialogue(int text, char* buffer, int length);

@@ -278,6 +278,7 @@ void TextEntry::userChanged() {
     // Colours of words are signalled like changes; then only the text itself tells.
     if (edit_ && (highlighter_ || options_.autoUrl) && std::exchange(coloured_, index().text()) == index().text())
         return;
+    markLine(0);
     if (program_) return;
     changedSinceFocus_ = true;
     if (hooks_.changed) hooks_.changed();

@@ -89,6 +89,7 @@ public:
     int textLength() const; // bytes that text() gives, rich text as RTF where it was loaded as such
     std::string wordAt(int position, int& start) const;
     void scrollToCaret();
+    void markLine(int line); // shades it, counted from 1, until the text changes; 0: none
 
     bool canUndo() const;
     bool canRedo() const;

@@ -270,4 +270,21 @@ std::unique_ptr<QTextDocument> TextEntry::printable(int pointSize, bool selectio
     return copy;
 }
 
+void TextEntry::markLine(int line) {
+    if (!edit_) return;
+    QList<QTextEdit::ExtraSelection> marks;
+    const QTextBlock block = edit_->document()->findBlockByNumber(line - 1);
+    if (line > 0 && block.isValid()) {
+        constexpr int STRENGTH = 56; // of 255: the colours of the text stay readable
+        QColor shade = edit_->palette().color(QPalette::Highlight);
+        shade.setAlpha(STRENGTH);
+        QTextEdit::ExtraSelection mark;
+        mark.cursor = QTextCursor(block);
+        mark.format.setBackground(shade);
+        mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+        marks.append(mark);
+    }
+    edit_->setExtraSelections(marks);
+}
+
 } // namespace orba
