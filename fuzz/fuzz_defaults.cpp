@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     if (!loadDefaults(memoryFolder() + "/in.wdd")) abort();
     for (std::size_t i = 0; i < defaultOrder.size(); ++i)
         if (!defaultRecords[i] || defaultRecords[i]->type != defaultOrder[i] || defaultRecords[i]->next) abort();
-    deleteNode(createFromDefaults(TYPE_TABLE_BOX, 3, 4));
+    createFromDefaults(TYPE_TABLE_BOX, 3, 4);
     if (!saveDefaults(memoryFolder() + "/out.wdd")) abort();
     freeDefaults();
     return 0;

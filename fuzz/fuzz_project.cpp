@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     if (countRecords() != records) abort();
     mendProject();
     if (!project.forms || project.forms->type != TYPE_FORM || !project.forms->child) abort();
-    deleteList(copyNode(project.forms, true));
+    copyNode(project.forms, true);
     for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms)) {
         if (!n->name.empty() && !findName(project.forms, n->name, false)) abort();
         if (formOf(n, project.forms)->type != TYPE_FORM) abort();

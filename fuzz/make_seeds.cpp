@@ -31,7 +31,8 @@ int main(int argc, char** argv) {
         if (version >= 30) {
             write(folder + "/form" + name + "-small", encodeForm(image, project.forms, 10, 10));
             makeDefaults();
-            const std::vector<const WidgetNode*> records(defaultRecords.begin(), defaultRecords.end());
+            std::vector<const WidgetNode*> records;
+            for (const OwnedList& record : defaultRecords) records.push_back(record.get());
             write(folder + "/defaults" + name, encodeDefaults(image, records));
         }
         randomProject(random, 1, 3);

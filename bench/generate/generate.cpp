@@ -87,14 +87,15 @@ void addEntries(WidgetNode& node, UiFile& ui) {
 
 void addWidget(WidgetNode& parent, int number, UiFile& ui) {
     const Kind& kind = KINDS[static_cast<std::size_t>(number) % std::size(KINDS)];
-    WidgetNode* node = createFromDefaults(kind.type, number % 20 * 10, number / 20 % 20 * 10);
+    OwnedList made = createFromDefaults(kind.type, number % 20 * 10, number / 20 % 20 * 10);
+    WidgetNode* node = made.get();
     node->name = "Widget" + std::to_string(number);
     node->text = *kind.textProperty != '\0' ? "Text of widget " + std::to_string(number) : "";
     if (number % 3 == 0) node->bubbleHelp = "What this widget is for";
     if (number % 5 == 0) node->bold = 1;
     node->value = 7;
     node->maxValue = 90;
-    linkChild(parent, node);
+    linkChild(parent, std::move(made));
     ui.begin(kind.qtClass, *node, kind.textProperty);
     if (node->listEntries.empty() && (kind.type == TYPE_LIST_BOX || kind.type == TYPE_COMBO_BOX)) addEntries(*node, ui);
     if (kind.type == TYPE_VALUE_ENTRY) ui.limits(*node, "double");
@@ -117,10 +118,9 @@ void makeFiles(const fs::path& folder, const std::string& name, int widgets) {
         }
         if (number % WIDGETS_ON_A_PANEL == 0) {
             if (number % WIDGETS_ON_A_FORM != 0) ui.end();
-            panel = createFromDefaults(TYPE_PANEL, 10, number % WIDGETS_ON_A_FORM);
+            panel = linkChild(*form->child, createFromDefaults(TYPE_PANEL, 10, number % WIDGETS_ON_A_FORM));
             panel->name = "Panel" + std::to_string(number);
             panel->text = "Panel";
-            linkChild(*form->child, panel);
             ui.begin("QGroupBox", *panel, "title");
         }
         addWidget(*panel, number, ui);

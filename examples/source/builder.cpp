@@ -46,14 +46,15 @@ WidgetNode& addForm(const std::string& name, const std::string& title, int formT
 WidgetNode& add(WidgetNode& parent, WidgetType type, const std::string& name, int x, int y, int width, int height,
                 const std::string& text) {
     WidgetNode& home = parent.type == TYPE_FORM && type != TYPE_TOOL_BAR ? mainPanelOf(parent) : parent;
-    WidgetNode* node = createFromDefaults(type, x, y);
+    OwnedList made = createFromDefaults(type, x, y);
+    WidgetNode* node = made.get();
     node->xpos = x;
     node->ypos = home.height - y - height; // default records count from the top
     node->width = width;
     node->height = height;
     node->text = text;
     node->name.clear();
-    linkChild(home, node);
+    linkChild(home, std::move(made));
     renameNode(*node, name);
     project.widgetCount++;
     return *node;

@@ -186,7 +186,6 @@ bool generateSource(const std::string& path, const std::string& fileName, Genera
     GeneratedText own;
     const bool made = generated ? generateText(path, *generated) : generateText(path, own, toFile);
     if (!made) {
-        abandonSafeFile(file);
         busy.end();
         host.errorBox("Error during save",
                       "The project has no master form, so there is no program to generate.|Set the Form "

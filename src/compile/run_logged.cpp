@@ -69,13 +69,14 @@ bool openLoggedRun(LoggedRun& run, const std::string& recordPath, const std::str
     run.record = std::fopen(recordPath.c_str(), "wb");
     run.log = createLogFile(logPath);
     if (run.log != NO_LOG) return true;
-    closeLoggedRun(run);
     return false;
 }
 
+LoggedRun::~LoggedRun() { closeLoggedRun(*this); }
+
 void closeLoggedRun(LoggedRun& run) {
     if (run.record) std::fclose(run.record);
-    closeLogFile(run.log);
+    if (run.log != NO_LOG) closeLogFile(run.log);
     run.record = nullptr;
     run.log = NO_LOG;
 }

@@ -8,6 +8,11 @@
 #include <string>
 
 struct LoggedRun {
+    LoggedRun() = default;
+    LoggedRun(const LoggedRun&) = delete;
+    LoggedRun& operator=(const LoggedRun&) = delete;
+    ~LoggedRun();
+
     LogHandle log = NO_LOG;
     std::FILE* record = nullptr; // takes each command line, one a line
     std::string logPath;         // the log by name
@@ -23,7 +28,7 @@ struct LoggedRun {
 
 // Creates the record and the log. False, with lastSystemError set, when the log cannot be written.
 bool openLoggedRun(LoggedRun& run, const std::string& recordPath, const std::string& logPath);
-void closeLoggedRun(LoggedRun& run);
+void closeLoggedRun(LoggedRun& run); // before its end, for those who read the log
 
 // 1 when the process could be started, else 0; how it ended is only in run.exitCode. Waits without limit; ends a
 // command that fills the log beyond LOG_BYTES_LIMIT. With `reportFailure` a failed start is reported in a box titled

@@ -8,7 +8,13 @@
 #include <cstdio>
 #include <string>
 
+// Opened once.
 struct SafeFile {
+    SafeFile() = default;
+    SafeFile(const SafeFile&) = delete;
+    SafeFile& operator=(const SafeFile&) = delete;
+    ~SafeFile(); // abandons what was not committed
+
     std::intptr_t handle = -1; // -1 when not open
     std::string target;        // the file to replace; links are followed
     std::string temporary;     // empty for a device or pipe, which is written as it is

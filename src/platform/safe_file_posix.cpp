@@ -93,7 +93,6 @@ bool openTemporary(SafeFile& file, mode_t mode) {
 } // namespace
 
 bool openSafeFile(SafeFile& file, const std::string& path) {
-    file = SafeFile();
     if (path.empty()) {
         errno = ENOENT;
         return fail(file);
@@ -144,6 +143,10 @@ bool commitSafeFile(SafeFile& file, bool keepOld) {
     }
     flushFolder(file.target);
     return true;
+}
+
+SafeFile::~SafeFile() {
+    if (handle >= 0) abandonSafeFile(*this);
 }
 
 void abandonSafeFile(SafeFile& file) {

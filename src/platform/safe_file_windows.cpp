@@ -28,7 +28,6 @@ bool isOpen(const SafeFile& file) { return file.handle != -1; }
 } // namespace
 
 bool openSafeFile(SafeFile& file, const std::string& path) {
-    file = SafeFile();
     file.target = path;
     const DWORD attributes = GetFileAttributesW(wide(path).c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY))) {
@@ -71,6 +70,10 @@ bool commitSafeFile(SafeFile& file, bool keepOld) {
         fail(file);
     if (file.failed) DeleteFileW(temporary.c_str());
     return !file.failed;
+}
+
+SafeFile::~SafeFile() {
+    if (isOpen(*this)) abandonSafeFile(*this);
 }
 
 void abandonSafeFile(SafeFile& file) {

@@ -67,10 +67,10 @@ int defaultsColourIndex(float red, float green, float blue) {
 void mapDefaultColours() {
     constexpr std::array fields = {&WidgetNode::colour1, &WidgetNode::colour2, &WidgetNode::colour3,
                                    &WidgetNode::colour4};
-    for (WidgetNode* record : defaultRecords) {
+    for (const OwnedList& record : defaultRecords) {
         if (!record) continue;
         for (int WidgetNode::*field : fields) {
-            int& index = record->*field;
+            int& index = (*record).*field;
             if (index < FIXED_COLOURS || index >= COLOURS) continue; // fixed colours stay what they are
             float red = 0;
             float green = 0;

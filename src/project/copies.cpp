@@ -17,11 +17,11 @@ WidgetNode* copyRecord(const WidgetNode& source) {
 
 } // namespace
 
-WidgetNode* copyNode(const WidgetNode* node, bool withSiblings) {
+OwnedList copyNode(const WidgetNode* node, bool withSiblings) {
     if (!node) return nullptr;
-    WidgetNode* top = copyRecord(*node);
+    OwnedList top(copyRecord(*node));
     const WidgetNode* source = node;
-    WidgetNode* copy = top;
+    WidgetNode* copy = top.get();
     for (;;) {
         if (source->child) {
             source = source->child;

@@ -13,7 +13,7 @@ const std::array<WidgetType, DEFAULT_RECORDS> defaultOrder = [] {
     return order;
 }();
 
-std::array<WidgetNode*, DEFAULT_RECORDS> defaultRecords{};
+std::array<OwnedList, DEFAULT_RECORDS> defaultRecords;
 
 namespace {
 
@@ -88,10 +88,10 @@ void give(WidgetNode& node, const Value& value) {
 
 } // namespace
 
-WidgetNode* makeDefaultRecord(WidgetType type) {
+OwnedList makeDefaultRecord(WidgetType type) {
     const Built* row = rowOf(builtIn, type);
     if (!row || cardOf(type).defaultPlace == 0) return nullptr;
-    auto* node = new WidgetNode();
+    OwnedList node(new WidgetNode());
     node->type = type;
     node->justify = -1;
     node->hpos = -1;
@@ -112,9 +112,9 @@ WidgetNode* makeDefaultRecord(WidgetType type) {
 WidgetNode* defaultRecord(WidgetType type) {
     const int place = cardOf(type).defaultPlace;
     if (place == 0) return nullptr;
-    WidgetNode*& record = defaultRecords[static_cast<std::size_t>(place - 1)];
+    OwnedList& record = defaultRecords[static_cast<std::size_t>(place - 1)];
     if (!record) record = makeDefaultRecord(type);
-    return record;
+    return record.get();
 }
 
 void makeDefaults() {
@@ -123,8 +123,5 @@ void makeDefaults() {
 }
 
 void freeDefaults() {
-    for (WidgetNode*& record : defaultRecords) {
-        deleteNode(record);
-        record = nullptr;
-    }
+    for (OwnedList& record : defaultRecords) record.reset();
 }

@@ -10,14 +10,11 @@
 namespace {
 
 // One record, without siblings. Of another type than its place asks for, or with nothing left to read: built in.
-WidgetNode* readDefault(RecordSource& source, WidgetType type) {
+OwnedList readDefault(RecordSource& source, WidgetType type) {
     if (source.version < cardOf(type).defaultSince || source.reader.ended) return makeDefaultRecord(type);
-    WidgetNode* record = readRecords(source);
-    deleteList(record->next);
-    record->next = nullptr;
+    OwnedList record = std::move(parted(readRecords(source)).front());
     if (record->type == type) return record;
     source.reader.damaged = true;
-    deleteNode(record);
     return makeDefaultRecord(type);
 }
 
@@ -42,7 +39,6 @@ bool loadDefaults(const std::string& path) {
     freeDefaults();
     readAllColours(reader);
     for (std::size_t i = 0; i < defaultOrder.size(); ++i) defaultRecords[i] = readDefault(source, defaultOrder[i]);
-    closeReader(reader);
     mapDefaultColours();
     if (reader.damaged) reportIncomplete(path);
     return true;

@@ -29,8 +29,8 @@ void intoCells(WidgetNode& node, int x, int y) {
     for (int& height : node.rowHeights) height = std::max(1, height / std::max(1, project.gridPixelY));
 }
 
-WidgetNode* mainPanelFor(const WidgetNode& form) {
-    WidgetNode* panel = createFromDefaults(TYPE_FORM, 0, 0);
+OwnedList mainPanelFor(const WidgetNode& form) {
+    OwnedList panel = createFromDefaults(TYPE_FORM, 0, 0);
     panel->type = TYPE_MAIN_PANEL;
     panel->name = (form.name + "_MainPanel").substr(0, NAME_LIMIT);
     panel->text.clear();
@@ -78,10 +78,10 @@ std::string resourceName(std::string_view path) {
     return name.substr(0, name.find('.'));
 }
 
-WidgetNode* createFromDefaults(WidgetType type, int x, int y) {
+OwnedList createFromDefaults(WidgetType type, int x, int y) {
     WidgetNode* source = defaultRecord(type);
     if (!source) return nullptr;
-    WidgetNode* node = copyNode(source, false);
+    OwnedList node = copyNode(source, false);
     if (project.gridMode == 1) {
         intoCells(*node, x, y);
         return node;
@@ -97,7 +97,7 @@ WidgetNode* newForm() {
     while (!nameFree("Form" + std::to_string(project.nextFormNumber)) ||
            !nameFree("Form" + std::to_string(project.nextFormNumber) + "_MainPanel"))
         takeNumber(project.nextFormNumber);
-    WidgetNode* form = createFromDefaults(TYPE_FORM, project.nextFormX, project.nextFormY);
+    OwnedList form = createFromDefaults(TYPE_FORM, project.nextFormX, project.nextFormY);
     if (project.projectPlatform != 'w') {
         form->icon = "MBIG1084";
         form->iconId = 84;
@@ -109,11 +109,10 @@ WidgetNode* newForm() {
     form->parentName = "NONE";
     ++project.widgetCount;
     linkChild(*form, mainPanelFor(*form));
-    appendForm(form);
     takeNumber(project.nextFormNumber);
     project.nextFormX += project.gridPixelX;
     project.nextFormY += project.gridPixelY;
-    return form;
+    return appendForm(std::move(form));
 }
 
 void resetProject() {

@@ -48,15 +48,15 @@ WidgetNode* lastForm() {
 }
 
 // Appends the chain; false when its first form has a name that a form of the project has already.
-bool appendForms(WidgetNode* first) {
+bool appendForms(OwnedList forms) {
+    WidgetNode* first = forms.get();
     const bool form = findForm(project.forms, first->name);
     if (form || NamesInUse().count(first->name) > 0) {
         host.errorBox("Invalid Form Name", form ? "Form of same name alredy exists in this project"
                                                 : first->name + " is a name of something else in this project already");
-        deleteList(first);
         return false;
     }
-    adoptForms(first);
+    adoptForms(std::move(forms));
     const std::string changed = numberTakenNames(first);
     if (!changed.empty())
         host.infoBox("Insert Form", "Names of the form that this project has already were changed:|" +
@@ -75,17 +75,13 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
         return 0;
     }
     const FileHeader header = readHeader(reader);
-    if (!knownVersion(header) || !headerFits(header) || !snapFits(reader)) {
-        closeReader(reader);
-        return 0;
-    }
+    if (!knownVersion(header) || !headerFits(header) || !snapFits(reader)) return 0;
     project.fileVersion = header.version;
     RecordSource source{.reader = reader, .version = header.version};
-    WidgetNode* forms = readRecords(source);
-    closeReader(reader);
-    if (header.version < VERSION_71) convertOldCode(forms);
+    OwnedList forms = readRecords(source);
+    if (header.version < VERSION_71) convertOldCode(forms.get());
     WidgetNode* last = lastForm();
-    if (!appendForms(forms)) return 0;
+    if (!appendForms(std::move(forms))) return 0;
     project.formFileName = name;
     project.formFileDir = givenFolder;
     damagedFormFile.clear();
@@ -93,9 +89,9 @@ int insertForm(const std::string& givenFolder, const std::string& givenName, Wid
         damagedFormFile = path;
         reportIncomplete(path);
     }
-    forms = last ? last->next : project.forms;
-    if (!forms) return 0; // the file held no form
-    if (first) *first = forms;
+    WidgetNode* inserted = last ? last->next : project.forms;
+    if (!inserted) return 0; // the file held no form
+    if (first) *first = inserted;
     takeNumber(project.nextFormNumber);
     return project.nextFormNumber;
 }
@@ -107,10 +103,7 @@ bool loadFormAlone(const std::string& path) {
         return false;
     }
     const FileHeader header = readHeader(reader);
-    if (!knownVersion(header)) {
-        closeReader(reader);
-        return false;
-    }
+    if (!knownVersion(header)) return false;
     resetProject();
     project.projectPlatform = header.platform;
     project.projectLanguage = header.language;
@@ -120,10 +113,9 @@ bool loadFormAlone(const std::string& path) {
     readNumber(reader, project.snapGrid);
     readNumber(reader, second);
     RecordSource source{.reader = reader, .version = header.version};
-    WidgetNode* forms = readRecords(source);
-    closeReader(reader);
-    if (header.version < VERSION_71) convertOldCode(forms);
-    adoptForms(forms);
+    OwnedList forms = readRecords(source);
+    if (header.version < VERSION_71) convertOldCode(forms.get());
+    adoptForms(std::move(forms));
     project.widgetCount = source.namedRecords;
     if (reader.damaged) {
         damagedFormFile = path;

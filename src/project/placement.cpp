@@ -198,15 +198,15 @@ Placement placeWidget(int tool, WidgetNode* givenParent, float clickX, float cli
     WidgetNode* parent = row ? checkedParent(*row, givenParent) : nullptr;
     if (!parent) return placement;
     clickToPixels(*parent, clickX, clickY);
-    WidgetNode* node = createFromDefaults(row->type, wholePosition(clickX), wholePosition(clickY));
-    if (row->text) node->text = numbered(row->text, counterOf(row->type));
+    OwnedList made = createFromDefaults(row->type, wholePosition(clickX), wholePosition(clickY));
+    if (row->text) made->text = numbered(row->text, counterOf(row->type));
     if (tool == TOOL_RADIO_BUTTON && parent->type == TYPE_PANEL && !parent->child) {
         placement.oldName = parent->name;
         placement.converted = parent;
         convertToRadioBox(*parent);
     }
-    settleByPlatform(*node, parent->type == TYPE_RADIO_BOX);
-    linkChild(*parent, node);
+    settleByPlatform(*made, parent->type == TYPE_RADIO_BOX);
+    WidgetNode* node = linkChild(*parent, std::move(made));
     defaultName(node, NAME_NEW, false);
     node->onToolbar = parent->type == TYPE_TOOL_BAR ? 1 : 0;
     markProjectChanged();

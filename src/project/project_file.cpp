@@ -268,7 +268,6 @@ bool loadProject(const std::string& folder, const std::string& givenName) {
     }
     const FileHeader header = readHeader(reader);
     if (header.version == 0) {
-        closeReader(reader);
         busy.end();
         reportUnknownHeader(header, " v8.5");
         return false;
@@ -277,7 +276,6 @@ bool loadProject(const std::string& folder, const std::string& givenName) {
     const GridNumbers grid = readGrid(reader, header.version);
     takeGrid(grid);
     readContents(reader, header.version, grid);
-    closeReader(reader);
     if (header.version < VERSION_71) convertCodeOfOldFile();
     settleOldGrid(header.version);
     mapDefaultColours();

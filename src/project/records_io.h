@@ -14,6 +14,7 @@
 #pragma once
 
 #include "project/stream.h"
+#include "project/tree.h"
 
 struct RecordSource {
     FileReader& reader;
@@ -23,9 +24,9 @@ struct RecordSource {
     int namedRecords = 0;     // read so far, main panels left out
 };
 
-// Reads a chain with all that is below it; the caller owns it. There is always a first record, empty when the data
+// Reads a chain with all that is below it. There is always a first record, empty when the data
 // ended ahead of it. Code of versions before 7.1 is left as it stands in the file.
-WidgetNode* readRecords(RecordSource& source);
+OwnedList readRecords(RecordSource& source);
 
 // Writes a chain. Brings fieldWidth and the sizes of live arrays up to date in the records.
 void writeRecords(FileWriter& writer, WidgetNode* first);

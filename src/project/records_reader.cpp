@@ -194,14 +194,12 @@ Keyword readSections(RecordSource& source, WidgetNode& node) {
 // Reads a record and hangs it behind `previous` below `parent`. Null when the data ended ahead of it.
 WidgetNode* readRecord(RecordSource& source, WidgetNode* parent, WidgetNode* previous) {
     const std::uint64_t before = source.reader.fields;
-    auto* node = new WidgetNode();
-    node->inProject = source.intoProject;
-    if (node->inProject) node->id = newRecordId();
-    readFields(source, *node);
-    if (source.reader.fields == before && (previous || parent)) {
-        delete node;
-        return nullptr;
-    }
+    auto record = std::make_unique<WidgetNode>();
+    record->inProject = source.intoProject;
+    if (record->inProject) record->id = newRecordId();
+    readFields(source, *record);
+    if (source.reader.fields == before && (previous || parent)) return nullptr;
+    WidgetNode* node = record.release();
     node->parent = parent;
     if (previous)
         previous->next = node;
@@ -213,9 +211,9 @@ WidgetNode* readRecord(RecordSource& source, WidgetNode* parent, WidgetNode* pre
 
 } // namespace
 
-WidgetNode* readRecords(RecordSource& source) {
-    WidgetNode* first = readRecord(source, nullptr, nullptr);
-    WidgetNode* node = first;
+OwnedList readRecords(RecordSource& source) {
+    OwnedList first(readRecord(source, nullptr, nullptr));
+    WidgetNode* node = first.get();
     while (node) {
         switch (readSections(source, *node)) {
         case KEY_CHILD: {

@@ -34,7 +34,7 @@ bool refill(FileReader& reader) {
     std::memmove(reader.buffer.get(), reader.buffer.get() + reader.position, reader.end - reader.position);
     reader.end -= reader.position;
     reader.position = 0;
-    const std::size_t got = std::fread(reader.buffer.get() + reader.end, 1, BUFFER - reader.end, reader.file);
+    const std::size_t got = std::fread(reader.buffer.get() + reader.end, 1, BUFFER - reader.end, reader.file.get());
     reader.end += got;
     return got > 0;
 }
@@ -79,20 +79,15 @@ char* formatReal(char* slot, char* end, float value, FieldKind kind) {
 
 bool openReader(FileReader& reader, const std::string& path) {
     reader = FileReader();
-    reader.file = openForReading(path);
-    if (!reader.file) return false;
-    std::setvbuf(reader.file, nullptr, _IONBF, 0);
+    reader.file.reset(openForReading(path));
+    if (!reader.file.get()) return false;
+    std::setvbuf(reader.file.get(), nullptr, _IONBF, 0);
     reader.buffer = std::make_unique_for_overwrite<char[]>(BUFFER);
     return true;
 }
 
-void closeReader(FileReader& reader) {
-    if (reader.file) std::fclose(reader.file);
-    reader.file = nullptr;
-}
-
 void rewindReader(FileReader& reader) {
-    std::rewind(reader.file);
+    std::rewind(reader.file.get());
     reader.position = reader.end = 0;
     reader.fields = 0;
     reader.ended = reader.damaged = false;

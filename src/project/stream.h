@@ -14,7 +14,10 @@ enum Keyword { KEY_NONE, KEY_CHILD, KEY_NEXT, KEY_MENU, KEY_LIST, KEY_ARRAY, KEY
 // Reads through a buffer of its own. A field that is not wholly there counts as unread: the destination stays, `ended`
 // is set, and nothing more is read.
 struct FileReader {
-    std::FILE* file = nullptr;
+    struct Close {
+        void operator()(std::FILE* open) const { std::fclose(open); }
+    };
+    std::unique_ptr<std::FILE, Close> file;
     std::unique_ptr<char[]> buffer;
     std::size_t position = 0;
     std::size_t end = 0;
@@ -24,7 +27,6 @@ struct FileReader {
 };
 
 bool openReader(FileReader& reader, const std::string& path);
-void closeReader(FileReader& reader);
 void rewindReader(FileReader& reader); // back to the first byte
 
 const char* take(FileReader& reader, std::size_t bytes); // at most a few thousand; null at the end

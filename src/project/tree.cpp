@@ -152,6 +152,15 @@ bool bearsName(const WidgetNode& node, std::string_view name) {
     return node.name == name || (node.statusBar && node.statusBar->name == name);
 }
 
+// One record; what it holds links to is freed on its own.
+void freeRecord(WidgetNode* node) {
+    leaveIndex(*node);
+    if (node->parent && node->parent->lastChild == node) node->parent->lastChild = nullptr;
+    if (lastForm == node) lastForm = nullptr;
+    if (project.currentWidget == node) project.currentWidget = nullptr;
+    delete node;
+}
+
 // Everything of `first` and, with `withSiblings`, behind it; freed from the tail to the head, leaves first.
 void freeAll(WidgetNode* first, bool withSiblings) {
     std::vector<WidgetNode*> order;
@@ -284,51 +293,64 @@ void clearSelected(WidgetNode* list) {
     for (WidgetNode* node = list; node; node = walkList(node, list)) node->selected = 0;
 }
 
-void appendForm(WidgetNode* form) {
+WidgetNode* appendForm(OwnedList owned) {
+    WidgetNode* form = owned.release();
     form->parent = nullptr;
     form->next = nullptr;
     WidgetNode* last = project.forms ? lastOf(lastForm, project.forms) : nullptr;
     (last ? last->next : project.forms) = form;
     lastForm = form;
     setInProject(*form, true);
+    return form;
 }
 
-void adoptForms(WidgetNode* first) {
-    while (first) {
-        WidgetNode* next = first->next;
-        appendForm(first);
-        first = next;
+std::vector<OwnedList> parted(OwnedList chain) {
+    std::vector<OwnedList> records;
+    for (WidgetNode* node = chain.release(); node;) {
+        WidgetNode* next = node->next;
+        node->next = nullptr;
+        records.emplace_back(node);
+        node = next;
     }
+    return records;
+}
+
+void adoptForms(OwnedList first) {
+    for (OwnedList& form : parted(std::move(first))) appendForm(std::move(form));
 }
 
 void moveFormToHead(WidgetNode* form) {
     if (project.forms == form) return;
-    unlinkNode(form);
-    form->next = project.forms;
+    OwnedList moved = unlinkNode(form);
+    moved->next = project.forms;
     if (!project.forms) lastForm = form;
-    project.forms = form;
+    project.forms = moved.release();
     setInProject(*form, true);
 }
 
-void linkChild(WidgetNode& parent, WidgetNode* node) {
+WidgetNode* linkChild(WidgetNode& parent, OwnedList owned) {
+    WidgetNode* node = owned.release();
     WidgetNode* last = lastOf(parent.lastChild, parent.child);
     (last ? last->next : parent.child) = node;
     parent.lastChild = node;
     node->next = nullptr;
     node->parent = &parent;
     if (parent.inProject) setInProject(*node, true);
+    return node;
 }
 
-void linkChildAfter(WidgetNode& parent, WidgetNode* previous, WidgetNode* node) {
+WidgetNode* linkChildAfter(WidgetNode& parent, WidgetNode* previous, OwnedList owned) {
+    WidgetNode* node = owned.release();
     WidgetNode*& link = previous ? previous->next : parent.child;
     node->next = link;
     link = node;
     node->parent = &parent;
     if (!node->next) parent.lastChild = node;
     if (parent.inProject) setInProject(*node, true);
+    return node;
 }
 
-void unlinkNode(WidgetNode* node) {
+OwnedList unlinkNode(WidgetNode* node) {
     WidgetNode* parent = node->parent;
     WidgetNode* previous = nullptr;
     for (WidgetNode* n = parent ? parent->child : project.forms; n && n != node; n = n->next) previous = n;
@@ -339,6 +361,7 @@ void unlinkNode(WidgetNode* node) {
     if (node->inProject) setInProject(*node, false);
     node->next = nullptr;
     node->parent = nullptr;
+    return OwnedList(node);
 }
 
 void setHandle(WidgetNode& node, int handle, int parentHandle) {
@@ -358,19 +381,12 @@ void renameNode(WidgetNode& node, std::string_view name) {
     searchIndex.names.emplace(node.indexedName, &node);
 }
 
-void freeRecord(WidgetNode* node) {
-    if (!node) return;
-    leaveIndex(*node);
-    if (node->parent && node->parent->lastChild == node) node->parent->lastChild = nullptr;
-    if (lastForm == node) lastForm = nullptr;
-    if (project.currentWidget == node) project.currentWidget = nullptr;
-    delete node;
-}
-
 void deleteNode(WidgetNode* node) {
     if (!node) return;
-    if (node->inProject) unlinkNode(node);
-    freeAll(node, false);
+    if (node->inProject)
+        unlinkNode(node); // which nobody takes
+    else
+        freeAll(node, false);
 }
 
 void deleteList(WidgetNode* node) {

@@ -8,16 +8,24 @@
 #include <string_view>
 #include <vector>
 
+// The tree owns the records that hang in it. Records that hang in none, one or a chain of them along next with what is
+// below, are owned by whoever holds this.
+void deleteList(WidgetNode* node); // node and all that follows it along next, with what is below; null is allowed
+void deleteNode(WidgetNode* node); // node, out of the tree, and what is below it; null is allowed
+struct ListDeleter {
+    void operator()(WidgetNode* first) const { deleteList(first); }
+};
+using OwnedList = std::unique_ptr<WidgetNode, ListDeleter>;
+
 // Adds a form with its main panel behind the last of `project.forms` and returns it.
 WidgetNode* newForm();
 
 // A deep copy of the default record of `type`, placed at x, y given in pixels. TYPE_MAIN_PANEL has none.
-// The caller owns it until it is linked into the tree.
-WidgetNode* createFromDefaults(WidgetType type, int x, int y);
+OwnedList createFromDefaults(WidgetType type, int x, int y);
 
 // Deep copy with the whole child chain; with `withSiblings` also what follows along next. Handles are copied as they
 // are.
-WidgetNode* copyNode(const WidgetNode* node, bool withSiblings);
+OwnedList copyNode(const WidgetNode* node, bool withSiblings);
 
 // The live parent of `node` among `list` and below, as parentHandle names it; `node` itself when list is node; null
 // when there is none. In the project's tree it holds without live widgets too: the record that holds `node`, or for a
@@ -36,29 +44,22 @@ WidgetNode* findHandle(int handle); // of project.forms, by the index; null for 
 WidgetNode* findRecord(int id);     // the same by the record's id
 void clearSelected(WidgetNode* list);
 
-void deleteList(WidgetNode* node); // node and all that follows it along next, with what is below; null is allowed
-void deleteNode(WidgetNode* node); // node and what is below it; node->next is left alone
-struct ListDeleter {
-    void operator()(WidgetNode* first) const { deleteList(first); }
-};
-using OwnedList = std::unique_ptr<WidgetNode, ListDeleter>; // a chain that hangs in no tree
-
 // Records one beside the other: a selection, what is pasted or moved together.
 using Records = std::vector<WidgetNode*>;
 Records chainOf(WidgetNode* first);                              // `first` and all that follows it along next
 bool liesWithin(const WidgetNode* node, const WidgetNode* root); // `node` is `root` or below it
 WidgetNode* previousOf(const WidgetNode& node);                  // the sibling ahead of it, null for the first
 
-void freeRecord(WidgetNode* node); // one record and what it owns
-
 // Every change of the tree goes through these, so that lookups by name, by handle and of the parent stay current.
-void appendForm(WidgetNode* form);
-void adoptForms(WidgetNode* first);                   // the same with a whole chain
-void moveFormToHead(WidgetNode* form);                // of project.forms
-void linkChild(WidgetNode& parent, WidgetNode* node); // behind the last child
+// Every change of who owns a record, too: what is linked is given to the tree and returned, what is unlinked comes out.
+WidgetNode* appendForm(OwnedList form);
+void adoptForms(OwnedList first);                          // the same with a whole chain
+void moveFormToHead(WidgetNode* form);                     // of project.forms
+WidgetNode* linkChild(WidgetNode& parent, OwnedList node); // behind the last child
 // Puts `node` right behind `previous` among the children of `parent`, or ahead of them all for null.
-void linkChildAfter(WidgetNode& parent, WidgetNode* previous, WidgetNode* node);
-void unlinkNode(WidgetNode* node); // out of the tree, with its subtree; the caller owns it
+WidgetNode* linkChildAfter(WidgetNode& parent, WidgetNode* previous, OwnedList node);
+OwnedList unlinkNode(WidgetNode* node);         // with its subtree
+std::vector<OwnedList> parted(OwnedList chain); // each record of a chain for itself
 void setHandle(WidgetNode& node, int handle, int parentHandle);
 void renameNode(WidgetNode& node, std::string_view name);
 int newRecordId(); // for a record that is read straight into the project

@@ -37,7 +37,6 @@ WidgetNode* removeOne(WidgetNode& node) {
     if (project.currentWidget == &node) project.currentWidget = nullptr;
     std::erase_if(design.selection, [&](const WidgetNode* one) { return liesWithin(one, &node); });
     design.placeholders.erase(node.id);
-    unlinkNode(&node);
     deleteNode(&node);
     return result;
 }
@@ -64,12 +63,13 @@ void fillPasteBuffer(bool cut) {
     WidgetNode* last = nullptr;
     for (WidgetNode* one : design.selection) {
         storeGeometryBelow(*one);
-        WidgetNode* copy = copyNode(one, false);
-        if (last)
-            last->next = copy;
+        OwnedList copy = copyNode(one, false);
+        WidgetNode* const behind = last;
+        last = copy.get();
+        if (behind)
+            behind->next = copy.release();
         else
-            buffer.chain.reset(copy);
-        last = copy;
+            buffer.chain = std::move(copy);
         buffer.beside.push_back(one->id);
     }
     design.pasteBuffer = std::move(buffer);
@@ -105,15 +105,14 @@ void giveUpFocus(WidgetNode& clone) {
 // Links copies of what was copied to the children of `parent`.
 Records linkCopies(WidgetNode& parent) {
     const bool active = findActiveOnInit(project.forms) != nullptr;
-    Records clones = chainOf(copyNode(design.pasteBuffer.chain.get(), true));
-    for (WidgetNode* clone : clones) clone->next = nullptr;
-    for (WidgetNode* clone : clones) {
+    Records clones;
+    for (OwnedList& clone : parted(copyNode(design.pasteBuffer.chain.get(), true))) {
         followLook(*clone, parent);
         if (active) giveUpFocus(*clone);
         clone->parentHandle = parent.handle;
         clone->selected = 0;
         clone->onToolbar = parent.type == TYPE_TOOL_BAR ? 1 : 0;
-        linkChild(parent, clone);
+        clones.push_back(linkChild(parent, std::move(clone)));
     }
     if (design.pasteBuffer.parent == parent.id) {
         if (design.pasteBuffer.shift > 0) shiftBesideOriginals(clones, parent, design.pasteBuffer.shift);

@@ -193,8 +193,7 @@ void putBehind(WidgetNode& parent, const ChildPlace& place) {
     WidgetNode* child = findRecord(place.record);
     WidgetNode* previous = findRecord(place.behind);
     if (!child || child->parent != &parent || (place.behind && (!previous || previous->parent != &parent))) return;
-    unlinkNode(child);
-    linkChildAfter(parent, previous, child);
+    linkChildAfter(parent, previous, unlinkNode(child));
 }
 
 WidgetNode* firstOf(const Records& siblings) {
@@ -222,14 +221,15 @@ void moveSelectionTo(WidgetNode& target, const std::vector<ChildPlace>& places) 
     hooks.commitEditor();
     ungroup();
     const Records moved = design.selection;
+    std::vector<OwnedList> unlinked;
     for (WidgetNode* one : moved) {
         removeHierarchyEntry(*one, false);
         storeGeometryBelow(*one);
         owEraseWidget(one->handle);
-        unlinkNode(one);
+        unlinked.push_back(unlinkNode(one));
     }
     clearPlaceholder(target);
-    for (WidgetNode* one : moved) linkChild(target, one);
+    for (OwnedList& one : unlinked) linkChild(target, std::move(one));
     for (const ChildPlace& place : places) putBehind(target, place);
     for (WidgetNode* one : moved) followParent(*one, target);
     nameCopies(moved);

@@ -55,7 +55,7 @@ void moveOntoPanel(const Records& members, int parentHandle) {
                                       owBorderType, ONOBOUNDARY, 0);
     setGridMode(0);
     for (WidgetNode* one : members) {
-        const OwnedList shown(copyNode(one, false));
+        const OwnedList shown = copyNode(one, false);
         shown->xpos -= box.x;
         shown->ypos -= box.y;
         realiseWidget(*shown, design.groupPanel, false);

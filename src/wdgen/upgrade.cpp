@@ -96,7 +96,7 @@ int listCommand(const std::vector<std::string>& words) {
     useBatchHost();
     if (!load(arguments.input)) return 1;
     if (fileKind(arguments.input) == FILE_DEFAULTS) {
-        for (const WidgetNode* record : defaultRecords) printBelow(record);
+        for (const OwnedList& record : defaultRecords) printBelow(record.get());
         return 0;
     }
     for (const WidgetNode* form = project.forms; form; form = form->next) printBelow(form);

@@ -125,10 +125,11 @@ struct Script {
         } else if (type == TYPE_MAIN_PANEL) {
             widget = levels.at(depth - 1)->child;
         } else {
-            widget = type == TYPE_RADIO_BOX ? createFromDefaults(TYPE_PANEL, 10, 20) : createFromDefaults(type, 10, 20);
+            OwnedList made = createFromDefaults(type == TYPE_RADIO_BOX ? TYPE_PANEL : type, 10, 20);
+            widget = made.get();
             widget->type = type;
             widget->name = name;
-            linkChild(*levels.at(depth - 1), widget);
+            linkChild(*levels.at(depth - 1), std::move(made));
             if (widget->parent->type == TYPE_TOOL_BAR) widget->onToolbar = 1;
         }
         levels.resize(depth);

@@ -46,8 +46,7 @@ const Place PLACES[] = {
 };
 
 WidgetNode* addWidget(WidgetNode& parent, WidgetType type, const char* name) {
-    WidgetNode* node = createFromDefaults(type, 10, 10);
-    linkChild(parent, node);
+    WidgetNode* node = linkChild(parent, createFromDefaults(type, 10, 10));
     renameNode(*node, name);
     return node;
 }
@@ -269,7 +268,6 @@ TEST_P(NavigationTest, CodeOfWidgetsThatAreGoneLeadsNowhere) {
     GeneratedText generated;
     ASSERT_TRUE(generateText(work + "/" + project.sourceName, generated));
     WidgetNode* button = findName(project.forms, "Button1", false);
-    unlinkNode(button);
     deleteNode(button);
     for (const PastedCode& pasted : generated.map) {
         CodeLocation found = findLocation(pasted.firstLine, 1);

@@ -107,14 +107,14 @@ TEST(FieldText, RichTextThatNoProjectHoldsIsTold) {
 // An entry that fills a pane has lines in the program, whatever height its record keeps.
 TEST(FieldText, BarsAreLinesOnAPane) {
     Desk desk;
-    WidgetNode* pane = createFromDefaults(TYPE_PANE, 0, 0);
-    linkChild(*desk.panel, pane);
-    WidgetNode* text = createFromDefaults(TYPE_TEXT_ENTRY, 0, 0);
+    WidgetNode* pane = linkChild(*desk.panel, createFromDefaults(TYPE_PANE, 0, 0));
+    OwnedList made = createFromDefaults(TYPE_TEXT_ENTRY, 0, 0);
+    WidgetNode* text = made.get();
     text->text = "a|b\r\nc";
     text->expand = 1;
     text->hpos = text->vpos = 0;
     text->height = 22;
-    linkChild(*pane, text);
+    linkChild(*pane, std::move(made));
     defaultName(pane, NAME_NEW);
     discardForms(project.forms);
     desk.run();

@@ -84,7 +84,7 @@ void writeScene(std::ostream& sheet, WidgetNode& widget, const Scene& scene) {
 }
 
 std::string sheetText(WidgetType type) {
-    const std::unique_ptr<WidgetNode> widget(makeDefaultRecord(type));
+    const OwnedList widget = makeDefaultRecord(type);
     std::ostringstream sheet;
     sheet << "Sheet of a widget of type " << codeOf(type) << ", " << cardOf(type).label << ", as it is placed\n";
     for (const Scene& scene : SCENES) writeScene(sheet, *widget, scene);

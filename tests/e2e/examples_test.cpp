@@ -62,15 +62,14 @@ TEST(Examples, AreWhatTheirProgramWrites) {
     for (const example::Row& row : example::examples) {
         const std::string name = std::string(row.name) + ".wdp";
         ASSERT_TRUE(loadProject(EXAMPLES + row.name, name));
-        WidgetNode* stored = copyNode(project.forms, true);
+        const OwnedList stored = copyNode(project.forms, true);
         const auto blocks = project.codeBlocks;
         row.make();
         const ScratchFolder folder;
         ASSERT_TRUE(saveProject(folder.path, name, true));
         ASSERT_TRUE(loadProject(folder.path, name));
-        EXPECT_EQ(differences(stored, project.forms), "") << row.name;
+        EXPECT_EQ(differences(stored.get(), project.forms), "") << row.name;
         EXPECT_EQ(blocks, project.codeBlocks) << row.name;
-        deleteList(stored);
     }
 }
 

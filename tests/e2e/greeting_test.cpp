@@ -93,9 +93,9 @@ TEST(Greeting, FromAnEmptyProjectToARunningProgram) {
     ASSERT_FALSE(HasFailure());
 
     ASSERT_TRUE(loadProject(folder, "greeting.wdp"));
-    WidgetNode* drawn = copyNode(project.forms, true);
+    const OwnedList drawn = copyNode(project.forms, true);
     ASSERT_TRUE(loadProject(std::string(ORBA_SOURCE_DIR) + "/examples/greeting", "greeting.wdp"));
-    EXPECT_EQ(differences(drawn, project.forms), "");
+    EXPECT_EQ(differences(drawn.get(), project.forms), "");
 
     desk::key("F5");
     answerBrowser(program, "Create ORBAWIDG code", "greeting");

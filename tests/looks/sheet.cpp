@@ -24,14 +24,15 @@ constexpr int LINE = 24;
 // A widget of the size, at the top left of a cell that begins at x, y from the top of its parent.
 WidgetNode& put(WidgetNode& parent, WidgetType type, int x, int y, int width, int height, const char* text = "") {
     static int number = 0;
-    WidgetNode* node = createFromDefaults(type, 0, 0);
+    OwnedList made = createFromDefaults(type, 0, 0);
+    WidgetNode* node = made.get();
     node->xpos = x + GAP;
     node->ypos = y + GAP;
     node->width = width;
     node->height = height;
     node->text = text;
     node->name = "W" + std::to_string(++number);
-    linkChild(parent, node);
+    linkChild(parent, std::move(made));
     ++project.widgetCount;
     return *node;
 }

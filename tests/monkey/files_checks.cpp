@@ -74,7 +74,7 @@ void checkFiles() {
     expect(byteDifference(savedBytes("monkey-b.wdp"), bytes).empty(), "generate: the project is changed by it");
 
     ProjectState before = project;
-    before.forms = copyNode(project.forms, true);
+    before.forms = copyNode(project.forms, true).release();
     expect(openProjectFile(std::filesystem::current_path().string(), "monkey-a.wdp"), "load: refused");
     const std::string different = differences(before.forms, project.forms);
     expect(different.empty(), "load: " + firstLine(different));

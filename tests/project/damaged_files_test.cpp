@@ -172,9 +172,8 @@ TEST_F(DamagedFile, RecordsMayLieAsDeepAsTheFileIsLong) {
     BoxScript boxes;
     ASSERT_TRUE(loadProject(folder.path, "deep.wdp"));
     EXPECT_EQ(countRecords(), DEPTH + 2);
-    WidgetNode* copy = copyNode(project.forms, true);
+    const OwnedList copy = copyNode(project.forms, true);
     EXPECT_TRUE(copy->child);
-    deleteList(copy);
     EXPECT_EQ(findName(project.forms, "none", true), nullptr);
     freshProject();
 }
@@ -185,7 +184,7 @@ TEST_F(DamagedFile, RandomBytesAreSurvived) {
     const std::string project0 = projectBytes();
     std::vector<const WidgetNode*> records;
     makeDefaults();
-    for (const WidgetNode* n : defaultRecords) records.push_back(n);
+    for (const OwnedList& record : defaultRecords) records.push_back(record.get());
     const std::string defaults0 = encodeDefaults(FileImage(), records);
     const std::string form0 = encodeForm(FileImage(), project.forms, 10, 10);
     BoxScript boxes;

@@ -159,7 +159,8 @@ TEST(Defaults, AFileComesBackAndMovesItsColoursIntoTheProject) {
     ASSERT_TRUE(saveDefaults(folder / "mine.wdd"));
     FileImage image;
     image.colours[705] = 0.25F;
-    std::vector<const WidgetNode*> records(defaultRecords.begin(), defaultRecords.end());
+    std::vector<const WidgetNode*> records;
+    for (const OwnedList& record : defaultRecords) records.push_back(record.get());
     EXPECT_EQ(byteDifference(readBytes(folder / "mine.wdd"), encodeDefaults(image, records)), "");
 
     makeDefaults();

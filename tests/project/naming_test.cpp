@@ -122,8 +122,8 @@ TEST(NewNames, ALoweredCounterGivesNoNameTwice) {
 }
 
 WidgetNode* linkedCopy(const WidgetNode* node, WidgetNode* parent, bool ahead) {
-    WidgetNode* copy = copyNode(node, false);
-    ahead ? linkChildAfter(*parent, nullptr, copy) : linkChild(*parent, copy);
+    WidgetNode* copy =
+        ahead ? linkChildAfter(*parent, nullptr, copyNode(node, false)) : linkChild(*parent, copyNode(node, false));
     return copy;
 }
 

@@ -303,10 +303,10 @@ TEST_P(OldVersion, DefaultsAreReadFromVersion30On) {
     if (version < 30) return;
     std::vector<const WidgetNode*> records;
     makeDefaults();
-    for (WidgetNode* n : defaultRecords) {
+    for (const OwnedList& n : defaultRecords) {
         n->width = 321;
         n->slots[SLOT_GENERAL] = "a~b";
-        records.push_back(n);
+        records.push_back(n.get());
     }
     writeBytes(folder / "old.wdd", encodeDefaults(image, records));
     freshProject();

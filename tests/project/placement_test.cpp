@@ -45,7 +45,7 @@ TEST(Placement, EveryToolMakesItsWidgetWithTextAndName) {
     };
     const BoxScript boxes;
     WidgetNode* form = freshProject();
-    for (WidgetNode* n : defaultRecords) n->text = "own";
+    for (const OwnedList& record : defaultRecords) record->text = "own";
     project.projectModified = project.sourceStale = 0;
     int count = project.widgetCount;
     for (const Row& row : rows) {
@@ -226,8 +226,7 @@ TEST(Names, PastedRecordsTakeTheNameOfTheirNewForm) {
     addRecord(panel, TYPE_BUTTON, "Form1_my_button");
     addRecord(panel, TYPE_BUTTON, "plain");
     addRecord(panel, TYPE_BUTTON, "other_name");
-    WidgetNode* copy = copyNode(panel, false);
-    linkChild(*second->child, copy);
+    WidgetNode* copy = linkChild(*second->child, copyNode(panel, false));
     const int count = project.widgetCount;
     defaultName(copy, NAME_PASTED);
     EXPECT_EQ(copy->name, "Form2_Panel1");
@@ -307,15 +306,14 @@ TEST(Paste, APositionOutsideIsAskedAbout) {
         WidgetNode* form = freshProject();
         WidgetNode* panel = addRecord(form->child, TYPE_PANEL, "T");
         panel->width = panel->height = 120;
-        WidgetNode* chain = makeDefaultRecord(TYPE_BUTTON);
-        chain->next = makeDefaultRecord(TYPE_BUTTON);
+        const OwnedList chain = makeDefaultRecord(TYPE_BUTTON);
+        chain->next = makeDefaultRecord(TYPE_BUTTON).release();
         chain->xpos = 150, chain->ypos = 90;
         chain->next->xpos = 200, chain->next->ypos = 60;
         const BoxScript boxes({{"Paste widget position outside parent dimensions",
                                 "Do you want to reposition near origin?", row.answer}});
-        EXPECT_EQ(settleInside(*panel, chainOf(chain)), row.result);
+        EXPECT_EQ(settleInside(*panel, chainOf(chain.get())), row.result);
         EXPECT_EQ(std::vector({chain->xpos, chain->ypos, chain->next->xpos, chain->next->ypos}), row.positions);
-        deleteList(chain);
     }
     freshProject();
 }

@@ -65,11 +65,10 @@ TEST(Tree, NewRecordsComeInTheUnitOfTheProject) {
         defaultRecord(TYPE_TABLE_BOX)->rowHeights.assign(5, 20);
         project.snapOn = row.snapOn;
         project.snapGrid = row.snapGrid;
-        WidgetNode* node = createFromDefaults(TYPE_TABLE_BOX, row.x, row.y);
+        const OwnedList node = createFromDefaults(TYPE_TABLE_BOX, row.x, row.y);
         EXPECT_EQ(std::vector({node->xpos, node->ypos, node->width, node->height}), row.geometry);
         EXPECT_EQ(node->columnWidths[0], row.column);
         EXPECT_EQ(node->rowHeights[4], row.row);
-        deleteNode(node);
     }
     EXPECT_EQ(createFromDefaults(TYPE_MAIN_PANEL, 0, 0), nullptr);
     freshProject();
@@ -81,20 +80,17 @@ TEST(Tree, CopiesAreDeepAndStandAlone) {
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
         node->storedParentHandle = node->storedFormCallbackId = 0; // a copy comes from no file
     const std::string whole = encodeChain(FileImage(), project.forms);
-    WidgetNode* copy = copyNode(project.forms, true);
-    EXPECT_EQ(encodeChain(FileImage(), copy), whole);
-    WidgetNode* one = copyNode(project.forms->next, false);
+    OwnedList copy = copyNode(project.forms, true);
+    EXPECT_EQ(encodeChain(FileImage(), copy.get()), whole);
+    const OwnedList one = copyNode(project.forms->next, false);
     EXPECT_EQ(one->next, nullptr);
-    WidgetNode* middle = copyNode(project.forms->child->child, false);
+    const OwnedList middle = copyNode(project.forms->child->child, false);
     EXPECT_EQ(middle->next, nullptr);
     EXPECT_EQ(middle->parent, nullptr);
     EXPECT_FALSE(copy->inProject);
     deleteList(project.forms);
     EXPECT_EQ(project.forms, nullptr);
-    EXPECT_EQ(encodeChain(FileImage(), copy), whole) << "the copy shares nothing";
-    deleteList(copy);
-    deleteNode(one);
-    deleteNode(middle);
+    EXPECT_EQ(encodeChain(FileImage(), copy.get()), whole) << "the copy shares nothing";
 }
 
 // The searches by the index must find what a walk finds, through all changes.
@@ -127,9 +123,9 @@ TEST(Tree, LookupsStayRightThroughChanges) {
             break;
         case 5: // to another place, as a drag does
             if (node->parent && node->type != TYPE_MAIN_PANEL) {
-                unlinkNode(node);
+                OwnedList moved = unlinkNode(node);
                 EXPECT_FALSE(node->inProject);
-                linkChildAfter(*project.forms->child, project.forms->child->child, node);
+                linkChildAfter(*project.forms->child, project.forms->child->child, std::move(moved));
             }
             break;
         default: setHandle(*node, pick(2) ? ++handle : 0, 0);
@@ -188,12 +184,11 @@ TEST(Tree, ParentsAndFormsWithAndWithoutLiveHandles) {
     EXPECT_EQ(formOf(second->child, project.forms), second);
     setHandle(*panel, 500, 400);
     setHandle(*button, 501, 500);
-    WidgetNode* copy = copyNode(button, false);
-    EXPECT_EQ(parentOf(copy, project.forms), panel) << "a copy finds its parent by handle";
-    EXPECT_EQ(formOf(copy, project.forms), form);
+    const OwnedList copy = copyNode(button, false);
+    EXPECT_EQ(parentOf(copy.get(), project.forms), panel) << "a copy finds its parent by handle";
+    EXPECT_EQ(formOf(copy.get(), project.forms), form);
     copy->parentHandle = 9999;
-    EXPECT_EQ(parentOf(copy, project.forms), nullptr);
-    deleteNode(copy);
+    EXPECT_EQ(parentOf(copy.get(), project.forms), nullptr);
     moveFormToHead(second);
     EXPECT_EQ(project.forms, second);
     EXPECT_EQ(second->next, form);

@@ -57,7 +57,8 @@ TEST_F(WdgenFiles, UpgradeWritesTheCurrentVersionOfEveryKindOfFile) {
     writeBytes(folder / "a.wdp", encodeProject(image, project));
     writeBytes(folder / "a.wdf", encodeForm(image, project.forms, 31, 31));
     makeDefaults();
-    const std::vector<const WidgetNode*> records(defaultRecords.begin(), defaultRecords.end());
+    std::vector<const WidgetNode*> records;
+    for (const OwnedList& record : defaultRecords) records.push_back(record.get());
     writeBytes(folder / "a.WDD", encodeDefaults(image, records));
     const FileImage now{.marks = "C-s"};
     for (const char* name : {"a.wdp", "a.wdf", "a.WDD"}) {

@@ -139,14 +139,15 @@ struct Maker {
 } // namespace
 
 WidgetNode* addRecord(WidgetNode* parent, WidgetType type, const std::string& name) {
-    WidgetNode* node = makeDefaultRecord(type);
-    if (!node) node = new WidgetNode();
+    OwnedList made = makeDefaultRecord(type);
+    if (!made) made.reset(new WidgetNode());
+    WidgetNode* node = made.get();
     node->type = type;
     node->name = name;
     if (parent)
-        linkChild(*parent, node);
+        linkChild(*parent, std::move(made));
     else
-        appendForm(node);
+        appendForm(std::move(made));
     if (type != TYPE_MAIN_PANEL) ++project.widgetCount;
     return node;
 }
