@@ -37,6 +37,7 @@ void formMoved(WidgetNode& form) {
     if (!same && info.state == NORMAL) {
         form.xpos = info.xpos;
         form.ypos = info.ypos;
+        design.movedForms.insert(form.id);
         writeBack(form, info);
         if (form.selected) hooks.refreshProperties();
         markChanged();

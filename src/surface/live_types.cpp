@@ -193,7 +193,8 @@ int createSeparator(const WidgetNode& n, int parent) {
 
 void finishForm(WidgetNode& n) {
     const bool cells = project.gridMode == 1;
-    owDesignWindow(n.handle, cells ? project.gridPixelX : 1, cells ? project.gridPixelY : 1);
+    owDesignWindow(n.handle, design.movedForms.contains(n.id), cells ? project.gridPixelX : 1,
+                   cells ? project.gridPixelY : 1);
     buildLiveStatusBar(n);
     buildLiveMenu(n);
 }

@@ -203,6 +203,7 @@ void forgetRecords() {
     eraseForms(project.forms);
     project.currentWidget = nullptr;
     design.undo = {};
+    design.movedForms.clear();
     design.valueWidget = 0;
     hooks.showProperties(nullptr);
     hooks.bindCode(nullptr);

@@ -7,6 +7,7 @@
 #include "surface/geometry.h"
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,7 @@ struct DesignState {
     int groupPanel = 0;
     Box groupBox = {}; // around the members
 
+    std::set<int> movedForms; // record ids of the forms that the user has moved: their windows keep to their places
     std::map<int, int>
         placeholders;    // by record id of an empty floating tool bar or pane: the blank child that keeps it showing
     int valueWidget = 0; // handle of the value entry that the value callback reads

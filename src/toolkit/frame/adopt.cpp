@@ -4,6 +4,7 @@
 // click; a click is given to the widget afterwards, so that it can still be worked.
 #include "toolkit/frame/adopt.h"
 
+#include "toolkit/frame/design_windows.h"
 #include "toolkit/frame/designing.h"
 #include "toolkit/frame/events.h"
 #include "toolkit/frame/keys.h"
@@ -139,6 +140,7 @@ private:
         grip = onHandle ? handleView->grip : -1;
         pressTarget = onHandle ? nullptr : static_cast<QWidget*>(target);
         start = event.globalPosition().toPoint();
+        startInContent = content->mapFromGlobal(start);
         startRect = view->geometry();
         drag = Drag::pressed;
         return true;
@@ -194,7 +196,8 @@ private:
     }
 
     void step(const QPoint& pointer) {
-        const QPoint distance = insideContent(pointer) - start;
+        showPoint(view, insideContent(pointer));
+        const QPoint distance = content->mapFromGlobal(insideContent(pointer)) - startInContent;
         const int dx = snapped(distance.x());
         const int dy = snapped(distance.y());
         QRect rect = startRect;
@@ -308,6 +311,7 @@ private:
     Drag drag = Drag::none;
     int grip = -1; // -1 moves the whole widget
     QPoint start;
+    QPoint startInContent; // it may be scrolled meanwhile
     QRect startRect;
     bool replaying = false;
 };
@@ -332,6 +336,7 @@ Word adoptChild(const Arguments& call) {
         reportFailure(67, handle);
         return 0;
     }
+    showView(widget->view);
     adoption = new Adoption(*widget, call.integer(1), call.integer(2));
     return 0;
 }

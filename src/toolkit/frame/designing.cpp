@@ -4,6 +4,7 @@
 // of the press and the release as always. Arrow keys and Esc go to the designer, unless the user types in a field.
 #include "toolkit/frame/designing.h"
 
+#include "toolkit/frame/design_windows.h"
 #include "toolkit/frame/events.h"
 #include "toolkit/frame/keys.h"
 #include "toolkit/frame/registry.h"
@@ -66,6 +67,9 @@ public:
         case QEvent::MouseButtonRelease:
             if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) end();
             return false;
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::Show: masterChanged(target); return false;
         case QEvent::KeyPress: return keyPressed(target, *static_cast<QKeyEvent*>(event));
         default: return false;
         }
@@ -77,6 +81,18 @@ public:
     }
 
 private:
+    // Its free middle may have become another.
+    void masterChanged(const QObject* target) {
+        const Widget* master = widgetOf(1);
+        if (!master || (target != master->view && target != master->client) || settling_) return;
+        settling_ = true;
+        const auto settle = [this] {
+            settling_ = false;
+            settleDesignWindows();
+        };
+        QMetaObject::invokeMethod(this, settle, Qt::QueuedConnection);
+    }
+
     void pressed(QObject* target, const QMouseEvent& event) {
         if (event.button() != Qt::LeftButton || container_ || !target->isWidgetType() || inputBlocked(target)) return;
         auto* view = static_cast<QWidget*>(target);
@@ -84,22 +100,22 @@ private:
         if (!widget || !holdsWidgets(widget->kind) || !designedWindow(view)) return;
         container_ = clientOf(widget);
         handle_ = widget->handle;
-        start_ = event.globalPosition().toPoint();
+        start_ = container_->mapFromGlobal(event.globalPosition().toPoint());
     }
 
     void moved(const QMouseEvent& event) {
         if (!container_) return;
         if (!(event.buttons() & Qt::LeftButton)) return end(); // its release went elsewhere
         const QPoint pointer = event.globalPosition().toPoint();
-        if (!band_ && (pointer - start_).manhattanLength() < BAND_DISTANCE) return;
+        if (!band_ && (container_->mapFromGlobal(pointer) - start_).manhattanLength() < BAND_DISTANCE) return;
+        showPoint(container_, pointer);
         if (!band_) {
             band_ = new OutlineView(designRoomOf(container_));
             band_->setObjectName(QStringLiteral("rubber-band"));
             band_->setFilled(true);
         }
         const QRect room = container_->rect();
-        const QRect inside =
-            QRect(container_->mapFromGlobal(start_), container_->mapFromGlobal(pointer)).normalized() & room;
+        const QRect inside = QRect(start_, container_->mapFromGlobal(pointer)).normalized() & room;
         const Widget* widget = widgetOf(handle_);
         band_->showAround(inside.translated(container_->mapTo(band_->parentWidget(), QPoint(0, 0))),
                           widget ? readoutOf(*widget, inside) : QString());
@@ -126,8 +142,9 @@ private:
 
     QPointer<QWidget> container_; // whose face was pressed; null while no band is drawn
     int handle_ = 0;
-    QPoint start_;
+    QPoint start_; // in it
     QPointer<OutlineView> band_;
+    bool settling_ = false; // settleDesignWindows is on its way
 };
 
 Designing* designing = nullptr;
@@ -139,9 +156,13 @@ void installDesigning() {
 }
 
 Word designWindow(const Arguments& call) {
-    WindowData& data = windowData(*widgetOf(call.integer(0)));
+    Widget& window = *widgetOf(call.integer(0));
+    WindowData& data = windowData(window);
     data.designed = true;
-    data.unit = QSize(std::max(1, call.integer(1)), std::max(1, call.integer(2)));
+    data.placedByUser = call.integer(1) != 0;
+    data.unit = QSize(std::max(1, call.integer(2)), std::max(1, call.integer(3)));
+    makeScrollable(window);
+    settleDesignWindow(window);
     installDesigning();
     return 0;
 }

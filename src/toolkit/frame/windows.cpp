@@ -1,5 +1,6 @@
 #include "toolkit/frame/windows.h"
 
+#include "toolkit/frame/design_windows.h"
 #include "toolkit/frame/events.h"
 #include "toolkit/frame/keys.h"
 #include "toolkit/frame/layout.h"
@@ -39,19 +40,6 @@ bool isSettling(const Widget& window) {
 QSize roomOf(const Widget& window) {
     const WindowData& data = windowData(window);
     return data.frame && data.frame->parentWidget() ? data.frame->parentWidget()->size() : screenSize();
-}
-
-QPoint topLeftOf(const Widget& window) {
-    const Placement& place = window.place;
-    const QSize room = roomOf(window);
-    const QSize size = windowData(window).client;
-    int x = place.hpos == OLEFT ? place.x : room.width() - place.x - size.width();
-    int y = place.vpos == OTOP ? place.y : room.height() - place.y - size.height();
-    const int state = windowData(window).initState;
-    if (place.hpos == OCENTRE || state == OCENTRED) x = (room.width() - size.width()) / 2;
-    if (place.vpos == OMIDDLE || state == OCENTRED) y = (room.height() - size.height()) / 2;
-    if (state == OTOP) y = 0;
-    return {x, y};
 }
 
 // Gives everything in a window its place now. A window that is not on the screen yet does it only when it is shown.
@@ -112,7 +100,10 @@ WindowData& windowData(const Widget& window) { return static_cast<WindowData&>(*
 
 void startSettling(Widget& window) { windowData(window).program.settle(); }
 
-QWidget* windowArea(const Widget& window) { return static_cast<QMainWindow*>(window.view.data())->centralWidget(); }
+QWidget* windowArea(const Widget& window) {
+    if (windowData(window).designed) return window.client; // inside what scrolls it
+    return static_cast<QMainWindow*>(window.view.data())->centralWidget();
+}
 
 QSize windowSize(const Widget& window) {
     const WindowData& data = windowData(window);
@@ -120,14 +111,29 @@ QSize windowSize(const Widget& window) {
     return data.wholeWindow ? window.view->size() : windowArea(window)->size();
 }
 
+QPoint ownPlaceOf(const Widget& window) {
+    const Placement& place = window.place;
+    const QSize room = roomOf(window);
+    const QSize size = windowData(window).client;
+    int x = place.hpos == OLEFT ? place.x : room.width() - place.x - size.width();
+    int y = place.vpos == OTOP ? place.y : room.height() - place.y - size.height();
+    const int state = windowData(window).initState;
+    if (place.hpos == OCENTRE || state == OCENTRED) x = (room.width() - size.width()) / 2;
+    if (place.vpos == OMIDDLE || state == OCENTRED) y = (room.height() - size.height()) / 2;
+    if (state == OTOP) y = 0;
+    return {x, y};
+}
+
 void moveWindow(Widget& window) {
     startSettling(window);
-    outerOf(window)->move(topLeftOf(window));
+    const WindowData& data = windowData(window);
+    if (data.designed) settleDesignWindow(window);
+    if (!data.designed || data.placedByUser) outerOf(window)->move(ownPlaceOf(window));
 }
 
 // Where the window stands now, measured as the program measures it.
 void readWindowPlace(Widget& window) {
-    if (!windowData(window).shown) return;
+    if (!windowData(window).shown || windowData(window).aside) return;
     const QPoint corner = outerOf(window)->pos();
     const QSize room = roomOf(window);
     const QSize size = windowSize(window);
@@ -150,6 +156,7 @@ void fitWindow(Widget& window) {
     const WindowData& data = windowData(window);
     auto* view = static_cast<FormWindow*>(window.view.data());
     if (view->isMaximized() || view->isFullScreen()) return;
+    if (data.designed) return settleDesignWindow(window);
     QWidget* outer = outerOf(window);
     if (data.wholeWindow) {
         view->resize(data.client);
@@ -181,7 +188,7 @@ void showWindow(Widget& window, bool front) {
         activation.settle();
         if (!data.shown) {
             fitWindow(window);
-            outer->move(topLeftOf(window));
+            moveWindow(window);
         }
         const bool first = !data.shown;
         data.shown = true;
@@ -265,7 +272,10 @@ void FormWindow::moveEvent(QMoveEvent* event) {
     QRect& known = windowData(*window).known;
     if (known.topLeft() == pos()) return; // the same news again
     known.moveTopLeft(pos());
-    if (!isSettling(*window)) post(*window, Slot::general, OMOVED);
+    if (isSettling(*window)) return;
+    windowData(*window).placedByUser = true;
+    windowData(*window).aside = false;
+    post(*window, Slot::general, OMOVED);
 }
 
 void FormWindow::resizeEvent(QResizeEvent* event) {
@@ -277,6 +287,7 @@ void FormWindow::resizeEvent(QResizeEvent* event) {
     data.known.setSize(size());
     if (isSettling(*window)) return;
     if (!data.frame) data.client = windowSize(*window);
+    designWindowResized(*window);
     post(*window, Slot::general, ORESIZED);
 }
 

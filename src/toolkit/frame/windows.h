@@ -19,6 +19,8 @@ struct WindowData : FamilyData {
     ProgramDoing program;           // changes it, and the window manager follows
     QRect known;                    // last geometry that Qt told of
     QMdiSubWindow* frame = nullptr; // of a dialogue box inside an MDI master
+    bool placedByUser = false;      // its user has moved it
+    bool aside = false;             // it stands over the free middle of the master window, not at its place
     bool designed = false;          // its widgets are drawn by the user, see designing.h
     QSize unit{1, 1};               // pixels that count as one while it is designed
 };
@@ -44,6 +46,7 @@ WindowData& windowData(const Widget& window);
 QWidget* windowArea(const Widget& window); // its client area
 QSize windowSize(const Widget& window);    // as the program measures it
 void readWindowPlace(Widget& window);      // takes over where the window stands now
+QPoint ownPlaceOf(const Widget& window);   // where its place says that it stands
 void moveWindow(Widget& window);           // to where its place says
 void startSettling(Widget& window);        // what Qt tells of it for a while answers the program
 

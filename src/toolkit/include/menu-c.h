@@ -645,9 +645,11 @@ void owSetCursorPos(int widget, int xpos, int ypos);
 void owAdoptChild(int widget, int moved, int doubleClick); /* drag handles on one widget; three zeros end it. The event
                                                               moved has the widget under the pointer as its status, and
                                                               in iargs the new left and top in that widget, in pixels */
-void owDesignWindow(int window, int across, int down);     /* its widgets are drawn, not worked: rubber bands show, the
-                                                              arrow keys and Esc go to the callback below; positions
-                                                              are told in units of across by down pixels */
+void owDesignWindow(int window, int moved, int across, int down); /* its widgets are drawn, not worked: rubber bands
+                                                              show, the arrow keys and Esc go to the callback below,
+                                                              positions are told in units of across by down pixels,
+                                                              what has no room is scrolled; unless moved is 1 the window
+                                                              keeps off the master's bars and panes */
 void owDesignPicture(int panel);                           /* the widgets on it are only to look at: clicks are its own */
 void owSetDesignCallback(int callback);                    /* 0 leaves the keys of designed windows to the widgets */
 void owSetTrackingPos(int xpos, int ypos);   /* -1, -1 follows the pointer again */
