@@ -206,8 +206,10 @@ void controlWindowEvent() {
 }
 
 void markFormsShown() {
-    design.formsShown = 1;
-    setCommandHelp(CMD_SHOW_ALL, "Hide all Forms");
+    design.formsShown = 0;
+    for (const WidgetNode* form = project.forms; form; form = form->next)
+        if (!form->formHidden) design.formsShown = 1;
+    setCommandHelp(CMD_SHOW_ALL, design.formsShown ? "Hide all Forms" : "Show all Forms");
 }
 
 namespace {
@@ -218,8 +220,7 @@ void hideForms() {
         form->formHidden = 1;
     }
     enterTextMode();
-    setCommandHelp(CMD_SHOW_ALL, "Show all Forms");
-    design.formsShown = 0;
+    markFormsShown();
 }
 
 void showForms() {

@@ -10,7 +10,7 @@ void raiseFloatingWindows(); // once the master window shows, above which they b
 void showControlWindow(int viewCommand);
 bool controlWindowShown(int viewCommand);
 
-// All forms are on the screen again: what the button that hides them says, and the state behind it.
+// Forms were shown, hidden or loaded: whether the button for all of them hides or shows them next.
 void markFormsShown();
 
 void viewPaneCommand();         // CMD_VIEW_HIERARCHY, ..._PROPERTIES, ..._CODE_EDITOR, ..._COMPILER_LOG

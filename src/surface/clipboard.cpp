@@ -196,7 +196,24 @@ void eraseCurrent() {
     project.currentWidget = next;
 }
 
+void deleteGroup() {
+    const bool children = std::ranges::any_of(design.selection, [](const WidgetNode* one) { return one->child; });
+    if (!confirms("This will permanently erase the " + std::to_string(design.selection.size()) + " selected widgets" +
+                  (children ? " and all their child widgets" : "") + ".|Do you want to continue?"))
+        return;
+    hooks.commitEditor();
+    ungroup();
+    owAdoptChild(0, 0, 0);
+    WidgetNode* next = removeRecords(std::exchange(design.selection, {}));
+    recountCounters();
+    hooks.commandStatus(CMD_PASTE, OUNSELECTABLE);
+    markChanged();
+    design.skipCommit = 1;
+    selectWidget(next ? next : project.forms);
+}
+
 void confirmDelete() {
+    if (groupStands()) return deleteGroup();
     WidgetNode* current = project.currentWidget;
     if (!current || keepsForm(*current)) return;
     if (isLastPage(*current)) {

@@ -53,7 +53,7 @@ void designKeyCommand();    // CMD_DESIGN_KEY
 void groupClickedCommand(); // CMD_GROUP_CLICKED
 void doubleClickCommand();  // CMD_DOUBLE_CLICK
 void unadoptCommand();      // CMD_UNADOPT
-// What the user has typed into the selected text entry and not left yet goes into its record.
+// What the user has typed into the selected text or value entry and not left yet goes into its record.
 void takeTypedText();
 void textEditedCommand();    // CMD_TEXT_EDITED
 void entrySelectedCommand(); // CMD_TEXT_SELECTED, CMD_VALUE_SELECTED

@@ -56,12 +56,24 @@ bool takeText(WidgetNode& node) {
     return true;
 }
 
+// The value of the live widget goes into its record; false when that held it already.
+bool takeEnteredValue(WidgetNode& node) {
+    float value = 0;
+    owEnqValueSetting(node.handle, &value);
+    if (value == node.value) return false;
+    node.value = value;
+    if (showsItself(node)) hooks.refreshProperties();
+    markChanged();
+    return true;
+}
+
 } // namespace
 
 void takeTypedText() {
     WidgetNode* node = project.currentWidget;
-    if (node && node->type == TYPE_TEXT_ENTRY && node->handle > 0 && owTextUndoAction(node->handle, OCANUNDO))
-        takeText(*node);
+    if (!node || node->handle <= 0) return;
+    if (node->type == TYPE_TEXT_ENTRY && owTextUndoAction(node->handle, OCANUNDO)) takeText(*node);
+    if (node->type == TYPE_VALUE_ENTRY) takeEnteredValue(*node);
 }
 
 void textEditedCommand() {
@@ -83,13 +95,7 @@ void entrySelectedCommand() {
 void valueEditedCommand() {
     WidgetNode* node = findHandle(design.valueWidget);
     if (!node || node->type != TYPE_VALUE_ENTRY) return;
-    float value = 0;
-    owEnqValueSetting(node->handle, &value);
-    if (value == node->value) return;
-    node->value = value;
-    owSetValueSetting(node->handle, static_cast<double>(value));
-    if (showsItself(*node)) hooks.refreshProperties();
-    markChanged();
+    if (takeEnteredValue(*node)) owSetValueSetting(node->handle, static_cast<double>(node->value));
 }
 
 void toggledCommand() {

@@ -6,6 +6,9 @@
 #include <QPoint>
 #include <QRect>
 
+#include <chrono>
+#include <utility>
+
 namespace robot = orba::testing;
 
 namespace {
@@ -313,6 +316,41 @@ TEST(Drawing, ABandWithShiftComesToTheSelection) {
     robot::drag(desk.panel->handle, {20, 220}, {240, 300});
     desk.run();
     EXPECT_EQ(selectedNames(), (Names{one->name, two->name}));
+}
+
+TEST(Drawing, DeleteErasesAGroup) {
+    for (const bool yes : {false, true}) {
+        Three form;
+        robot::expectBox("Confirm Widget Deletion",
+                         "This will permanently erase the 2 selected widgets.|Do you want to continue?",
+                         yes ? OANSWERYES : OANSWERNO);
+        form.desk.command(CMD_DELETE);
+        EXPECT_EQ(form.desk.panel->child == form.second, yes);
+        EXPECT_EQ(form.second->next == nullptr, yes);
+        EXPECT_EQ(groupStands(), !yes);
+        EXPECT_EQ(project.widgetCount, yes ? 2 : 4);
+    }
+}
+
+TEST(Drawing, AFormOfThousandsIsLeftAtOnce) {
+    constexpr int WIDGETS = 3000;
+    constexpr std::chrono::milliseconds LONGEST{1000};
+    Desk desk;
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    ASSERT_TRUE(button);
+    for (int i = 2; i <= WIDGETS; i++) {
+        OwnedList copy = copyNode(button, false);
+        copy->name = "Form1_Button" + std::to_string(i);
+        linkChild(*desk.panel, std::move(copy));
+    }
+    discardForms(project.forms);
+    WidgetNode* last = findName(project.forms, "Form1_Button" + std::to_string(WIDGETS), false);
+    selectWidget(last);
+    desk.run();
+    const auto start = std::chrono::steady_clock::now();
+    eraseForms(project.forms);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, LONGEST);
+    realiseForms(project.forms);
 }
 
 TEST(Drawing, TheRightButtonSelectsWhatItIsAbout) {

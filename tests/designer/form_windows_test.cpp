@@ -2,6 +2,7 @@
 #include "desk.h"
 
 #include "shell/commands.h"
+#include "surface/live.h"
 
 #include <QGuiApplication>
 #include <QPoint>
@@ -121,6 +122,18 @@ TEST(FormWindows, ASelectedWidgetIsScrolledIntoSight) {
     WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 2900, 1950);
     ASSERT_TRUE(button);
     EXPECT_FALSE(robot::viewOf(button->handle)->visibleRegion().isEmpty());
+}
+
+TEST(FormWindows, AToolBarTakesNothingOffTheForm) {
+    Desk desk;
+    ASSERT_TRUE(desk.place(PLACE_TOOL_BAR, desk.panel, 200, 200));
+    desk.run();
+    const QSize window = robot::viewOf(desk.form->handle)->size();
+    EXPECT_EQ(robot::rectOf(desk.panel->handle).size(), QSize(desk.form->width, desk.form->height));
+    rebuildWidget(*desk.form);
+    desk.run();
+    EXPECT_EQ(robot::viewOf(desk.form->handle)->size(), window);
+    EXPECT_EQ(robot::rectOf(desk.panel->handle).size(), QSize(desk.form->width, desk.form->height));
 }
 
 TEST(FormWindows, TheUsersSizeOfAWindowIsTheForms) {

@@ -368,6 +368,19 @@ TEST_F(DesignerTest, AllFormsHideAndShowTogether) {
     EXPECT_EQ(toolTip(button(CMD_SHOW_ALL)).toStdString(), "Hide all Forms");
 }
 
+TEST_F(DesignerTest, AProjectSavedWithItsFormsHiddenShowsThemAtTheFirstKey) {
+    start();
+    send(CMD_SHOW_ALL);
+    ASSERT_TRUE(saveProject(root.string(), "hidden.wdp", false));
+    send(CMD_SHOW_ALL);
+    ASSERT_TRUE(openProjectFile(root.string(), "hidden.wdp"));
+    pump();
+    EXPECT_FALSE(isShown(project.forms->handle));
+    EXPECT_EQ(toolTip(button(CMD_SHOW_ALL)).toStdString(), "Show all Forms");
+    send(CMD_SHOW_ALL);
+    EXPECT_TRUE(isShown(project.forms->handle));
+}
+
 // ---- Snap grid ------------------------------------------------------------------------------------------------
 
 TEST_F(DesignerTest, TheSnapGridIsSetInItsDialogue) {

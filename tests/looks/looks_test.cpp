@@ -63,6 +63,7 @@ Pictures livePictures() {
     if (QWidget* input = QApplication::focusWidget()) input->clearFocus();
     robot::settle(50);
     Pictures pictures;
+    for (const WidgetNode* form = project.forms; form; form = form->next) robot::showWhole(form->handle);
     for (const WidgetNode* form = project.forms; form; form = form->next)
         pictures[form->text] = robot::picture(form->handle).convertToFormat(QImage::Format_RGB32);
     return pictures;

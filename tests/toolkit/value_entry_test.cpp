@@ -108,6 +108,22 @@ TEST_F(ValueEntries, ClearsAndShowsRogueValues) {
     EXPECT_GT(whole, 2000000000);
 }
 
+TEST_F(ValueEntries, AClickTakesTheWholeValueAndTheNextSetsTheCaret) {
+    const int first = value(5);
+    for (const bool again : {false, true}) {
+        owSetActiveWidget(value(1)); // the focus goes elsewhere
+        owSetValueSetting(first, 5.0);
+        for (int clicks = again ? 2 : 1; clicks > 0; clicks--) {
+            QTest::mouseClick(field(first), Qt::LeftButton, {}, QPoint(field(first)->width() - 4, 8));
+            QApplication::processEvents();
+        }
+        QTest::keyClicks(field(first), "2");
+        EXPECT_EQ(shown(first), again ? "5.002" : "2");
+        QTest::keyClick(field(first), Qt::Key_Escape);
+        QTest::keyClick(field(first), Qt::Key_Return);
+    }
+}
+
 TEST_F(ValueEntries, ALabelTellsThatItWasPressed) {
     const int label = value(5, ODISPLAY);
     QTest::mouseClick(static_cast<ValueEntry*>(view(label))->field(), Qt::LeftButton);

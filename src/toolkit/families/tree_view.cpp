@@ -228,6 +228,8 @@ void entryErased(Widget& entry) {
     QTreeWidgetItem* item = itemOf(entry);
     box.forget(item);
     const ProgramDoing::Mark mark(box.program);
+    // Else each of many entries that go passes the mark, and the view, on to the next.
+    if (box.currentItem() == item) box.setCurrentItem(nullptr);
     QTreeWidgetItem* above = item->parent() ? item->parent() : box.invisibleRootItem();
     const int last = above->childCount() - 1;
     if (above->child(last) == item) above->takeChild(last); // without a search among its siblings

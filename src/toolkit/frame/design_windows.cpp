@@ -14,9 +14,10 @@
 namespace orba {
 namespace {
 
-constexpr int MARGIN = 8;             // pixels between the edges of the free middle and a window in it
-constexpr int CASCADE = 24;           // pixels from one window in it to the next
-constexpr QSize LEAST_ROOM{400, 300}; // what shows of a large window even where the free middle is smaller
+constexpr int MARGIN = 8;              // pixels between the edges of the free middle and a window in it
+constexpr int CASCADE = 24;            // pixels from one window in it to the next
+constexpr QSize SHOWN_WHOLE{800, 600}; // a window up to this size is never cut to the free middle...
+constexpr QSize LEAST_ROOM{400, 300};  // ...and of a larger one this much shows even where that is smaller
 
 // Asks for no more room than its window has.
 class Viewport : public QScrollArea {
@@ -66,10 +67,10 @@ QSize decoration(const QWidget& view) { return view.frameGeometry().size() - vie
 
 QRect screenOf(const QWidget& view) { return view.screen()->availableGeometry(); }
 
-// The most that the frame of the window may take.
-QSize roomFor(const Widget& window) {
+// The most that the frame of a window of that size may take.
+QSize roomFor(const Widget& window, const QSize& whole) {
     const QSize screen = screenOf(*window.view).size();
-    if (!windowData(window).aside) return screen;
+    if (!windowData(window).aside || whole == whole.boundedTo(SHOWN_WHOLE)) return screen;
     const QSize middle = freeMiddle().size() - QSize(2 * MARGIN, 2 * MARGIN);
     return middle.expandedTo(LEAST_ROOM).boundedTo(screen);
 }
@@ -136,7 +137,7 @@ void settleDesignWindow(Widget& window) {
     // The bars take what their layout gives them; the second round finds it settled.
     for (int round = 0; round < 2; round++) {
         const QSize bars = barsOf(*view);
-        const QSize shown = shownPart(data.client, roomFor(window) - decoration(*view) - bars);
+        const QSize shown = shownPart(data.client, roomFor(window, data.client + bars) - decoration(*view) - bars);
         viewport->widget()->setMinimumSize(shown == data.client ? QSize(0, 0) : data.client);
         view->resize(shown + bars);
     }
@@ -150,6 +151,14 @@ void settleDesignWindows() {
     for (Widget* window : master->children)
         if (isDesignWindow(*window) && window->view->isVisible() && !windowData(*window).placedByUser)
             settleDesignWindow(*window);
+}
+
+void designBarsChanged(Widget& window) {
+    const Viewport* viewport = viewportOf(window);
+    if (!viewport || !windowData(window).shown || viewport->widget()->size() == windowData(window).client) return;
+    // A pane takes its room from the client area, as it does in the program.
+    const auto isPane = [](const Widget* child) { return child->kind == Kind::dockingPane; };
+    if (std::ranges::none_of(window.children, isPane)) settleDesignWindow(window);
 }
 
 void designWindowResized(Widget& window) {

@@ -14,6 +14,8 @@ void makeScrollable(Widget& window);
 // The client area as the program asked for it, as much of the window as has room, and its place.
 void settleDesignWindow(Widget& window);
 void settleDesignWindows(); // all on the screen that their user has not moved
+// Its bars have got their height: what they took off the client area is given back.
+void designBarsChanged(Widget& window);
 // The user has changed its size: nothing to scroll is left where the whole client area shows.
 void designWindowResized(Widget& window);
 

@@ -71,7 +71,7 @@ void placeOnceFramed(const Widget& window) {
     QTimer::singleShot(FRAMED, window.view, [handle = window.handle] {
         Widget* framed = widgetOf(handle);
         if (!framed || !framed->view->isVisible() || framed->view->windowState() & FITTED_ELSEWHERE) return;
-        if (isSettling(*framed) && framed->view->pos() != topLeftOf(*framed)) moveWindow(*framed);
+        if (isSettling(*framed) && framed->view->pos() != ownPlaceOf(*framed)) moveWindow(*framed);
     });
 }
 
@@ -319,6 +319,11 @@ bool FormWindow::eventFilter(QObject* target, QEvent* event) {
 }
 
 bool FormWindow::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        const bool used = QMainWindow::event(event);
+        if (Widget* window = windowRecord(*this)) designBarsChanged(*window);
+        return used;
+    }
     if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
         Widget* window = windowRecord(*this);
         if (window && window->data && !windowData(*window).frame) {

@@ -364,6 +364,12 @@ void resizeByUser(int window, QSize size) {
     settle();
 }
 
+void showWhole(int window) {
+    auto* view = static_cast<QMainWindow*>(viewOf(window));
+    view->resize(view->size() + windowArea(*widgetOf(window))->size() - view->centralWidget()->size());
+    settle();
+}
+
 void closeByUser(int window) {
     frameOf(window)->close();
     settle();

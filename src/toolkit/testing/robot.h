@@ -67,6 +67,7 @@ void focus(int handle);
 void choose(int entry);
 void moveByUser(int window, QPoint to);
 void resizeByUser(int window, QSize size);
+void showWhole(int window); // a designed one, whose client area is scrolled otherwise
 void closeByUser(int window);
 // Lets Qt do what waits.
 void settle(int milliseconds = 0);

@@ -197,6 +197,7 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::FocusIn:
         focused_ = true;
+        clicked_ = false;
         if (!line_->isReadOnly()) {
             showValue();
             line_->selectAll();
@@ -241,6 +242,11 @@ bool ValueEntry::eventFilter(QObject* watched, QEvent* event) {
         if (std::exchange(awaitsUser_, false) && hooks_.selected) hooks_.selected();
         if (hooks_.pressed) hooks_.pressed();
         if (options_.label && hooks_.selected) hooks_.selected();
+        break;
+    case QEvent::MouseButtonRelease:
+        // The first click takes the whole value, so that a number typed now replaces it; the next ones set the caret.
+        if (!std::exchange(clicked_, true) && !edited_ && !line_->isReadOnly() && !line_->hasSelectedText())
+            QMetaObject::invokeMethod(line_, &QLineEdit::selectAll, Qt::QueuedConnection);
         break;
     default: break;
     }

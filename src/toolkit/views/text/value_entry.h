@@ -77,6 +77,7 @@ private:
     double value_ = 0;
     bool empty_ = false;
     bool focused_ = false;
+    bool clicked_ = false; // by the mouse since it got the focus
     bool awaitsUser_ = false;
     bool edited_ = false;
 };
