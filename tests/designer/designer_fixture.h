@@ -1,12 +1,13 @@
-// The whole designer in this process, worked through its real widgets: in a folder of its own, without the splash.
+// Tests that start and end the designer themselves, once or more often, in one folder.
 #pragma once
+
+#include "designer_session.h"
 
 #include "menu-c.h"
 #include "project/records.h"
 #include "shell/command_states.h"
 #include "shell/command_table.h"
 #include "shell/designer.h"
-#include "support/scratch.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -14,20 +15,13 @@
 
 class DesignerTest : public testing::Test {
 protected:
-    ScratchFolder scratch{"orba-designer"};
-    std::filesystem::path before, root, data;
+    DesignerSession session;
+    const std::filesystem::path &root = session.root, &data = session.data;
 
-    void SetUp() override;
-    void TearDown() override;
-
-    void start(const std::string& commandLine = "");
-    void end();
-    bool running = false;
-
-    // Handles every event that waits, as the action loop does.
-    static void pump();
-    // Runs a command as its entry, button or key does.
-    static void send(int command);
+    void start(const std::string& commandLine = "") { session.start(commandLine); }
+    void end() { session.end(); }
+    static void pump() { DesignerSession::pump(); }
+    static void send(int command) { DesignerSession::send(command); }
     static int menuEntry(int command) { return commandWidget(command, CommandWidget::MenuEntry); }
     static int button(int command) { return commandWidget(command, CommandWidget::Button); }
     // Handle of the live widget of a record.

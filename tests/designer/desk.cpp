@@ -1,51 +1,28 @@
 #include "desk.h"
 
 #include "properties/sheet.h"
-#include "support/scratch.h"
-#include "surface/hooks.h"
 
 #include <QPoint>
 
 #include <cstdlib>
-#include <filesystem>
-#include <memory>
 
 namespace robot = orba::testing;
 
 namespace {
 
-constexpr int END_OF_QUEUE = 2'000'000'002;
 constexpr int TEXT_BYTES = 256;
-
-std::unique_ptr<ScratchFolder> settings;
 
 int rowOf(const char* label) { return owPropertyItemNumber(propertyList(), label); }
 
 } // namespace
 
 Desk::Desk() {
-    settings = std::make_unique<ScratchFolder>("desk");
-    std::filesystem::copy_file(ORBA_SOURCE_DIR "/data/defaults.syn", settings->path / "wdesign.syn");
-    setenv("ORBADATA", settings->path.c_str(), 1);
-    setenv("ORBA_NO_SPLASH", "1", 1);
-    startDesigner("");
-    run();
+    session.start();
     form = project.forms;
     panel = form->child;
 }
 
-Desk::~Desk() {
-    endDesigner();
-    EXPECT_TRUE(robot::scriptIsEmpty());
-    settings.reset();
-}
-
-void Desk::run() {
-    robot::settle();
-    owPostCallback(END_OF_QUEUE, 0);
-    int callback = 0;
-    for (owAction(&callback); callback != END_OF_QUEUE; owAction(&callback)) handleEvent(callback);
-}
+void Desk::run() { DesignerSession::pump(); }
 
 WidgetNode* Desk::place(int tool, WidgetNode* parent, int x, int y) {
     const WidgetNode* before = project.currentWidget;

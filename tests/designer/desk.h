@@ -3,14 +3,16 @@
 
 #define QT_NO_KEYWORDS // the records have a field of the name slots
 
+#include "designer_session.h"
+
 #include "menu-c.h"
 #include "project/placement.h"
 #include "project/preferences.h"
 #include "project/records.h"
 #include "project/tools.h"
 #include "project/tree.h"
-#include "shell/designer.h"
 #include "shell/command_table.h"
+#include "shell/designer.h"
 #include "surface/selection.h"
 #include "surface/state.h"
 #include "toolkit/testing/robot.h"
@@ -22,7 +24,6 @@
 // Starts on an empty project with Form1 and ends without a question.
 struct Desk {
     Desk();
-    ~Desk();
 
     // Carries all events that wait to their commands and to the forms.
     void run();
@@ -37,7 +38,7 @@ struct Desk {
     bool propertyEnabled(const char* label);
     void command(int identifier);
 
-    orba::testing::Toolkit toolkit{orba::testing::Toolkit::Master::none}; // answers boxes from the script
+    DesignerSession session;
     WidgetNode* form = nullptr;
     WidgetNode* panel = nullptr; // the main panel
 };
