@@ -2,6 +2,7 @@
 
 #include "codegen/generate.h"
 #include "project/files.h"
+#include "project/widget_types.h"
 #include "shell/project_commands.h"
 #include "support/files.h"
 #include "support/records_equal.h"
@@ -13,10 +14,17 @@ namespace {
 
 // ---- Files and sources.
 
+// Without one there is no program to write, and the user is told so.
+bool hasMaster() {
+    for (const WidgetNode* form = project.forms; form; form = form->next)
+        if (isMaster(*form)) return true;
+    return false;
+}
+
 // Without the line that tells the time.
 std::string sourceText() {
     GeneratedText generated;
-    expect(generateText("monkey.source", generated), "generate: refused");
+    expect(generateText("monkey.source", generated) || !hasMaster(), "generate: refused");
     const std::size_t from = generated.text.find("Last created on"), to = generated.text.find('\n', from);
     return from == std::string::npos ? generated.text : generated.text.erase(from, to - from);
 }
