@@ -72,9 +72,15 @@ void compareStates(const ProjectState& left, const ProjectState& right) {
     compare("code blocks", left, right, &ProjectState::codeBlocks);
 }
 
+// The one choice that no file keeps: every form that is read has it on.
+void forgetBuildInfo() {
+    for (WidgetNode* form = project.forms; form; form = form->next) form->buildInfo = 1;
+}
+
 } // namespace
 
 void checkFiles() {
+    forgetBuildInfo();
     savedBytes("monkey-a.wdp"); // brings what was typed and dragged into the records
     const std::string text = sourceText();
     const std::string bytes = savedBytes("monkey-a.wdp");
