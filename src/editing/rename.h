@@ -3,6 +3,7 @@
 
 #include <string>
 
-// Replaces `from` by `to` in all blocks, slots and entry slots, if the user agrees; any occurrence counts, inside a
-// longer word too, and in a Fortran project whatever its case. Returns the number of places changed.
+// Replaces `from` by `to` in all blocks, slots and entry slots, if the user agrees; whole names only, in a Fortran
+// project whatever their case. With a form's name go those that begin with it. The widgets bear the new names already.
+// Returns the number of places changed.
 int renameInCode(const std::string& from, const std::string& to);

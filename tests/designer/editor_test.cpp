@@ -211,12 +211,25 @@ TEST(Editor, NewNameReachesTheCode) {
     selectWidget(button);
     robot::expectBox(
         "Update Code Blocks",
-        "3 occurance(s) of the old widget name: Form1_Button1|have been found in the user code and callback "
+        "2 occurance(s) of the old widget name: Form1_Button1|have been found in the user code and callback "
         "code blocks||Do you want to change them all to the new widget name: Go?",
         OANSWERYES);
     desk.setProperty("Name", "Go");
     EXPECT_EQ(desk.form->slots[SLOT_GENERAL], "call hide(Go)");
-    EXPECT_EQ(project.codeBlocks[BLOCK_INITIALIZATION], "Go = 0 ! Go2");
+    EXPECT_EQ(project.codeBlocks[BLOCK_INITIALIZATION], "Go = 0 ! Form1_Button12");
+}
+
+TEST(Editor, NamesThatFollowAFormFollowItInTheCodeToo) {
+    Desk desk;
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
+    button->slots[SLOT_GENERAL] = "call owDrawWindow(form1, 1) ! Form1_Button1, Form1_Mine";
+    desk.click(desk.panel, 300, 5);
+    robot::expectBox("Update Code Blocks",
+                     "2 occurance(s) of the old widget name: Form1|have been found in the user code and callback "
+                     "code blocks||Do you want to change them all to the new widget name: Main?",
+                     OANSWERYES);
+    desk.setProperty("Name", "Main");
+    EXPECT_EQ(button->slots[SLOT_GENERAL], "call owDrawWindow(Main, 1) ! Main_Button1, Form1_Mine");
 }
 
 std::vector<std::string> listedNames() {
