@@ -18,17 +18,26 @@ namespace {
 
 enum class Holder { Form, Widget, Sheet };
 
+// Widgets of the master window outside the property sheet. The hierarchy is made anew with each project, so that it is
+// a place that is kept and no handle.
+using Place = int (*)();
+constexpr Place PLACES[] = {codeText,
+                            logWidget,
+                            hierarchyBox,
+                            [] { return editor.blockList; },
+                            [] { return editor.widgetList; },
+                            [] { return editor.menuList; },
+                            [] { return editor.treeList; }};
+
 // Cells of the property sheet come and go, the forms' widgets too: they are kept by what they belong to.
 struct {
     Holder holder = Holder::Form;
-    int widget = 0; // handle, of Holder::Widget
+    Place place = nullptr; // of Holder::Widget
 } input;
 
-// Widgets of the master window that last as long as it.
-bool lasts(int widget) {
-    const int widgets[] = {codeText(),        logWidget(),     hierarchyBox(), editor.blockList,
-                           editor.widgetList, editor.menuList, editor.treeList};
-    return std::find(std::begin(widgets), std::end(widgets), widget) != std::end(widgets);
+Place placeOf(int widget) {
+    const auto place = std::ranges::find_if(PLACES, [widget](Place one) { return one() == widget; });
+    return place == std::end(PLACES) ? nullptr : *place;
 }
 
 bool isForm(int window) {
@@ -54,8 +63,8 @@ void inputMovedCommand() {
         // A press on the menu bar or an icon makes the master window active: none of its fields is to get the keys.
         owSetWindowInput(FORMS_ROOM);
         input = {};
-    } else if (lasts(active)) {
-        input = {Holder::Widget, active};
+    } else if (const Place place = placeOf(active)) {
+        input = {Holder::Widget, place};
     } else if (sheetHolds(active)) {
         input = {Holder::Sheet, 0};
     }
@@ -69,7 +78,7 @@ void giveInputBack() {
         else
             activateWidget(project.currentWidget);
         break;
-    case Holder::Widget: owSetActiveWidget(input.widget); break;
+    case Holder::Widget: owSetActiveWidget(input.place()); break;
     case Holder::Sheet:
         if (propertyList()) owSetActiveWidget(propertyList());
         break;

@@ -351,6 +351,20 @@ TEST_F(Keys, ADialogueGivesTheInputBack) {
     }
 }
 
+TEST_F(Keys, TheHierarchyGetsTheInputBackAlsoWhenItWasMadeAnew) {
+    takeInput(hierarchyBox());
+    pump();
+    const int before = hierarchyBox();
+    clearHierarchy();
+    buildHierarchy(project.forms);
+    ASSERT_NE(hierarchyBox(), before);
+    send(CMD_SNAP_DIALOGUE);
+    key(0, Qt::Key_Escape);
+    pump();
+    EXPECT_FALSE(dialogueOpen());
+    EXPECT_EQ(owEnqActiveWidget(), hierarchyBox());
+}
+
 // ---- Dialogues --------------------------------------------------------------------------------------------------
 
 TEST_F(Keys, ReturnInAFieldTakesItsValueAndPressesTheButtonOnce) {
