@@ -108,6 +108,8 @@ double shownNumber(const WidgetNode& widget, const PropertyRow& row) {
         const int wholeCells = target.*row.whole / std::max(project.gridPixelX, 1);
         return wholeCells;
     }
+    if (row.id == ROW_PROGRESS_VALUE) // as the bar shows it, which keeps a value that its limits have left behind
+        return static_cast<double>(std::max(std::min(target.value, target.maxValue), target.minValue));
     if (row.real) return static_cast<double>(target.*row.real);
     return row.whole ? target.*row.whole : 0;
 }

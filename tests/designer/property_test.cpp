@@ -154,6 +154,17 @@ TEST(Properties, LimitsOfASliderPushEachOther) {
     EXPECT_FLOAT_EQ(slider->value, 8);
 }
 
+TEST(Properties, AProgressBarShowsItsValueInsideItsLimits) {
+    Desk desk;
+    WidgetNode* bar = desk.place(TOOL_PROGRESS_BAR, desk.panel, 10, 20);
+    desk.setProperty("Progress Value", "70");
+    desk.setProperty("Maximum Value", "50");
+    EXPECT_EQ(desk.property("Progress Value"), "50");
+    EXPECT_FLOAT_EQ(bar->value, 70);
+    desk.setProperty("Maximum Value", "90");
+    EXPECT_EQ(desk.property("Progress Value"), "70");
+}
+
 // A button that leads nowhere is none: what can be typed is typed, the rest is grey.
 TEST(Properties, ButtonsNeedTheirEditors) {
     Desk desk;
