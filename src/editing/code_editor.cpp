@@ -134,6 +134,8 @@ void showPlace(int line, int column) {
     enterTextMode();
 }
 
+namespace {
+
 void blockChosenCommand() {
     commitEditor();
     const std::string name = chosenRow(editor.blockList);
@@ -170,3 +172,16 @@ void clearAllCodeCommand() {
 }
 
 void commitCommand() { commitEditor(); }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_CLEAR_CODE, .label = "Clear code", .mnemonic = 'c', .menuIcon = "delete&", .when = WHEN_TEXT_MODE, .handler = clearCodeCommand},
+    {.id = CMD_CLEAR_ALL_CODE, .label = "Clear all code", .mnemonic = 'a', .menuIcon = "recycle&", .when = WHEN_TEXT_MODE, .handler = clearAllCodeCommand},
+    {.id = CMD_COMMIT_CODE, .key = controlKey('S'), .keyModes = IN_TEXT, .handler = commitCommand},
+    {.id = CMD_CODE_BLOCK, .handler = blockChosenCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> codeEditorCommands() { return COMMANDS; }

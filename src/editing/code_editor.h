@@ -18,9 +18,3 @@ void showCode(const std::string& blockName, WidgetNode* widget, int line,
 void showBoundCode();                 // the text of the shown name, its remembered selection, line and column
 void rememberCaret();                 // of the shown name
 void showPlace(int line, int column); // brings up the editor with that line selected, or the caret in its column
-
-// Handlers of commands.
-void blockChosenCommand();  // CMD_CODE_BLOCK
-void clearCodeCommand();    // CMD_CLEAR_CODE
-void clearAllCodeCommand(); // CMD_CLEAR_ALL_CODE
-void commitCommand();       // CMD_COMMIT_CODE

@@ -1,5 +1,6 @@
-#include "editing/code_files.h"
+// The code editor and the outside: inserting a file, printing, help on the word under the caret.
 
+#include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/help_file.h"
 #include "editing/text_view.h"
@@ -59,8 +60,6 @@ std::string wordAtCaret() {
     return line.substr(from, to - from);
 }
 
-} // namespace
-
 void insertFileCommand() {
     const TextRange range = selectionOf(editor.text);
     std::string name;
@@ -92,3 +91,15 @@ void codeHelpCommand() {
     if (!showHelpFile(std::string(row->stem) + VERSION + ".chm", word))
         host.errorBox("Error opening help file", std::string(row->library) + " help file could not be found");
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_INSERT_FILE, .label = "Insert File...", .mnemonic = 'N', .menuIcon = "insertcode&", .handler = insertFileCommand},
+    {.id = CMD_PRINT_CODE, .label = "Print...", .mnemonic = 'P', .when = WHEN_TEXT_MODE, .handler = printCodeCommand},
+    {.id = CMD_CODE_HELP, .key = OKEYF1, .keyModes = IN_TEXT, .handler = codeHelpCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> codeFileCommands() { return COMMANDS; }

@@ -1,6 +1,7 @@
 #include "editing/code_lists.h"
 
 #include "editing/code_editor.h"
+#include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "menu-c.h"
 #include "project/code_stores.h"
@@ -119,6 +120,8 @@ void clearNames() {
     if (editor.widgetList) owSetListEntry(editor.widgetList, OCLEAR, 0);
 }
 
+namespace {
+
 void widgetChosenCommand() { selectByName(chosenRow(editor.widgetList), false); }
 
 void selectorTabCommand() {
@@ -133,4 +136,18 @@ void selectorTabCommand() {
 }
 
 void menuEntryChosenCommand() { entryChosen(editor.menuList); }
+
 void treeEntryChosenCommand() { entryChosen(editor.treeList); }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_WIDGET_LIST, .handler = widgetChosenCommand},
+    {.id = CMD_SELECTOR_TABS, .handler = selectorTabCommand},
+    {.id = CMD_MENU_ENTRY_LIST, .handler = menuEntryChosenCommand},
+    {.id = CMD_TREE_ENTRY_LIST, .handler = treeEntryChosenCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> codeListCommands() { return COMMANDS; }

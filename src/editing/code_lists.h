@@ -13,8 +13,3 @@ void nameAdded(const std::string& name);
 void nameRemoved(const std::string& name);
 void nameChanged(const std::string& from, const std::string& to);
 void clearNames();
-
-void widgetChosenCommand();    // CMD_WIDGET_LIST
-void selectorTabCommand();     // CMD_SELECTOR_TABS
-void menuEntryChosenCommand(); // CMD_MENU_ENTRY_LIST
-void treeEntryChosenCommand(); // CMD_TREE_ENTRY_LIST

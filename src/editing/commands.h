@@ -1,9 +1,10 @@
-// Commands and events of the code editor, and of the windows about code: their identifiers and their table.
+// Commands and events of the code editor, and of the windows about code: their identifiers and their tables.
 #pragma once
 
 #include "surface/command.h"
 
 #include <span>
+#include <vector>
 
 enum EditingCommandId : int {
     CMD_INSERT_COMMAND = 15020,
@@ -60,4 +61,12 @@ enum EditingCommandId : int {
     CMD_TEXT_MENU = 19980, // the pull-down entry itself; it sends nothing
 };
 
-std::span<const Command> editingCommands();
+// The rows of each file, where its handlers stand.
+std::span<const Command> codeEditorCommands();
+std::span<const Command> codeFileCommands();
+std::span<const Command> codeListCommands();
+std::span<const Command> nameChooserCommands();
+std::span<const Command> sourceViewerCommands();
+std::span<const Command> textCommands();
+
+std::vector<Command> editingCommands(); // the rows of the room

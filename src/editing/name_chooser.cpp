@@ -196,8 +196,6 @@ void insertChosen() {
     closeChooser();
 }
 
-} // namespace
-
 void insertNameCommand() {
     if (chooser.popup) owEraseWidget(chooser.popup);
     chooser.popup = owCreatePopupMenu(1, 0, 0, ONONE, "", 0);
@@ -216,6 +214,8 @@ void insertNameCommand() {
     owDrawWindow(chooser.popup, 1);
 }
 
+} // namespace
+
 bool nameCommand(int identifier) {
     const auto family = std::ranges::find(FAMILIES, identifier, &Family::command);
     if (identifier > 0 && family != std::end(FAMILIES))
@@ -230,3 +230,15 @@ bool nameCommand(int identifier) {
         return false;
     return true;
 }
+
+namespace {
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_INSERT_NAME, .key = controlKey('W'), .keyModes = IN_TEXT, .handler = insertNameCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> nameChooserCommands() { return COMMANDS; }

@@ -174,8 +174,6 @@ void goToLine() {
     showPosition();
 }
 
-} // namespace
-
 void sourceViewerCommand() {
     if (!prepareSource() || project.sourceName.empty()) return;
     closeViewer();
@@ -188,6 +186,8 @@ void sourceViewerCommand() {
     bindKeys();
     showPosition();
 }
+
+} // namespace
 
 bool viewerCommand(int identifier) {
     switch (identifier) {
@@ -206,3 +206,15 @@ bool viewerCommand(int identifier) {
     }
     return true;
 }
+
+namespace {
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_SOURCE_VIEWER, .label = "Source Code", .mnemonic = 'S', .when = OPENS_WINDOW, .handler = sourceViewerCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> sourceViewerCommands() { return COMMANDS; }

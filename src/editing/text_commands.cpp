@@ -1,4 +1,4 @@
-#include "editing/text_commands.h"
+// Commands on the text of the code editor.
 
 #include "editing/commands.h"
 #include "editing/editor_window.h"
@@ -143,8 +143,6 @@ void textNotification(bool changed) {
     followCaret();
 }
 
-} // namespace
-
 void codeChangedCommand() { textNotification(action.status == 1); }
 
 void caretMovedCommand() { textNotification(false); }
@@ -156,15 +154,21 @@ void textTabCommand() {
 }
 
 void indentCommand() { changeLines(indented); }
+
 void unindentCommand() { changeLines(unindented); }
+
 void commentCommand() { changeLines(commented); }
+
 void uncommentCommand() { changeLines(uncommented); }
 
 void uppercaseCommand() { changeCase(std::toupper); }
+
 void lowercaseCommand() { changeCase(std::tolower); }
 
 void textCutCommand() { clipboardCommand(OCUT); }
+
 void textCopyCommand() { clipboardCommand(OCOPY); }
+
 void textDeleteCommand() {
     const TextRange range = selectionOf(editor.text);
     if (range.start == range.end && range.end <= textLength(editor.text))
@@ -190,3 +194,28 @@ void textRedoCommand() {
     markModified();
     showHistory();
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_TEXT_MENU, .label = "Text", .mnemonic = 'T', .when = WHEN_TEXT_MODE, .handler = [] {}},
+    {.id = CMD_UPPERCASE, .label = "Uppercase", .mnemonic = 'U', .when = WHEN_TEXT_MODE, .handler = uppercaseCommand},
+    {.id = CMD_LOWERCASE, .label = "Lowercase", .mnemonic = 'L', .when = WHEN_TEXT_MODE, .handler = lowercaseCommand},
+    {.id = CMD_TEXT_UNDO, .label = "Undo Text Edit              |Ctrl+Z", .mnemonic = 'd', .key = controlKey('Z'), .keyModes = IN_TEXT, .when = STARTS_DISABLED, .handler = textUndoCommand},
+    {.id = CMD_TEXT_REDO, .label = "Redo Text Edit|Ctrl+Y", .mnemonic = 'R', .key = controlKey('Y'), .keyModes = IN_TEXT, .when = STARTS_DISABLED, .handler = textRedoCommand},
+    {.id = CMD_TEXT_CUT, .label = "Cut Text|Ctrl+X", .mnemonic = 't', .key = controlKey('X'), .keyModes = IN_TEXT, .bubbleHelp = "Cut Text", .handler = textCutCommand},
+    {.id = CMD_TEXT_COPY, .label = "Copy Text|Ctrl+C", .mnemonic = 'C', .key = controlKey('C'), .keyModes = IN_TEXT, .bubbleHelp = "Copy Text", .handler = textCopyCommand},
+    {.id = CMD_TEXT_PASTE, .label = "Paste Text|Ctrl+V", .mnemonic = 'P', .key = controlKey('V'), .keyModes = IN_TEXT, .bubbleHelp = "Paste Text", .handler = textPasteCommand},
+    {.id = CMD_TEXT_DELETE, .label = "Delete Text|DEL", .mnemonic = 'D', .key = OKEYDEL, .keyModes = IN_TEXT, .handler = textDeleteCommand},
+    {.id = CMD_TEXT_TAB, .key = OKEYTAB, .keyModes = IN_TEXT, .handler = textTabCommand},
+    {.id = CMD_CODE_CHANGED, .handler = codeChangedCommand},
+    {.id = CMD_CODE_SELECT, .handler = caretMovedCommand},
+    {.id = CMD_INDENT, .handler = indentCommand},
+    {.id = CMD_UNINDENT, .key = OKEYSHIFTTAB, .keyModes = IN_TEXT, .handler = unindentCommand},
+    {.id = CMD_COMMENT, .handler = commentCommand},
+    {.id = CMD_UNCOMMENT, .handler = uncommentCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> textCommands() { return COMMANDS; }

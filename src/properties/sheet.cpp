@@ -5,9 +5,9 @@
 #include "project/preferences.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
+#include "properties/commands.h"
 #include "properties/edits.h"
 #include "properties/rows.h"
-#include "properties/commands.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/selection.h"
@@ -375,6 +375,8 @@ bool sheetHolds(int widget) {
 }
 int propertyList() { return sheet.list; }
 
+namespace {
+
 void propertySelectedCommand() {
     design.helpContext = "Properties Box";
     const std::string label = currentLabel();
@@ -413,5 +415,16 @@ void propertyButtonCommand() {
     }
 }
 
-void fontFaceCommand() { propertyChangedCommand(); }
-void pointSizeCommand() { propertyChangedCommand(); }
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_PROPERTY_SELECTED, .handler = propertySelectedCommand},
+    {.id = CMD_PROPERTY_BUTTON, .handler = propertyButtonCommand},
+    {.id = CMD_PROPERTY_CHANGED, .handler = propertyChangedCommand},
+    {.id = CMD_FONT_FACE, .handler = propertyChangedCommand},
+    {.id = CMD_POINT_SIZE, .handler = propertyChangedCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> propertyCommands() { return COMMANDS; }

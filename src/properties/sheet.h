@@ -13,11 +13,4 @@ void showProperties(WidgetNode* widget);
 
 const std::string& selectedPropertyLabel();
 bool sheetHolds(int widget); // handle of the list or of a cell in it
-int propertyList(); // handle of the list; another one after every showProperties
-
-// Handlers of the events of the sheet.
-void propertySelectedCommand(); // CMD_PROPERTY_SELECTED
-void propertyButtonCommand();   // CMD_PROPERTY_BUTTON
-void propertyChangedCommand();  // CMD_PROPERTY_CHANGED
-void fontFaceCommand();         // CMD_FONT_FACE
-void pointSizeCommand();        // CMD_POINT_SIZE
+int propertyList();          // handle of the list; another one after every showProperties

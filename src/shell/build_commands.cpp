@@ -13,6 +13,7 @@
 #include "project/preferences.h"
 #include "shell/command_states.h"
 #include "shell/command_table.h"
+#include "shell/commands.h"
 #include "shell/compiler_log.h"
 #include "shell/saving.h"
 #include "shell/window_control.h"
@@ -22,6 +23,8 @@
 
 // ---- Generating -----------------------------------------------------------------------------------------------
 
+namespace {
+
 void generateCommand() {
     selectTool(TOOL_SELECTOR);
     commitEditor();
@@ -29,12 +32,15 @@ void generateCommand() {
     generateToChosenSource();
 }
 
+} // namespace
+
 // ---- Building and running -------------------------------------------------------------------------------------
 
-void compileAndRunCommand() { compileCommand(false); }
-void rebuildCommand() { compileCommand(true); }
-
 namespace {
+
+void compileAndRunCommand() { compileCommand(false); }
+
+void rebuildCommand() { compileCommand(true); }
 
 void stepToMessage(int step) {
     const int line = messageBeside(currentLogLine(), step);
@@ -44,10 +50,11 @@ void stepToMessage(int step) {
     logEntryChosen(line);
 }
 
-} // namespace
-
 void nextMessageCommand() { stepToMessage(1); }
+
 void previousMessageCommand() { stepToMessage(-1); }
+
+} // namespace
 
 // ---- What a build asks of the designer ------------------------------------------------------------------------
 
@@ -95,3 +102,23 @@ void joinBuildToWindows() {
     };
     hooks.generateSource = generateKnownSource;
 }
+
+namespace {
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_GENERATE, .label = "Generate Code", .mnemonic = 'G', .menuIcon = "Generate&", .barIcon = "Generate", .bubbleHelp = "Generate Code", .handler = generateCommand},
+    {.id = CMD_COMPILE, .label = "Compile, Link & Execute|F5", .mnemonic = 'C', .key = functionKey(5), .keyModes = EVERYWHERE | WHEN_ENABLED, .menuIcon = "Compile&", .greyIcon = "Compile#", .barIcon = "Compile", .bubbleHelp = "Compile, Link & Execute", .when = STARTS_DISABLED, .handler = compileAndRunCommand},
+    {.id = CMD_COMPILE_AGAIN, .handler = compileAndRunCommand},
+    {.id = CMD_REBUILD, .label = "Rebuild all", .mnemonic = 'R', .when = STARTS_DISABLED, .handler = rebuildCommand},
+    {.id = CMD_EXECUTE, .label = "Execute|F6", .mnemonic = 'E', .key = functionKey(6), .keyModes = EVERYWHERE | WHEN_ENABLED, .menuIcon = "forward&", .barIcon = "forward", .bubbleHelp = "Execute", .when = STARTS_DISABLED, .handler = executeCommand},
+    {.id = CMD_ABORT, .label = "Abort Execution", .mnemonic = 'A', .menuIcon = "cancel&", .barIcon = "cancel", .bubbleHelp = "Abort Execution", .when = STARTS_DISABLED, .handler = abortCommand},
+    {.id = CMD_NEXT_MESSAGE, .key = functionKey(4), .keyModes = EVERYWHERE, .handler = nextMessageCommand},
+    {.id = CMD_PREVIOUS_MESSAGE, .key = shifted(functionKey(4)), .keyModes = EVERYWHERE, .handler = previousMessageCommand},
+    {.id = CMD_WATCH, .handler = watchProgram},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> buildCommands() { return COMMANDS; }

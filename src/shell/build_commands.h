@@ -2,9 +2,3 @@
 #pragma once
 
 void joinBuildToWindows(); // what a build asks of the designer and tells it; once the windows stand
-
-void generateCommand();      // CMD_GENERATE
-void compileAndRunCommand(); // CMD_COMPILE
-void rebuildCommand();       // CMD_REBUILD
-void nextMessageCommand();   // CMD_NEXT_MESSAGE
-void previousMessageCommand();

@@ -9,14 +9,6 @@
 
 namespace {
 
-std::vector<Command> joined() {
-    std::vector<Command> all;
-    for (const std::span<const Command> table :
-         {surfaceCommands(), propertyCommands(), editingCommands(), shellCommands()})
-        all.insert(all.end(), table.begin(), table.end());
-    return all;
-}
-
 // An identifier that two rows bear would run only one of them.
 std::unordered_map<int, const Command*> indexOf(std::span<const Command> table) {
     std::unordered_map<int, const Command*> rows;
@@ -30,7 +22,8 @@ std::unordered_map<int, const Command*> indexOf(std::span<const Command> table) 
 } // namespace
 
 std::span<const Command> commandTable() {
-    static const std::vector<Command> table = joined();
+    static const std::vector<Command> table =
+        joined({surfaceCommands(), propertyCommands(), editingCommands(), shellCommands()});
     return table;
 }
 

@@ -1,9 +1,10 @@
-// Commands and events of the shell: their identifiers and their table.
+// Commands and events of the shell: their identifiers and their tables.
 #pragma once
 
 #include "surface/command.h"
 
 #include <span>
+#include <vector>
 
 enum ShellCommandId : int {
     CMD_EXIT = -1, // the toolkit sends it when the master window is closed, too
@@ -84,4 +85,13 @@ enum ShellCommandId : int {
     CMD_LOG_PLACE = 19984, // Return or a double click on a line of the log
 };
 
-std::span<const Command> shellCommands();
+// The rows of each file, where its handlers stand.
+std::span<const Command> buildCommands();
+std::span<const Command> helpCommands();
+std::span<const Command> inputCommands();
+std::span<const Command> logCommands();
+std::span<const Command> menuCommands();
+std::span<const Command> projectCommands();
+std::span<const Command> windowCommands();
+
+std::vector<Command> shellCommands(); // the rows of the room

@@ -45,6 +45,8 @@ void setLogFont() {
     owDrawWidget(logList);
 }
 
+namespace {
+
 void logPlaceCommand() {
     if (const int line = currentLogLine(); line > 0) logEntryChosen(line);
 }
@@ -60,3 +62,15 @@ void printErrorsCommand() {
     owPrintTextWidget(logList, 0, 0, preferences.codePointSize);
     enterTextMode();
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_PRINT_ERRORS, .label = "Print Errors...", .mnemonic = 'E', .when = STARTS_DISABLED, .handler = printErrorsCommand},
+    {.id = CMD_LOG_PLACE, .handler = logPlaceCommand},
+    {.id = CMD_LOG_LINE, .handler = logLineCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> logCommands() { return COMMANDS; }

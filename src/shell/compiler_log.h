@@ -13,7 +13,3 @@ void setLogLines(const std::vector<std::string>& lines); // in place of all that
 void selectLogLine(int line);                            // from 1
 int currentLogLine();                                    // 0 for none
 void setLogFont();                                       // of the size that the preferences give code
-
-void logLineCommand();     // CMD_LOG_LINE
-void logPlaceCommand();    // CMD_LOG_PLACE
-void printErrorsCommand(); // CMD_PRINT_ERRORS

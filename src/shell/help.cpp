@@ -10,6 +10,7 @@
 #include "project/widget_types.h"
 #include "properties/sheet.h"
 #include "shell/command_table.h"
+#include "shell/commands.h"
 #include "shell/environment.h"
 #include "shell/window_control.h"
 #include "surface/dialogue_keys.h"
@@ -93,6 +94,8 @@ std::string helpTopic() {
     return project.currentWidget ? widgetTopic(*project.currentWidget) : std::string();
 }
 
+namespace {
+
 void contextHelpCommand() {
     const bool toggle = project.currentWidget && project.currentWidget->type == TYPE_TOGGLE;
     const std::string topic = helpTopic();
@@ -111,6 +114,8 @@ void helpTopicsCommand() {
     }
 }
 
+} // namespace
+
 // ---- About ----------------------------------------------------------------------------------------------------
 
 namespace {
@@ -123,8 +128,6 @@ void addAboutLine(int panel, int y, const std::string& text) {
     owCreateTextEntry(panel, 0, y, ABOUT_SIZE, 22, text.c_str(), 255, ODISPLAY, owVpos, OTOP, owJustify, OCENTRE,
                       owBorderType, ONOBORDER, 0);
 }
-
-} // namespace
 
 void aboutCommand() {
     if (aboutBox) return;
@@ -149,3 +152,20 @@ void aboutOkCommand() {
     owEraseWidget(aboutBox);
     aboutBox = 0;
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_HELP_DESIGNER, .label = "ORBAWIDG Designer Help Topics", .mnemonic = 'S', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_TOOLKIT, .label = "ORBAWIDG Help Topics", .mnemonic = 'M', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_BASE, .label = "ORBA Help Topics", .mnemonic = 'G', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_PLOT, .label = "ORBAPLOT Help Topics", .mnemonic = 'R', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_HELP_MESH, .label = "ORBAMESH Help Topics", .mnemonic = 'S', .when = OPENS_WINDOW, .handler = helpTopicsCommand},
+    {.id = CMD_ABOUT, .label = "About ORBAWIDG Designer", .mnemonic = 'A', .handler = aboutCommand},
+    {.id = CMD_ABOUT_OK, .handler = aboutOkCommand},
+    {.id = CMD_HELP, .key = OKEYF1, .keyModes = IN_DESIGN | IN_FIELDS, .handler = contextHelpCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> helpCommands() { return COMMANDS; }

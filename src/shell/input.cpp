@@ -5,6 +5,7 @@
 #include "menu-c.h"
 #include "properties/sheet.h"
 #include "shell/command_table.h"
+#include "shell/commands.h"
 #include "shell/compiler_log.h"
 #include "shell/environment.h"
 #include "surface/dialogue_keys.h"
@@ -54,6 +55,8 @@ void followInput() {
     owSetWindowInput(FORMS_ROOM);
 }
 
+namespace {
+
 void inputMovedCommand() {
     const int active = owEnqActiveWidget();
     if (active == 0 || dialogueOpen()) return;
@@ -69,6 +72,8 @@ void inputMovedCommand() {
         input = {Holder::Sheet, 0};
     }
 }
+
+} // namespace
 
 void giveInputBack() {
     switch (input.holder) {
@@ -90,3 +95,15 @@ void giveInputBackAfter(int command) {
     if (!row || !(row->label || row->barIcon) || (row->when & OPENS_WINDOW) || dialogueOpen()) return;
     if (owEnqActiveWidget() == FORMS_ROOM) giveInputBack();
 }
+
+namespace {
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_INPUT_MOVED, .handler = inputMovedCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> inputCommands() { return COMMANDS; }

@@ -2,8 +2,7 @@
 // from a menu or an icon gives the input back.
 #pragma once
 
-void followInput();       // from now on
-void inputMovedCommand(); // CMD_INPUT_MOVED
+void followInput(); // from now on
 
 // To what had the input before a dialogue, the menu bar or an icon took it.
 void giveInputBack();

@@ -1,8 +1,10 @@
 #include "shell/menus.h"
 
 #include "menu-c.h"
+#include "project/tools.h"
 #include "shell/command_states.h"
 #include "shell/command_table.h"
+#include "shell/commands.h"
 #include "surface/selection.h"
 
 #include <iterator>
@@ -187,6 +189,8 @@ int buildWidgetPopup(int masterWindow) {
     return popup;
 }
 
+namespace {
+
 void toolCommand() {
     selectTool(findCommand(currentCommand())->tool);
     owAdoptChild(0, 0, 0);
@@ -196,3 +200,38 @@ void popupCommand() {
     selectClicked(); // the entries act on the selection
     owDrawWindow(popup, 1);
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_TOOL_SELECTOR, .barIcon = "Pointer", .bubbleHelp = "Selector", .tool = TOOL_SELECTOR, .handler = toolCommand},
+    {.id = CMD_TOOL_TAB_BOX, .barIcon = "tabdia", .bubbleHelp = "Tabbed Dialogue Box", .tool = TOOL_TAB_BOX, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_PANEL, .barIcon = "Panel", .bubbleHelp = "Panel", .tool = TOOL_PANEL, .handler = toolCommand},
+    {.id = CMD_TOOL_TOOL_BAR, .barIcon = "toolbar", .bubbleHelp = "Tool Bar", .tool = TOOL_TOOL_BAR, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_PANE, .barIcon = "pane", .bubbleHelp = "Docking Pane", .tool = TOOL_PANE, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_LIST_BOX, .barIcon = "Listbox", .bubbleHelp = "List Box", .tool = TOOL_LIST_BOX, .handler = toolCommand},
+    {.id = CMD_TOOL_COMBO_BOX, .barIcon = "Combo", .bubbleHelp = "Combo Box", .tool = TOOL_COMBO_BOX, .handler = toolCommand},
+    {.id = CMD_TOOL_PUSH_BUTTON, .barIcon = "Button", .bubbleHelp = "Button", .tool = TOOL_PUSH_BUTTON, .handler = toolCommand},
+    {.id = CMD_TOOL_ICON, .barIcon = "icon", .bubbleHelp = "Icon", .tool = TOOL_ICON, .handler = toolCommand},
+    {.id = CMD_TOOL_TOOL_SEPARATOR, .barIcon = "toolsep", .bubbleHelp = "Toolbar Separator", .tool = TOOL_TOOL_SEPARATOR, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_CHECK_BOX, .barIcon = "check", .bubbleHelp = "Check Box", .tool = TOOL_CHECK_BOX, .handler = toolCommand},
+    {.id = CMD_TOOL_RADIO_BUTTON, .barIcon = "radiobut", .bubbleHelp = "Radio Button", .tool = TOOL_RADIO_BUTTON, .handler = toolCommand},
+    {.id = CMD_TOOL_TEXT_LABEL, .barIcon = "stext", .bubbleHelp = "Text Label", .tool = TOOL_TEXT_LABEL, .handler = toolCommand},
+    {.id = CMD_TOOL_TEXT_ENTRY, .barIcon = "text", .bubbleHelp = "Text Entry", .tool = TOOL_TEXT_ENTRY, .handler = toolCommand},
+    {.id = CMD_TOOL_TEXT_ARRAY, .barIcon = "textcel", .bubbleHelp = "Text Array", .tool = TOOL_TEXT_ARRAY, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_VALUE_LABEL, .barIcon = "sval", .bubbleHelp = "Value Label", .tool = TOOL_VALUE_LABEL, .handler = toolCommand},
+    {.id = CMD_TOOL_VALUE_ENTRY, .barIcon = "val", .bubbleHelp = "Value Entry", .tool = TOOL_VALUE_ENTRY, .handler = toolCommand},
+    {.id = CMD_TOOL_VALUE_ARRAY, .barIcon = "valuecel", .bubbleHelp = "Value Array", .tool = TOOL_VALUE_ARRAY, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_TABLE_BOX, .barIcon = "table", .bubbleHelp = "Table Box", .tool = TOOL_TABLE_BOX, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_GAUGE, .barIcon = "gauge", .bubbleHelp = "Gauge", .tool = TOOL_GAUGE, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_PROGRESS_BAR, .barIcon = "progress", .bubbleHelp = "Progress Bar", .tool = TOOL_PROGRESS_BAR, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_TREE_VIEW, .barIcon = "treeview", .bubbleHelp = "Treeview", .tool = TOOL_TREE_VIEW, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_TOOL_GRAPHICS_FRAME, .barIcon = "graph", .bubbleHelp = "Graphics Frame", .tool = TOOL_GRAPHICS_FRAME, .handler = toolCommand},
+    {.id = CMD_TOOL_SLIDER, .barIcon = "sliderh", .bubbleHelp = "Slider", .tool = TOOL_SLIDER, .handler = toolCommand},
+    {.id = CMD_TOOL_TTY_ENTRY, .barIcon = "tty", .bubbleHelp = "TTY Entry", .tool = TOOL_TTY_ENTRY, .when = WHEN_WINDOWS, .handler = toolCommand},
+    {.id = CMD_POPUP, .key = OKEYRIGHTBUTTON, .handler = popupCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> menuCommands() { return COMMANDS; }

@@ -7,6 +7,4 @@ int buildIconBar(int masterWindow); // each returns its handle
 int buildToolBox(int masterWindow);
 int buildWidgetPopup(int masterWindow);
 
-int fileMenu();      // handle of the pull-down, whose end holds the recent projects
-void popupCommand(); // CMD_POPUP
-void toolCommand();  // a button of the Tool Box that puts a tool in hand
+int fileMenu(); // handle of the pull-down, whose end holds the recent projects

@@ -14,6 +14,7 @@
 #include "settings/recent_projects.h"
 #include "shell/command_states.h"
 #include "shell/command_table.h"
+#include "shell/commands.h"
 #include "shell/menus.h"
 #include "shell/saving.h"
 #include "shell/window_control.h"
@@ -38,8 +39,6 @@ void saved(bool success) {
     if (success && preferences.saveGeneratesCode) generateKnownSource();
 }
 
-} // namespace
-
 void saveProjectCommand() {
     selectTool(TOOL_SELECTOR);
     saved(saveOpenProject());
@@ -50,8 +49,6 @@ void saveProjectAsCommand() {
     saved(saveUnderChosenName());
 }
 
-namespace {
-
 constexpr int MINUTE = 60000; // milliseconds
 
 } // namespace
@@ -59,8 +56,6 @@ constexpr int MINUTE = 60000; // milliseconds
 void startAutoBackup() {
     owDefineTimerCallback(preferences.autoBackupOn ? preferences.autoBackupMinutes * MINUTE : 0, CMD_AUTO_BACKUP);
 }
-
-void autoBackupCommand() { autoBackup(); }
 
 // ---- Opening --------------------------------------------------------------------------------------------------
 
@@ -109,8 +104,6 @@ void openChosen(const FilePlace& place) {
     activateWidget(project.currentWidget);
 }
 
-} // namespace
-
 void openProjectCommand() {
     selectTool(TOOL_SELECTOR);
     if (!saveQuestion("Open New Project", true)) return;
@@ -124,6 +117,8 @@ void openRecentCommand() {
     const std::string path = recentProject(currentCommand() - CMD_RECENT_FIRST);
     if (!path.empty() && saveQuestion("Open New Project", true)) openChosen({folderOf(path), fileNameOf(path)});
 }
+
+} // namespace
 
 FilePlace placeFromCommandLine(const std::string& commandLine) {
     const bool quoted = !commandLine.empty() && commandLine.front() == '"';
@@ -149,6 +144,8 @@ void startNewProject() {
     project.projectModified = 0;
 }
 
+namespace {
+
 void newProjectCommand() {
     selectTool(TOOL_SELECTOR);
     if (!saveQuestion("Start New Project", false)) return;
@@ -161,7 +158,11 @@ void exitCommand() {
     if (saveQuestion("Exit ORBAWIDG Designer", false)) design.quitRequested = 1;
 }
 
+} // namespace
+
 // ---- Forms ----------------------------------------------------------------------------------------------------
+
+namespace {
 
 void insertFormCommand() {
     selectTool(TOOL_SELECTOR);
@@ -180,15 +181,11 @@ void insertFormCommand() {
     markChanged();
 }
 
-namespace {
-
 // The forms from the active one on go into the file.
 void saveFormTo(const FilePlace& place) {
     commitEditor();
     if (saveForm(joinPath(place.folder, place.name))) formFile = place;
 }
-
-} // namespace
 
 void saveFormAsCommand() {
     selectTool(TOOL_SELECTOR);
@@ -205,9 +202,36 @@ void saveFormCommand() {
     saveFormTo(formFile);
 }
 
+} // namespace
+
 void closeProject() {
     host.closeForms();
     deleteList(project.forms);
     project.forms = nullptr;
     design.pasteBuffer = {};
 }
+
+namespace {
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_NEW_PROJECT, .label = "Project...|Ctrl+N", .mnemonic = 'P', .key = controlKey('N'), .menuIcon = "filenew&", .barIcon = "filenew", .bubbleHelp = "New Project", .handler = newProjectCommand},
+    {.id = CMD_OPEN_PROJECT, .label = "Open Project...", .mnemonic = 'O', .menuIcon = "fileopen&", .barIcon = "fileopen", .bubbleHelp = "Open Project", .handler = openProjectCommand},
+    {.id = CMD_INSERT_FORM, .label = "Insert Form...", .mnemonic = 'I', .handler = insertFormCommand},
+    {.id = CMD_SAVE_FORM, .label = "Save Form...", .mnemonic = 'a', .handler = saveFormCommand},
+    {.id = CMD_SAVE_FORM_AS, .label = "Save Form As...", .mnemonic = 'o', .handler = saveFormAsCommand},
+    {.id = CMD_SAVE_PROJECT, .label = "Save Project|Ctrl+S", .mnemonic = 'S', .key = controlKey('S'), .keyModes = IN_DESIGN | IN_FIELDS, .menuIcon = "save&", .barIcon = "save", .bubbleHelp = "Save Project", .handler = saveProjectCommand},
+    {.id = CMD_SAVE_PROJECT_AS, .label = "Save Project As...", .mnemonic = 'A', .handler = saveProjectAsCommand},
+    {.id = CMD_EXIT, .label = "Exit|Alt+F4", .mnemonic = 'x', .handler = exitCommand},
+    {.id = CMD_RECENT_FIRST, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 1, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 2, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 3, .handler = openRecentCommand},
+    {.id = CMD_RECENT_FIRST + 4, .handler = openRecentCommand},
+    {.id = CMD_AUTO_BACKUP, .handler = [] { autoBackup(); }},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> projectCommands() { return COMMANDS; }

@@ -17,14 +17,3 @@ void startNewProject();
 void closeProject();    // at the end of the program: live forms and records go
 void startAutoBackup(); // with the period of the preferences, or stops it
 void forgetFormFile();  // the next Save Form asks for a name
-
-void newProjectCommand();    // CMD_NEW_PROJECT
-void openProjectCommand();   // CMD_OPEN_PROJECT
-void openRecentCommand();    // CMD_RECENT_FIRST and the next four
-void saveProjectCommand();   // CMD_SAVE_PROJECT
-void saveProjectAsCommand(); // CMD_SAVE_PROJECT_AS
-void insertFormCommand();    // CMD_INSERT_FORM
-void saveFormCommand();      // CMD_SAVE_FORM
-void saveFormAsCommand();    // CMD_SAVE_FORM_AS
-void autoBackupCommand();    // CMD_AUTO_BACKUP
-void exitCommand();          // CMD_EXIT

@@ -10,6 +10,7 @@
 #include "settings/window_states.h"
 #include "shell/command_states.h"
 #include "shell/command_table.h"
+#include "shell/commands.h"
 #include "shell/compiler_log.h"
 #include "shell/environment.h"
 #include "shell/input.h"
@@ -184,9 +185,6 @@ void toggleView() {
 
 } // namespace
 
-void viewPaneCommand() { toggleView(); }
-void viewBarCommand() { toggleView(); }
-
 void showControlWindow(int viewCommand) {
     const ControlWindow& window = windowOfView(viewCommand);
     if (!isShown(window)) {
@@ -194,6 +192,8 @@ void showControlWindow(int viewCommand) {
         owSetWidgetStatus(handleOf(window), OSELECTABLE);
     }
 }
+
+namespace {
 
 void controlWindowEvent() {
     for (const ControlWindow& window : CONTROL_WINDOWS) {
@@ -204,6 +204,8 @@ void controlWindowEvent() {
             design.helpContext = window.helpArea;
     }
 }
+
+} // namespace
 
 void markFormsShown() {
     design.formsShown = 0;
@@ -234,8 +236,6 @@ void showForms() {
     activateWidget(project.currentWidget);
 }
 
-} // namespace
-
 void showAllCommand() {
     if (design.formsShown)
         hideForms();
@@ -254,8 +254,6 @@ void raiseWindowsCommand() {
     }
 }
 
-namespace {
-
 void placeMasterWindow(const WindowState& row) {
     OWIDGET info = {};
     owEnqWidgetInfo(MASTER_WINDOW, &info);
@@ -267,8 +265,6 @@ void placeMasterWindow(const WindowState& row) {
     owSetWidgetInfo(MASTER_WINDOW, &info);
 }
 
-} // namespace
-
 void defaultPositionsCommand() {
     deleteWindowStates();
     int screenWidth = 0, screenHeight = 0;
@@ -279,6 +275,8 @@ void defaultPositionsCommand() {
     for (const ControlWindow& window : CONTROL_WINDOWS) placeWindow(window);
     raiseWindowsCommand();
 }
+
+} // namespace
 
 // ---- The master window ----------------------------------------------------------------------------------------
 
@@ -296,8 +294,6 @@ void storeMasterPlace(WindowState& state) {
     state.height = info.height;
 }
 
-} // namespace
-
 void masterWindowEvent() {
     static bool sheetPending = false;
     WindowState& state = windowStates[WINDOW_MASTER];
@@ -308,3 +304,28 @@ void masterWindowEvent() {
         showProperties(project.currentWidget);
     }
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_VIEW_ICON_BAR, .label = "Icon Bar", .mnemonic = 'I', .handler = toggleView},
+    {.id = CMD_VIEW_TOOL_BOX, .label = "Tool Box", .mnemonic = 'T', .handler = toggleView},
+    {.id = CMD_VIEW_HIERARCHY, .label = "Hierarchy", .mnemonic = 'H', .handler = toggleView},
+    {.id = CMD_VIEW_PROPERTIES, .label = "Properties", .mnemonic = 'P', .handler = toggleView},
+    {.id = CMD_VIEW_CODE_EDITOR, .label = "Code Editor", .mnemonic = 'C', .handler = toggleView},
+    {.id = CMD_VIEW_COMPILER_LOG, .label = "Compiler Log", .mnemonic = 'L', .handler = toggleView},
+    {.id = CMD_SHOW_ALL, .label = "View/Hide All|F2", .mnemonic = 'V', .key = functionKey(2), .keyModes = EVERYWHERE, .barIcon = "formshow", .bubbleHelp = "Hide All Forms", .handler = showAllCommand},
+    {.id = CMD_RAISE_WINDOWS, .label = "Bring control windows to top|F11", .mnemonic = 'B', .key = functionKey(11), .keyModes = EVERYWHERE, .handler = raiseWindowsCommand},
+    {.id = CMD_DEFAULT_POSITIONS, .label = "Default window positions/sizes|F12", .mnemonic = 'D', .key = functionKey(12), .keyModes = EVERYWHERE, .handler = defaultPositionsCommand},
+    {.id = CMD_MASTER_WINDOW, .handler = masterWindowEvent},
+    {.id = CMD_PANE_PROPERTIES, .handler = controlWindowEvent},
+    {.id = CMD_PANE_HIERARCHY, .handler = controlWindowEvent},
+    {.id = CMD_PANE_CODE_EDITOR, .handler = controlWindowEvent},
+    {.id = CMD_PANE_COMPILER_LOG, .handler = controlWindowEvent},
+    {.id = CMD_BAR_ICON_BAR, .handler = controlWindowEvent},
+    {.id = CMD_BAR_TOOL_BOX, .handler = controlWindowEvent},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> windowCommands() { return COMMANDS; }

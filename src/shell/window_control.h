@@ -12,11 +12,3 @@ bool controlWindowShown(int viewCommand);
 
 // Forms were shown, hidden or loaded: whether the button for all of them hides or shows them next.
 void markFormsShown();
-
-void viewPaneCommand();         // CMD_VIEW_HIERARCHY, ..._PROPERTIES, ..._CODE_EDITOR, ..._COMPILER_LOG
-void viewBarCommand();          // CMD_VIEW_ICON_BAR, ..._TOOL_BOX
-void controlWindowEvent();      // a window's own event
-void showAllCommand();          // CMD_SHOW_ALL
-void raiseWindowsCommand();     // CMD_RAISE_WINDOWS
-void defaultPositionsCommand(); // CMD_DEFAULT_POSITIONS
-void masterWindowEvent();       // CMD_MASTER_WINDOW

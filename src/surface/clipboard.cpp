@@ -246,6 +246,8 @@ WidgetNode* removeRecords(const Records& records) {
     return result;
 }
 
+namespace {
+
 void copyCommand() {
     selectTool(TOOL_SELECTOR);
     if (!refusesForm("Copy")) fillPasteBuffer(false);
@@ -291,8 +293,26 @@ void duplicateCommand() {
     pasteCommand();
 }
 
+} // namespace
+
 void deleteCommand() {
     selectTool(TOOL_SELECTOR);
     confirmDelete();
     hooks.drawControlWindows();
 }
+
+namespace {
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_CUT, .label = "Cut Widget|Ctrl+X", .mnemonic = 't', .key = controlKey('X'), .menuIcon = "cut&", .barIcon = "cut", .bubbleHelp = "Cut Widget from Form to Paste buffer", .handler = cutCommand},
+    {.id = CMD_COPY, .label = "Copy Widget|Ctrl+C", .mnemonic = 'C', .key = controlKey('C'), .menuIcon = "copy&", .barIcon = "copy", .bubbleHelp = "Copy Widget from Form to Paste buffer", .handler = copyCommand},
+    {.id = CMD_DUPLICATE, .label = "Duplicate Widget|Ctrl+D", .mnemonic = 'L', .key = controlKey('D'), .menuIcon = "copy&", .handler = duplicateCommand},
+    {.id = CMD_PASTE, .label = "Paste Widget|Ctrl+V", .mnemonic = 'P', .key = controlKey('V'), .keyModes = IN_DESIGN | WHEN_ENABLED, .menuIcon = "paste&", .barIcon = "paste", .bubbleHelp = "Paste Widget from Paste buffer to Form", .when = STARTS_DISABLED, .handler = pasteCommand},
+    {.id = CMD_DELETE, .label = "Delete Widget|Del", .mnemonic = 'D', .key = OKEYDEL, .menuIcon = "deletewidg&", .handler = deleteCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> clipboardCommands() { return COMMANDS; }

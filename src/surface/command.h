@@ -1,8 +1,12 @@
 // What a command is: how it is called, where it shows, which key sends it, when it can be had and what it runs. Each
-// room keeps a table of its own commands; the shell joins the tables.
+// file keeps the rows of its own handlers, a room joins those of its files, the shell those of the rooms.
 #pragma once
 
 #include "menu-c.h"
+
+#include <initializer_list>
+#include <span>
+#include <vector>
 
 // Key codes beside those of the toolkit.
 constexpr int controlKey(char letter) { return letter - 'A' + 1; }
@@ -44,3 +48,9 @@ struct Command {
     unsigned when = WHEN_ALWAYS;
     void (*handler)() = nullptr; // null: the command is not there yet, and stays disabled
 };
+
+inline std::vector<Command> joined(std::initializer_list<std::span<const Command>> tables) {
+    std::vector<Command> all;
+    for (const std::span<const Command> table : tables) all.insert(all.end(), table.begin(), table.end());
+    return all;
+}

@@ -1,9 +1,10 @@
-// Commands and events of the drawing of forms: their identifiers and their table.
+// Commands and events of the drawing of forms: their identifiers and their tables.
 #pragma once
 
 #include "surface/command.h"
 
 #include <span>
+#include <vector>
 
 inline constexpr int OBJECT_SELECT_OFFSET = 50000; // select identifier of a widget = handle + this
 
@@ -39,7 +40,18 @@ enum SurfaceCommandId : int {
     CMD_HELP = 19001,
 };
 
-std::span<const Command> surfaceCommands();
+// The rows of each file, where its handlers stand.
+std::span<const Command> clipboardCommands();
+std::span<const Command> designEventCommands();
+std::span<const Command> dialogueKeyCommands();
+std::span<const Command> hierarchyCommands();
+std::span<const Command> moveCommands();
+std::span<const Command> pointerCommands();
+std::span<const Command> snapDialogueCommands();
+std::span<const Command> undoCommands();
+std::span<const Command> widgetEventCommands();
+
+std::vector<Command> surfaceCommands(); // the rows of the room
 
 // Handles of live widgets are below this; commands lie between 14000 and 20000.
 inline bool isCommand(int identifier) { return identifier >= 14000 && identifier < 20000; }

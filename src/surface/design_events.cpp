@@ -134,6 +134,8 @@ void designEvent(int id) {
     if (groupStands()) hooks.commandStatus(CMD_ALIGN, OSELECTABLE);
 }
 
+namespace {
+
 void newFormCommand() {
     dropSelection();
     hooks.commitEditor();
@@ -142,3 +144,13 @@ void newFormCommand() {
     hooks.formFileForgotten();
     markChanged();
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_NEW_FORM, .label = "Form|Ctrl+F", .mnemonic = 'F', .key = controlKey('F'), .menuIcon = "newform&", .barIcon = "newform", .bubbleHelp = "New Form", .handler = newFormCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> designEventCommands() { return COMMANDS; }

@@ -71,6 +71,8 @@ void closeDialogueKeys() {
 
 bool dialogueOpen() { return !stack.empty(); }
 
+namespace {
+
 void dialogueTabCommand() {
     if (stack.empty()) return;
     Dialogue& dialogue = stack.back();
@@ -79,3 +81,13 @@ void dialogueTabCommand() {
         if (button.handle == active) return mark(dialogue, button);
     mark(dialogue, dialogue.buttons.front());
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_DIALOGUE_TAB, .handler = dialogueTabCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> dialogueKeyCommands() { return COMMANDS; }

@@ -24,5 +24,3 @@ void addDialogueButton(DialogueButton button);
 void closeDialogueKeys();
 
 bool dialogueOpen();
-
-void dialogueTabCommand(); // CMD_DIALOGUE_TAB: Tab or Shift+Tab in a dialogue

@@ -160,5 +160,21 @@ void selectByName(const std::string& name, bool fromTree) {
         hooks.enterTextMode();
 }
 
+namespace {
+
 void hierarchyRowCommand() { selectByName(rowLabel(action.widget), true); }
+
+} // namespace
 int hierarchyBox() { return treeBox; }
+
+namespace {
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_HIERARCHY_ROW, .handler = hierarchyRowCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> hierarchyCommands() { return COMMANDS; }

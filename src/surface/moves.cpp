@@ -298,6 +298,8 @@ bool takeGeometry(WidgetNode& node) {
     return boxOf(node) != before;
 }
 
+namespace {
+
 void movedCommand() {
     if (design.selection.empty() || !design.selection.front()->parent) return;
     hooks.commitEditor();
@@ -319,3 +321,14 @@ void designKeyCommand() {
     const auto arrow = std::ranges::find(ARROWS, action.key % SHIFTED, &Arrow::key);
     if (arrow != std::end(ARROWS) && !design.selection.empty()) nudge(*arrow, control, shift);
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_DESIGN_KEY, .handler = designKeyCommand},
+    {.id = CMD_MOVED, .handler = movedCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> moveCommands() { return COMMANDS; }

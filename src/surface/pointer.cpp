@@ -2,6 +2,7 @@
 
 #include "menu-c.h"
 #include "project/tree.h"
+#include "surface/commands.h"
 #include "surface/event.h"
 #include "surface/geometry.h"
 #include "surface/hooks.h"
@@ -116,6 +117,8 @@ Band endRubberBand(WidgetNode& container) {
     return caught.empty() ? Band::Empty : Band::Caught;
 }
 
+namespace {
+
 void groupClickedCommand() {
     if (!groupStands()) return;
     WidgetNode& parent = *design.selection.front()->parent;
@@ -133,3 +136,13 @@ void groupClickedCommand() {
     groupSelection(members);
     showSelectionCount();
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_GROUP_CLICKED, .handler = groupClickedCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> pointerCommands() { return COMMANDS; }

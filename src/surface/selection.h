@@ -46,17 +46,5 @@ void designEvent(int id);
 // The part of it that listens to windows and to presses on panels: runs when no widget took the event.
 void formEvent(int id);
 
-// Handlers of the commands of the surface. Each runs once for its identifier, before designEvent.
-void newFormCommand();      // CMD_NEW_FORM
-void movedCommand();        // CMD_MOVED
-void designKeyCommand();    // CMD_DESIGN_KEY
-void groupClickedCommand(); // CMD_GROUP_CLICKED
-void doubleClickCommand();  // CMD_DOUBLE_CLICK
-void unadoptCommand();      // CMD_UNADOPT
 // What the user has typed into the selected text or value entry and not left yet goes into its record.
 void takeTypedText();
-void textEditedCommand();    // CMD_TEXT_EDITED
-void entrySelectedCommand(); // CMD_TEXT_SELECTED, CMD_VALUE_SELECTED
-void valueEditedCommand();   // CMD_VALUE_EDITED
-void toggledCommand();       // CMD_TOGGLED
-void hierarchyRowCommand();  // CMD_HIERARCHY_ROW

@@ -1,4 +1,4 @@
-#include "surface/snap_dialogue.h"
+// The step that drags keep to: a dialogue of the project.
 
 #include "menu-c.h"
 #include "project/records.h"
@@ -39,8 +39,6 @@ void close() {
     dialogue = {};
 }
 
-} // namespace
-
 void snapDialogueCommand() {
     if (dialogue.window) return;
     selectTool(TOOL_SELECTOR);
@@ -66,6 +64,7 @@ void snapDialogueCommand() {
 }
 
 void snapOnCommand() { showSwitch(true); }
+
 void snapOffCommand() { showSwitch(false); }
 
 void snapOkCommand() {
@@ -88,3 +87,18 @@ void snapCancelCommand() { close(); }
 void snapWindowEvent() {
     if (action.status == OCLOSED) close();
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_SNAP_DIALOGUE, .label = "Project Snap Grid...", .mnemonic = 'S', .when = WHEN_PIXELS, .handler = snapDialogueCommand},
+    {.id = CMD_SNAP_ON, .handler = snapOnCommand},
+    {.id = CMD_SNAP_OFF, .handler = snapOffCommand},
+    {.id = CMD_SNAP_OK, .handler = snapOkCommand},
+    {.id = CMD_SNAP_CANCEL, .handler = snapCancelCommand},
+    {.id = CMD_SNAP_WINDOW, .handler = snapWindowEvent},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> snapDialogueCommands() { return COMMANDS; }

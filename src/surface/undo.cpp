@@ -90,5 +90,19 @@ void showUndoState(const WidgetNode* found) {
     hooks.commandStatus(CMD_REDO, own && last.redoable ? OSELECTABLE : OUNSELECTABLE);
 }
 
+namespace {
+
 void undoCommand() { step(true); }
+
 void redoCommand() { step(false); }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_UNDO, .label = "Undo Move/Resize Widget|Ctrl+Z", .mnemonic = 'd', .key = controlKey('Z'), .menuIcon = "undo&", .when = STARTS_DISABLED, .handler = undoCommand},
+    {.id = CMD_REDO, .label = "Redo Move/Resize Widget|Ctrl+Y", .mnemonic = 'R', .key = controlKey('Y'), .menuIcon = "redo&", .when = STARTS_DISABLED, .handler = redoCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> undoCommands() { return COMMANDS; }

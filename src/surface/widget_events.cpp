@@ -76,6 +76,8 @@ void takeTypedText() {
     if (node->type == TYPE_VALUE_ENTRY) takeEnteredValue(*node);
 }
 
+namespace {
+
 void textEditedCommand() {
     WidgetNode* node = findHandle(action.widget);
     if (!node || node->type != TYPE_TEXT_ENTRY || !takeText(*node)) return;
@@ -139,3 +141,19 @@ void unadoptCommand() {
     activateWidget(project.currentWidget);
     markChanged();
 }
+
+// clang-format off
+constexpr Command COMMANDS[] = {
+    {.id = CMD_UNADOPT, .label = "Unadopt Widget|Ctrl+U", .mnemonic = 'U', .key = controlKey('U'), .menuIcon = "unadopt&", .barIcon = "Unadopt", .bubbleHelp = "Unadopt Widget", .handler = unadoptCommand},
+    {.id = CMD_DOUBLE_CLICK, .handler = doubleClickCommand},
+    {.id = CMD_TEXT_EDITED, .handler = textEditedCommand},
+    {.id = CMD_TEXT_SELECTED, .handler = entrySelectedCommand},
+    {.id = CMD_VALUE_SELECTED, .handler = entrySelectedCommand},
+    {.id = CMD_VALUE_EDITED, .handler = valueEditedCommand},
+    {.id = CMD_TOGGLED, .handler = toggledCommand},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> widgetEventCommands() { return COMMANDS; }

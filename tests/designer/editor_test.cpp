@@ -7,6 +7,7 @@
 #include "editing/modes.h"
 #include "editing/text_view.h"
 #include "project/preferences.h"
+#include "shell/command_table.h"
 #include "surface/event.h"
 #include "surface/hooks.h"
 
@@ -164,11 +165,11 @@ TEST(Editor, CodeOfAMenuEntryReachesTheMenu) {
     selectWidget(desk.form);
     EXPECT_NE(owEnqWidgetStatus(editor.menuTab), OUNSELECTABLE);
     action.status = editor.menuTab;
-    selectorTabCommand();
+    runCommand(CMD_SELECTOR_TABS);
     EXPECT_EQ(project.currentBlockName, "General Callback");
     typeCode(desk, "call open()");
     owSetListEntry(editor.menuList, OSELECT, owString, "FileExit", owEntry, -1, 0);
-    menuEntryChosenCommand();
+    runCommand(CMD_MENU_ENTRY_LIST);
     EXPECT_EQ(textOf(codeText()), "");
     typeCode(desk, "stop");
     selectWidget(desk.form);
