@@ -9,6 +9,8 @@
 #include "project/tree.h"
 
 #include <gmock/gmock.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -152,6 +154,40 @@ TEST_F(DriverTest, AnOldProgramNeverStandsForOneThatFailed) {
     expectFailedBuild();
     EXPECT_THAT(commandsRun(), Not(IsEmpty())) << "compiled again, not taken for up to date";
     EXPECT_FALSE(std::filesystem::exists(work + "/app"));
+}
+
+// Logs and lists of arguments stand in the folder of the account's settings: two designers must not take each other's.
+TEST_F(DriverTest, TwoDesignersBuildAtOnce) {
+    useFakeCompiler("case \"$*\" in *aster*) word=aster;; *) word=tulip;; esac\n"
+                    "echo \"$word.f90:1:1:\"; echo; sleep 0.2; echo \"Error: it is $word\"; sleep 0.2; exit 1");
+    std::vector<pid_t> designers;
+    for (const std::string own : {"aster", "tulip"}) {
+        const pid_t designer = fork();
+        ASSERT_GE(designer, 0);
+        if (designer > 0) {
+            designers.push_back(designer);
+            continue;
+        }
+        const std::string other = own == "aster" ? "tulip" : "aster";
+        bool right = true;
+        for (int i = 0; i < 3; i++) {
+            notes = {};
+            useSource(own + ".f90", HELLO);
+            project.exeTime = 0;
+            build();
+            const auto told = [](const std::string& word) {
+                return testing::Matches(Contains(HasSubstr("it is " + word)))(notes.list);
+            };
+            right = right && told(own) && !told(other);
+        }
+        _exit(right ? 0 : 1);
+    }
+    for (const pid_t designer : designers) {
+        int status = -1;
+        waitpid(designer, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(data));
 }
 
 TEST_F(DriverTest, FilesOfTheUserAreNotTakenForAnOldProgram) {

@@ -9,10 +9,12 @@
 //     c break case do ...
 #include "toolkit/views/text/syntax_tree.h"
 
+#include <QSaveFile>
+#include <QString>
+
 #include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <cstdio>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -169,23 +171,11 @@ bool loadSyntax(const std::string& path) {
 }
 
 bool saveSyntax(const std::string& path) {
-    const std::string temporary = path + ".new";
-    {
-        std::ofstream out(temporary, std::ios::trunc);
-        if (!out) return false;
-        out << headLine << '\n';
-        for (int category = 0; category < syntaxCategoryCount; ++category) writeCategory(out, syntaxTree(), category);
-        out.flush();
-        if (!out) {
-            out.close();
-            std::remove(temporary.c_str());
-            return false;
-        }
-    }
-#ifdef _WIN32
-    std::remove(path.c_str());
-#endif
-    return std::rename(temporary.c_str(), path.c_str()) == 0;
+    std::ostringstream text;
+    text << headLine << '\n';
+    for (int category = 0; category < syntaxCategoryCount; ++category) writeCategory(text, syntaxTree(), category);
+    QSaveFile file(QString::fromStdString(path)); // whole or not at all, also where two programs save at once
+    return file.open(QIODevice::WriteOnly) && file.write(QByteArray::fromStdString(text.str())) >= 0 && file.commit();
 }
 
 } // namespace orba
