@@ -81,6 +81,7 @@ void fillHooks() {
     hooks.commitEditor = commitEditor;
     hooks.bindCode = bindCode;
     hooks.showCallback = showCallback;
+    hooks.showEntryCallback = showEntryCallback;
     hooks.enterTextMode = enterTextMode;
     hooks.leaveTextMode = leaveTextMode;
     hooks.nameAdded = nameAdded;

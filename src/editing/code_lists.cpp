@@ -95,6 +95,12 @@ void showEntryCode(WidgetNode* owner, const std::string& entryName, const std::s
     showPlace(line, column);
 }
 
+void showEntryCallback(WidgetNode& owner, const std::string& entryName) {
+    showEntryCode(&owner, entryName, slotTable[SLOT_GENERAL].name, 1, 1);
+    hooks.showCodeEditor();
+    hooks.enterTextMode();
+}
+
 void nameAdded(const std::string& name) {
     if (!editor.widgetList || std::ranges::find(names, name) != names.end()) return;
     names.push_back(name);

@@ -109,9 +109,24 @@ void restoreSelection() {
         design.selection = {project.currentWidget};
 }
 
+// An entry that is chosen in a form's menu leads to its code.
+bool menuEvent(int id) {
+    if (id <= 0 || isCommand(id)) return false;
+    for (WidgetNode* form = project.forms; form; form = form->next) {
+        const auto chosen = std::ranges::find(form->entries, id, &MenuEntryRec::callbackId);
+        if (chosen == form->entries.end() || chosen->kind != MENU_ENTRY) continue;
+        const std::string name = chosen->name;
+        selectTool(TOOL_SELECTOR);
+        hooks.showEntryCallback(*form, name);
+        return true;
+    }
+    return false;
+}
+
 } // namespace
 
 void designEvent(int id) {
+    if (menuEvent(id)) return;
     WidgetNode* found = findByCallback(id);
     if (!found) {
         formEvent(id);

@@ -18,6 +18,7 @@ SurfaceHooks hooks = {
     .commitEditor = [] {},
     .bindCode = [](WidgetNode*) {},
     .showCallback = [](WidgetNode&) {},
+    .showEntryCallback = [](WidgetNode&, const std::string&) {},
     .enterTextMode = [] {},
     .leaveTextMode = [] {},
     .nameAdded = [](const std::string&) {},

@@ -36,6 +36,7 @@ struct SurfaceHooks {
     void (*commitEditor)();                   // brings the shown text into its block or slot
     void (*bindCode)(WidgetNode* widget);     // the editor follows the selection
     void (*showCallback)(WidgetNode& widget); // brings the editor up on the widget's callback
+    void (*showEntryCallback)(WidgetNode& owner, const std::string& entry); // and of an entry of its menu or tree
     void (*enterTextMode)();
     void (*leaveTextMode)();
     void (*nameAdded)(const std::string& name); // the list of all widgets

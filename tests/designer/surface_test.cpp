@@ -1,9 +1,11 @@
 // Placing, selecting, moving, grouping and deleting on a live form, with mouse events on the real widgets.
 #include "desk.h"
 
+#include "editing/editor_window.h"
 #include "surface/hierarchy.h"
 #include "surface/live.h"
 
+#include <QAction>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -313,6 +315,26 @@ TEST(Surface, MenuOfAFormIsLive) {
     selectWidget(desk.form);
     desk.click(desk.panel, 100, 100);
     EXPECT_EQ(project.currentWidget, desk.form) << "a form that was built anew still hears its panel";
+}
+
+TEST(Surface, AnEntryChosenInAMenuLeadsToItsCode) {
+    Desk desk;
+    desk.form->entries = entriesOf({{MENU_BAR, 0, ""},
+                                    {MENU_ENTRY, 0, "File"},
+                                    {MENU_PULL_DOWN, 1, ""},
+                                    {MENU_ENTRY, 1, "Open"},
+                                    {MENU_ENTRY, 1, "Exit"}});
+    MenuEntryRec& exit = desk.form->entries.back();
+    exit.name = "Form1_Exit";
+    exit.slots[SLOT_GENERAL] = "callid = -1";
+    rebuildWidget(*desk.form);
+    WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 50, 80);
+    ASSERT_EQ(project.currentWidget, button);
+    robot::actionOf(exit.handle)->trigger();
+    desk.run();
+    EXPECT_EQ(project.currentWidget, desk.form);
+    EXPECT_EQ(robot::shownText(codeText()).toStdString(), "callid = -1");
+    EXPECT_EQ(owEnqActiveWidget(), codeText());
 }
 
 TEST(Surface, EntriesOfATreeViewAreLive) {
