@@ -15,5 +15,5 @@ constexpr Command COMMANDS[] = {
 
 std::vector<Command> editingCommands() {
     return joined({codeEditorCommands(), codeFileCommands(), codeListCommands(), nameChooserCommands(),
-                   sourceViewerCommands(), textCommands(), COMMANDS});
+                   nameFamilyCommands(), sourceViewerCommands(), textCommands(), COMMANDS});
 }

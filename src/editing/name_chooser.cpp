@@ -1,4 +1,4 @@
-#include "editing/name_chooser.h"
+// Insert Widget Name: a popup of the families of widgets in the project, and the list of their names.
 
 #include "editing/commands.h"
 #include "editing/editor_window.h"
@@ -11,14 +11,16 @@
 #include "surface/event.h"
 #include "surface/hooks.h"
 
-#include <algorithm>
+#include <array>
+#include <iterator>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
-enum class Source { Types, Forms, DynamicForms, MenuEntries, StatusBars, AllWidgets, TreeEntries, Rule };
+enum class Source { Types, Forms, DynamicForms, MenuEntries, StatusBars, AllWidgets, TreeEntries };
 
 struct Family {
     const char* label;
@@ -26,51 +28,43 @@ struct Family {
     int command;
     const char* title; // of the chooser
     Source source;
-    WidgetType types[2];
+    WidgetType types[2] = {};
+    bool ruleAbove = false; // when there is an entry above it
 };
 
-const Family FAMILIES[] = {
-    {"Forms...", 'F', 15050, "Add Widget Name - Forms", Source::Forms, {}},
-    {"Forms(Dynamic)...", 'D', 15051, "Add Widget Name - Dynamic Forms", Source::DynamicForms, {}},
-    {"", 0, 0, "", Source::Rule, {}},
-    {"Menu entries...", 'M', 15057, "Add Widget Name - Menu Entries", Source::MenuEntries, {}},
-    {"Status bars...", 'S', 15063, "Add Widget Name - Status Bars", Source::StatusBars, {}},
-    {"", 0, 0, "", Source::Rule, {}},
-    {"All child widgets...", 'A', CMD_ALL_NAMES, "Add Widget Name - All widgets", Source::AllWidgets, {}},
-    {"", 0, 0, "", Source::Rule, {}},
-    {"Buttons...", 'B', 15040, "Add Widget Name - Buttons", Source::Types, {TYPE_BUTTON}},
-    {"Combo boxes...", 'C', 15042, "Add Widget Name - Combo boxes", Source::Types, {TYPE_COMBO_BOX}},
-    {"Gauges...", 'u', 15070, "Add Widget Name - Gauges", Source::Types, {TYPE_GAUGE}},
-    {"Graphics frames...", 'G', 15052, "Add Widget Name - Graphics frames", Source::Types, {TYPE_GRAPHICS_FRAME}},
-    {"Icons...", 'I', 15053, "Add Widget Name - Icons", Source::Types, {TYPE_ICON}},
-    {"Lists boxes...", 'L', 15054, "Add Widget Name - Lists boxes", Source::Types, {TYPE_LIST_BOX}},
-    {"Panels...", 'P', 15058, "Add Widget Name - Panels", Source::Types, {TYPE_PANEL}},
-    {"Progress Bars...", 'o', 15071, "Add Widget Name - Progress Bars", Source::Types, {TYPE_PROGRESS_BAR}},
-    {"Radio boxes...", 'R', 15060, "Add Widget Name - Radio boxes", Source::Types, {TYPE_RADIO_BOX}},
-    {"Sliders...", 'l', 15062, "Add Widget Name - Sliders", Source::Types, {TYPE_SLIDER}},
-    {"Tabbed Dialogue Boxes...", 'D', 15069, "Add Widget Name - Tabbed Dialogue Boxes", Source::Types, {TYPE_TAB_BOX}},
-    {"Table Boxes...", 'a', 15076, "Add Widget Name - Table Boxes", Source::Types, {TYPE_TABLE_BOX}},
-    {"Text arrays...", 'r', 15064, "Add Widget Name - Text Arrays", Source::Types, {TYPE_TEXT_ARRAY}},
-    {"Text widgets...",
-     'x',
-     15047,
-     "Add Widget Name - Text entries",
-     Source::Types,
-     {TYPE_TEXT_ENTRY, TYPE_TEXT_LABEL}},
-    {"Toggles...", 'g', 15065, "Add Widget Name - Toggles", Source::Types, {TYPE_TOGGLE}},
-    {"Toolbars...", 'T', 15066, "Add Widget Name - Toolbars", Source::Types, {TYPE_TOOL_BAR}},
-    {"Panes...", 'n', 15107, "Add Widget Name - Panes", Source::Types, {TYPE_PANE}},
-    {"Tree View Boxes...", 'e', 15074, "Add Widget Name - Tree View Boxes", Source::Types, {TYPE_TREE_VIEW}},
-    {"Tree View Entries...", 'i', 15075, "Add Widget Name - Tree View Entries", Source::TreeEntries, {}},
-    {"TTY Entries...", 'Y', 15072, "Add Widget Name - TTY Entries", Source::Types, {TYPE_TTY_ENTRY}},
-    {"Value arrays...", 'y', 15068, "Add Widget Name - Value Arrays", Source::Types, {TYPE_VALUE_ARRAY}},
-    {"Value widgets...",
-     'V',
-     15048,
-     "Add Widget Name - Value entries",
-     Source::Types,
-     {TYPE_VALUE_ENTRY, TYPE_VALUE_LABEL}},
+constexpr bool RULE_ABOVE = true;
+
+// clang-format off
+constexpr Family FAMILIES[] = {
+    {"Forms...", 'F', CMD_NAMES_FORMS, "Add Widget Name - Forms", Source::Forms},
+    {"Forms(Dynamic)...", 'D', CMD_NAMES_DYNAMIC_FORMS, "Add Widget Name - Dynamic Forms", Source::DynamicForms},
+    {"Menu entries...", 'M', CMD_NAMES_MENU_ENTRIES, "Add Widget Name - Menu Entries", Source::MenuEntries, {}, RULE_ABOVE},
+    {"Status bars...", 'S', CMD_NAMES_STATUS_BARS, "Add Widget Name - Status Bars", Source::StatusBars},
+    {"All child widgets...", 'A', CMD_ALL_NAMES, "Add Widget Name - All widgets", Source::AllWidgets, {}, RULE_ABOVE},
+    {"Buttons...", 'B', CMD_NAMES_BUTTONS, "Add Widget Name - Buttons", Source::Types, {TYPE_BUTTON}, RULE_ABOVE},
+    {"Combo boxes...", 'C', CMD_NAMES_COMBO_BOXES, "Add Widget Name - Combo boxes", Source::Types, {TYPE_COMBO_BOX}},
+    {"Gauges...", 'u', CMD_NAMES_GAUGES, "Add Widget Name - Gauges", Source::Types, {TYPE_GAUGE}},
+    {"Graphics frames...", 'G', CMD_NAMES_GRAPHICS_FRAMES, "Add Widget Name - Graphics frames", Source::Types, {TYPE_GRAPHICS_FRAME}},
+    {"Icons...", 'I', CMD_NAMES_ICONS, "Add Widget Name - Icons", Source::Types, {TYPE_ICON}},
+    {"Lists boxes...", 'L', CMD_NAMES_LIST_BOXES, "Add Widget Name - Lists boxes", Source::Types, {TYPE_LIST_BOX}},
+    {"Panels...", 'P', CMD_NAMES_PANELS, "Add Widget Name - Panels", Source::Types, {TYPE_PANEL}},
+    {"Progress Bars...", 'o', CMD_NAMES_PROGRESS_BARS, "Add Widget Name - Progress Bars", Source::Types, {TYPE_PROGRESS_BAR}},
+    {"Radio boxes...", 'R', CMD_NAMES_RADIO_BOXES, "Add Widget Name - Radio boxes", Source::Types, {TYPE_RADIO_BOX}},
+    {"Sliders...", 'l', CMD_NAMES_SLIDERS, "Add Widget Name - Sliders", Source::Types, {TYPE_SLIDER}},
+    {"Tabbed Dialogue Boxes...", 'D', CMD_NAMES_TAB_BOXES, "Add Widget Name - Tabbed Dialogue Boxes", Source::Types, {TYPE_TAB_BOX}},
+    {"Table Boxes...", 'a', CMD_NAMES_TABLE_BOXES, "Add Widget Name - Table Boxes", Source::Types, {TYPE_TABLE_BOX}},
+    {"Text arrays...", 'r', CMD_NAMES_TEXT_ARRAYS, "Add Widget Name - Text Arrays", Source::Types, {TYPE_TEXT_ARRAY}},
+    {"Text widgets...", 'x', CMD_NAMES_TEXTS, "Add Widget Name - Text entries", Source::Types, {TYPE_TEXT_ENTRY, TYPE_TEXT_LABEL}},
+    {"Toggles...", 'g', CMD_NAMES_TOGGLES, "Add Widget Name - Toggles", Source::Types, {TYPE_TOGGLE}},
+    {"Toolbars...", 'T', CMD_NAMES_TOOL_BARS, "Add Widget Name - Toolbars", Source::Types, {TYPE_TOOL_BAR}},
+    {"Panes...", 'n', CMD_NAMES_PANES, "Add Widget Name - Panes", Source::Types, {TYPE_PANE}},
+    {"Tree View Boxes...", 'e', CMD_NAMES_TREE_VIEWS, "Add Widget Name - Tree View Boxes", Source::Types, {TYPE_TREE_VIEW}},
+    {"Tree View Entries...", 'i', CMD_NAMES_TREE_ENTRIES, "Add Widget Name - Tree View Entries", Source::TreeEntries},
+    {"TTY Entries...", 'Y', CMD_NAMES_TTY_ENTRIES, "Add Widget Name - TTY Entries", Source::Types, {TYPE_TTY_ENTRY}},
+    {"Value arrays...", 'y', CMD_NAMES_VALUE_ARRAYS, "Add Widget Name - Value Arrays", Source::Types, {TYPE_VALUE_ARRAY}},
+    {"Value widgets...", 'V', CMD_NAMES_VALUES, "Add Widget Name - Value entries", Source::Types, {TYPE_VALUE_ENTRY, TYPE_VALUE_LABEL}},
 };
+// clang-format on
 
 // The order in which all child widgets are listed.
 constexpr WidgetType ALL_TYPES[] = {
@@ -141,7 +135,6 @@ Names namesOf(const Family& family) {
         break;
     case Source::MenuEntries: addMenuEntries(names); break;
     case Source::TreeEntries: addTreeEntries(names); break;
-    case Source::Rule: break;
     }
     return names;
 }
@@ -201,10 +194,7 @@ void insertNameCommand() {
     chooser.popup = owCreatePopupMenu(1, 0, 0, ONONE, "", 0);
     bool ruleWanted = false, anyShown = false;
     for (const Family& family : FAMILIES) {
-        if (family.source == Source::Rule) {
-            ruleWanted = anyShown;
-            continue;
-        }
+        if (family.ruleAbove) ruleWanted = anyShown;
         if (namesOf(family).empty()) continue;
         if (ruleWanted) owCreateMenuSeparator(chooser.popup);
         ruleWanted = false;
@@ -214,31 +204,22 @@ void insertNameCommand() {
     owDrawWindow(chooser.popup, 1);
 }
 
-} // namespace
-
-bool nameCommand(int identifier) {
-    const auto family = std::ranges::find(FAMILIES, identifier, &Family::command);
-    if (identifier > 0 && family != std::end(FAMILIES))
-        openChooser(*family);
-    else if (identifier == CMD_NAME_OK)
-        insertChosen();
-    else if (identifier == CMD_NAME_CANCEL)
-        closeChooser();
-    else if (identifier == CMD_NAME_WINDOW) {
-        if (action.status == OCLOSED) closeChooser();
-    } else
-        return false;
-    return true;
-}
-
-namespace {
-
 // clang-format off
 constexpr Command COMMANDS[] = {
     {.id = CMD_INSERT_NAME, .key = controlKey('W'), .keyModes = IN_TEXT, .handler = insertNameCommand},
+    {.id = CMD_NAME_OK, .handler = insertChosen},
+    {.id = CMD_NAME_CANCEL, .handler = closeChooser},
+    {.id = CMD_NAME_WINDOW, .handler = [] { if (action.status == OCLOSED) closeChooser(); }},
 };
 // clang-format on
+
+// Each family's entry opens the chooser with its names.
+template <std::size_t... I> constexpr auto familyRows(std::index_sequence<I...>) {
+    return std::array{Command{.id = FAMILIES[I].command, .handler = [] { openChooser(FAMILIES[I]); }}...};
+}
+constexpr auto FAMILY_COMMANDS = familyRows(std::make_index_sequence<std::size(FAMILIES)>());
 
 } // namespace
 
 std::span<const Command> nameChooserCommands() { return COMMANDS; }
+std::span<const Command> nameFamilyCommands() { return FAMILY_COMMANDS; }

@@ -1,4 +1,4 @@
-#include "editing/source_viewer.h"
+// The Source Code Viewer: the generated source in a window of its own, read only.
 
 #include "codegen/generate.h"
 #include "editing/commands.h"
@@ -187,31 +187,18 @@ void sourceViewerCommand() {
     showPosition();
 }
 
-} // namespace
-
-bool viewerCommand(int identifier) {
-    switch (identifier) {
-    case CMD_VIEWER_EXIT: closeViewer(); break;
-    case CMD_VIEWER_PRINT: owPrintTextWidget(viewer.text, 0, 0, 10); break;
-    case CMD_VIEWER_COPY: owCopyTextToClipboard(viewer.text, OCOPY); break;
-    case CMD_VIEWER_SELECT_ALL: select(viewer.text, {1, -1}); break;
-    case CMD_VIEWER_FIND: find(); break;
-    case CMD_VIEWER_FIND_NEXT: findNext(); break;
-    case CMD_VIEWER_WINDOW:
-        if (action.status == OCLOSED) closeViewer();
-        break;
-    case CMD_VIEWER_CARET: showPosition(); break;
-    case CMD_VIEWER_GOTO: goToLine(); break;
-    default: return false;
-    }
-    return true;
-}
-
-namespace {
-
 // clang-format off
 constexpr Command COMMANDS[] = {
     {.id = CMD_SOURCE_VIEWER, .label = "Source Code", .mnemonic = 'S', .when = OPENS_WINDOW, .handler = sourceViewerCommand},
+    {.id = CMD_VIEWER_EXIT, .handler = closeViewer},
+    {.id = CMD_VIEWER_PRINT, .handler = [] { owPrintTextWidget(viewer.text, 0, 0, 10); }},
+    {.id = CMD_VIEWER_COPY, .handler = [] { owCopyTextToClipboard(viewer.text, OCOPY); }},
+    {.id = CMD_VIEWER_SELECT_ALL, .handler = [] { select(viewer.text, {1, -1}); }},
+    {.id = CMD_VIEWER_FIND, .handler = find},
+    {.id = CMD_VIEWER_FIND_NEXT, .handler = findNext},
+    {.id = CMD_VIEWER_WINDOW, .handler = [] { if (action.status == OCLOSED) closeViewer(); }},
+    {.id = CMD_VIEWER_CARET, .handler = showPosition},
+    {.id = CMD_VIEWER_GOTO, .handler = goToLine},
 };
 // clang-format on
 

@@ -1,8 +1,5 @@
 #include "shell/command_table.h"
 
-#include "editing/name_chooser.h"
-#include "editing/source_viewer.h"
-
 #include <cassert>
 #include <unordered_map>
 #include <vector>
@@ -43,9 +40,8 @@ int currentCommand() { return running; }
 
 bool runCommand(int id) {
     running = id;
-    if (const Command* command = findCommand(id)) {
-        if (command->handler) command->handler();
-        return command->handler != nullptr;
-    }
-    return nameCommand(id) || viewerCommand(id);
+    const Command* command = findCommand(id);
+    if (!command || !command->handler) return false;
+    command->handler();
+    return true;
 }

@@ -216,9 +216,8 @@ TEST_F(Keys, OfCommandsRestWhileADialogueHasTheInput) {
     const int snap = owEnqActiveWindow();
     expectKeys({"field of a dialogue", Where::Dialogue, [snap] { focusField(snap); }});
     send(CMD_SNAP_CANCEL);
-    constexpr int FORM_NAMES = 15050;
     owSetActiveWidget(codeText());
-    send(FORM_NAMES);
+    send(CMD_NAMES_FORMS);
     EXPECT_TRUE(dialogueOpen());
     const int list = owEnqActiveWidget();
     expectKeys({"list of a dialogue", Where::Dialogue, [list] { takeInput(list); }});

@@ -128,8 +128,9 @@ std::vector<std::string> wordsOf(const std::string& text) {
     return {std::sregex_token_iterator(text.begin(), text.end(), name), {}};
 }
 
-// The public routines of the module, in the order in which it declares them public.
-std::vector<Routine> routinesOfModule(const std::string& module) {
+// The public routines of the module, in the order in which it declares them public. Those that it only renames are told
+// by the table.
+std::vector<Routine> routinesOfModule(const std::string& module, const Routines& table) {
     std::vector<std::string> order;
     Routines found;
     Routine* open = nullptr;
@@ -144,9 +145,15 @@ std::vector<Routine> routinesOfModule(const std::string& module) {
     };
     static const std::regex head(R"(^(integer function|subroutine) (\w+)\s*\(([^)]*)\))");
     static const std::regex declaration(R"(^ +([^!]*?)\s*::\s*(.*)$)");
+    static const std::regex renaming(R"((\w+) => (\w+))");
     std::stringstream lines(module);
     for (std::string line; std::getline(lines, line);) {
         std::smatch match;
+        for (std::sregex_iterator name(line.begin(), line.end(), renaming), end; name != end; ++name) {
+            Routine& routine = found[(*name)[1]] = table.at((*name)[2]);
+            routine.name = (*name)[1];
+            routine.keywords.clear();
+        }
         if (line.starts_with("   public :: ")) {
             for (const std::string& name : wordsOf(line.substr(13))) order.push_back(name);
         } else if (std::regex_search(line, match, head)) {
@@ -276,9 +283,10 @@ int main(int count, char** words) {
         std::fprintf(stderr, "usage: catalogue LIST MENU-C.H MENU_F77.F90 > catalogue_rows.cpp\n");
         return 1;
     }
+    const Routines byName = routinesOfTable(readFile(words[2]));
     std::vector<Routine> table;
-    for (const auto& [name, routine] : routinesOfTable(readFile(words[2]))) table.push_back(routine);
-    const std::vector<Routine> module = routinesOfModule(readFile(words[3]));
+    for (const auto& [name, routine] : byName) table.push_back(routine);
+    const std::vector<Routine> module = routinesOfModule(readFile(words[3]), byName);
     List list = readList(readFile(words[1]), table, module);
     if (!list.fault.empty()) {
         std::fprintf(stderr, "%s: %s is no routine of the library; write -%s if it is to be listed all the same\n",

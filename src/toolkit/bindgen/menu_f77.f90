@@ -6,6 +6,56 @@
 module menu_f77_routines
    use, intrinsic :: iso_c_binding, only: c_float
    use menu_f90
+   ! Routines that have the same arguments under both names; here they go by the new one alone.
+   ! session and events
+   use menu_f90, only: ORBA => oOpenOrba, ORBEND => oCloseOrba, DEVEND => oCloseDevice, GUIWIN => oGuiwin, &
+                       OGLWIN => oOglwin, MENEND => owCloseMenu, MANAGE => owManage, &
+                       CALLBK => owDefineCallback, CALLSL => owDefineSelectCallback, &
+                       CALLMV => owDefineMoveCallback, CALLEX => owDefineExposeCallback, &
+                       CALLCH => owDefineChangeCallback, CALLDD => owDefineDoubleClickCallback, &
+                       CALLFD => owDefineFileDropCallback, CALLVE => owDefineValueErrorCallback, &
+                       CALLLK => owDefineLinkCallback, DRAGDR => owDefineDragDropCallback, &
+                       DRAGSL => owDefineDragSelectCallback, DRAGMV => owDefineDragMoveCallback, &
+                       DRGREC => owDefineDragRect, CALLKY => owDefineKeyCallback, &
+                       CALLTM => owDefineTimerCallback
+   ! grid and colours
+   use menu_f90, only: GRDENQ => owEnqGuiGrid, GUIGRD => owDefineGuiGrid, GRDMOD => owSetGuiGridMode, &
+                       RGBDEF => oDefineRGB
+   ! state for the next creation
+   use menu_f90, only: SCRENQ => owEnqScrollBarPos, SCRSET => owSetScrollBarPos
+   ! windows, status bars, menus
+   use menu_f90, only: WINREM => owRemoveWindow, WINTOP => owPopWindow, WINBOT => owPushWindow, &
+                       ACTWIN => owSetActiveWindow, MDIACT => owMDIAction, STAPAN => owSetTextPanes, &
+                       STATEX => owSetStatusBarText
+   ! buttons, toggles, icons, tool bars
+   use menu_f90, only: TOGENQ => owEnqToggleSwitch, TOGSET => owSetToggleSwitch
+   ! text
+   use menu_f90, only: TEXENQ => owEnqTextSetting, TEXSET => owSetTextSetting, TEXINS => owReplaceText, &
+                       TEXPRT => owPrintTextWidget, TEXCLP => owCopyTextToClipboard, &
+                       GETSEL => owEnqSelectedTextRange, SETSEL => owSetSelectedTextRange
+   ! values
+   use menu_f90, only: VALENQ => owEnqValueSetting, VALSET => owSetValueSetting, VALROG => owSetRogueValueStr, &
+                       SLIENQ => owEnqSliderValue, SLISET => owSetSliderValue, GAGENQ => owEnqGaugeValue, &
+                       GAGSET => owSetGaugeValue, PROSET => owSetProgressValue
+   ! lists, trees, tables
+   use menu_f90, only: LISSTA => owEnqListStatus, TREACT => owTreeViewAction, TREENQ => owEnqTreeViewLabel, &
+                       TRESET => owSetTreeViewLabel, TABENQ => owEnqTableBoxLabel, &
+                       TABSET => owSetTableBoxLabel, TABSIZ => owSetTableBoxAttribs
+   ! arrays
+   use menu_f90, only: ARRACM => owDefineArrayAction, ARRENQ => owEnqArrayCells, ARRSEL => owSelectArrayCells, &
+                       CELSET => owSetCellSetting, CELACT => owSetActiveCell, ADDROW => owAddArrayRow, &
+                       ADDCOL => owAddArrayColumn, REMROW => owRemoveArrayRow, REMCOL => owRemoveArrayColumn
+   ! graphics frames and drawing
+   use menu_f90, only: FRAPIX => owEnqGraphicsPixelBounds, FRAACT => owActivateGraphicsFrame, &
+                       FRACLE => owClearGraphicsFrame, FRACLP => owCopyGraphicsToClipboard, &
+                       MOVTO2 => oMoveTo2D, LINTO2 => oDrawLineTo2D, LINCOL => oSetLineColour, &
+                       CHASTR => oDisplayStr, CHASIZ => oSetCharSize, CHAANG => oSetStrAngle, &
+                       CHAJUS => oSetStrJustify, IMGDRA => owDrawImage
+   ! every widget
+   use menu_f90, only: WIDSTA => owSetWidgetStatus, WIDCUR => owSetGuiCursor, WIDDRA => owDrawWidget, &
+                       WIDREM => owEraseWidget, ACTWID => owSetActiveWidget, LINKER => owDefineWidgetLinks
+   ! boxes
+   use menu_f90, only: GUIERR => owDisplayErrorBox, GUIINF => owDisplayInfoBox
    implicit none
    private
 
@@ -59,32 +109,11 @@ contains
 
 ! --- session and events
 
-subroutine ORBA()
-   call oOpenOrba()
-end subroutine
-subroutine ORBEND()
-   call oCloseOrba()
-end subroutine
-subroutine DEVEND()
-   call oCloseDevice()
-end subroutine
-subroutine GUIWIN()
-   call oGuiwin()
-end subroutine
-subroutine OGLWIN()
-   call oOglwin()
-end subroutine
 subroutine MENU()
    title = ''
    xtext = ''
    ytext = ''
    call owInitializeMenu()
-end subroutine
-subroutine MENEND()
-   call owCloseMenu()
-end subroutine
-subroutine MANAGE()
-   call owManage()
 end subroutine
 subroutine ACTION(callid)
    integer, intent(out) :: callid
@@ -127,91 +156,19 @@ subroutine DEVPAP(x, y, kind)
    integer, intent(in) :: kind
    call oSetDrawingLimits(ODIM(x, y), kind)
 end subroutine
-subroutine CALLBK(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineCallback(widget, callid)
-end subroutine
-subroutine CALLSL(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineSelectCallback(widget, callid)
-end subroutine
-subroutine CALLMV(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineMoveCallback(widget, callid)
-end subroutine
-subroutine CALLEX(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineExposeCallback(widget, callid)
-end subroutine
-subroutine CALLCH(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineChangeCallback(widget, callid)
-end subroutine
-subroutine CALLDD(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineDoubleClickCallback(widget, callid)
-end subroutine
-subroutine CALLFD(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineFileDropCallback(widget, callid)
-end subroutine
-subroutine CALLVE(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineValueErrorCallback(widget, callid)
-end subroutine
-subroutine CALLLK(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineLinkCallback(widget, callid)
-end subroutine
-subroutine DRAGDR(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineDragDropCallback(widget, callid)
-end subroutine
-subroutine DRAGSL(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineDragSelectCallback(widget, callid)
-end subroutine
-subroutine DRAGMV(widget, callid)
-   integer, intent(in) :: widget, callid
-   call owDefineDragMoveCallback(widget, callid)
-end subroutine
-subroutine DRGREC(widget, x, y, width, height)
-   integer, intent(in) :: widget, x, y, width, height
-   call owDefineDragRect(widget, x, y, width, height)
-end subroutine
 subroutine DRGPOL(widget, points, x, y)
    integer, intent(in) :: widget, points
    real, intent(in) :: x(*), y(*)
    call owDefineDragShape(widget, points, real(x(1:points), c_float), real(y(1:points), c_float))
-end subroutine
-subroutine CALLKY(key, callid)
-   integer, intent(in) :: key, callid
-   call owDefineKeyCallback(key, callid)
 end subroutine
 subroutine CALLKQ(key, callid)
    integer, intent(in) :: key
    integer, intent(out) :: callid
    callid = owEnqKeyCallback(key)
 end subroutine
-subroutine CALLTM(milliseconds, callid)
-   integer, intent(in) :: milliseconds, callid
-   call owDefineTimerCallback(milliseconds, callid)
-end subroutine
 
 ! --- grid and colours
 
-subroutine GRDENQ(columns, rows, width, height)
-   integer, intent(out) :: columns, rows, width, height
-   call owEnqGuiGrid(columns, rows, width, height)
-end subroutine
-subroutine GUIGRD(columns, rows)
-   integer, intent(in) :: columns, rows
-   call owDefineGuiGrid(columns, rows)
-end subroutine
-subroutine GRDMOD(mode)
-   integer, intent(in) :: mode
-   call owSetGuiGridMode(mode)
-end subroutine
 subroutine GRMENQ(mode)
    integer, intent(out) :: mode
    mode = owEnqGuiGridMode()
@@ -224,11 +181,6 @@ subroutine GUIRGB(red, green, blue)
    red = r
    green = g
    blue = b
-end subroutine
-subroutine RGBDEF(colour, red, green, blue)
-   integer, intent(in) :: colour
-   real, intent(in) :: red, green, blue
-   call oDefineRGB(colour, red, green, blue)
 end subroutine
 subroutine RGBENQ(colour, red, green, blue)
    integer, intent(in) :: colour
@@ -251,7 +203,7 @@ end subroutine
 ! The largest size is that of WIDMIN in this toolkit; the call stands in generated programs.
 subroutine WIDMAX(width, height)
    integer, intent(in) :: width, height
-   if (width < 0 .or. height < 0) call owDisplayErrorBox('WIDMAX', 'A size below 0 is no size.')
+   if (width < 0 .or. height < 0) call GUIERR('WIDMAX', 'A size below 0 is no size.')
 end subroutine
 subroutine WIDPOS(code, expand)
    integer, intent(in) :: code, expand
@@ -290,15 +242,6 @@ subroutine SCRMOD(widget, mode)
    else
       bars = keyword
    end if
-end subroutine
-subroutine SCRENQ(widget, x, y)
-   integer, intent(in) :: widget
-   integer, intent(out) :: x, y
-   call owEnqScrollBarPos(widget, x, y)
-end subroutine
-subroutine SCRSET(widget, x, y)
-   integer, intent(in) :: widget, x, y
-   call owSetScrollBarPos(widget, x, y)
 end subroutine
 function taken_title() result(text)
    character(len=:), allocatable :: text
@@ -341,39 +284,10 @@ subroutine WINDRA(window)
    integer, intent(in) :: window
    call owDrawWindow(window, 1)
 end subroutine
-subroutine WINREM(window)
-   integer, intent(in) :: window
-   call owRemoveWindow(window)
-end subroutine
-subroutine WINTOP(window)
-   integer, intent(in) :: window
-   call owPopWindow(window)
-end subroutine
-subroutine WINBOT(window)
-   integer, intent(in) :: window
-   call owPushWindow(window)
-end subroutine
-subroutine ACTWIN(window)
-   integer, intent(in) :: window
-   call owSetActiveWindow(window)
-end subroutine
-subroutine MDIACT(mode)
-   integer, intent(in) :: mode
-   call owMDIAction(mode)
-end subroutine
 subroutine STABAR(window, panes, bar)
    integer, intent(in) :: window, panes
    integer, intent(out) :: bar
    bar = owCreateStatusBar(window, owPanes=panes)
-end subroutine
-subroutine STAPAN(bar, panes, sizes)
-   integer, intent(in) :: bar, panes, sizes(*)
-   call owSetTextPanes(bar, panes, sizes)
-end subroutine
-subroutine STATEX(bar, pane, text)
-   integer, intent(in) :: bar, pane
-   character(*), intent(in) :: text
-   call owSetStatusBarText(bar, pane, text)
 end subroutine
 subroutine MENBAR(window, x, y, bar)
    integer, intent(in) :: window, x, y
@@ -511,15 +425,6 @@ subroutine TOGACC(widget, accel)
    integer, intent(in) :: widget, accel
    if (accel /= 0) call owSetWidgetProp(widget, owAccel=accel)
 end subroutine
-subroutine TOGENQ(widget, status)
-   integer, intent(in) :: widget
-   integer, intent(out) :: status
-   call owEnqToggleSwitch(widget, status)
-end subroutine
-subroutine TOGSET(widget, status)
-   integer, intent(in) :: widget, status
-   call owSetToggleSwitch(widget, status)
-end subroutine
 subroutine ICOTYP(kind) ! 0 icon button, 1 pictogram, 2 mouse sensitive
    integer, intent(in) :: kind
    icon_set%kind = kind
@@ -595,21 +500,6 @@ subroutine TTYENT(parent, x, y, lines, string, widget)
                              owOnCol=text_set%colour2, owTextCol=text_set%colour3, owHpos=horizontal, &
                              owVpos=vertical, owExpand=expansion)
 end subroutine
-subroutine TEXENQ(widget, string)
-   integer, intent(in) :: widget
-   character(*), intent(out) :: string
-   call owEnqTextSetting(widget, string)
-end subroutine
-subroutine TEXSET(widget, string)
-   integer, intent(in) :: widget
-   character(*), intent(in) :: string
-   call owSetTextSetting(widget, string)
-end subroutine
-subroutine TEXINS(widget, string)
-   integer, intent(in) :: widget
-   character(*), intent(in) :: string
-   call owReplaceText(widget, string)
-end subroutine
 subroutine TEXLEN(string, pixels)
    character(*), intent(in) :: string
    integer, intent(out) :: pixels
@@ -632,27 +522,10 @@ subroutine TEXSAV(widget, file, status)
    integer, intent(out) :: status
    status = owSaveTextToFile(widget, file)
 end subroutine
-subroutine TEXPRT(widget, range, style, points)
-   integer, intent(in) :: widget, range, style, points
-   call owPrintTextWidget(widget, range, style, points)
-end subroutine
-subroutine TEXCLP(widget, mode)
-   integer, intent(in) :: widget, mode
-   call owCopyTextToClipboard(widget, mode)
-end subroutine
 subroutine TEXUND(widget, mode, status)
    integer, intent(in) :: widget, mode
    integer, intent(out) :: status
    status = owTextUndoAction(widget, mode)
-end subroutine
-subroutine GETSEL(widget, first, last)
-   integer, intent(in) :: widget
-   integer, intent(out) :: first, last
-   call owEnqSelectedTextRange(widget, first, last)
-end subroutine
-subroutine SETSEL(widget, first, last)
-   integer, intent(in) :: widget, first, last
-   call owSetSelectedTextRange(widget, first, last)
 end subroutine
 subroutine GETPAR(widget, justify, numbering)
    integer, intent(in) :: widget
@@ -704,22 +577,6 @@ subroutine VALLIM(widget, low, high)
    real, intent(in) :: low, high
    call owSetWidgetProp(widget, owVmin=low, owVmax=high)
 end subroutine
-subroutine VALENQ(widget, value)
-   integer, intent(in) :: widget
-   real, intent(out) :: value
-   call owEnqValueSetting(widget, value)
-end subroutine
-subroutine VALSET(widget, value)
-   integer, intent(in) :: widget
-   real, intent(in) :: value
-   call owSetValueSetting(widget, value)
-end subroutine
-subroutine VALROG(widget, value, text)
-   integer, intent(in) :: widget
-   real, intent(in) :: value
-   character(*), intent(in) :: text
-   call owSetRogueValueStr(widget, value, text)
-end subroutine
 subroutine SLIATR(first, second, back)
    integer, intent(in) :: first, second, back
    slider_set%colour1 = first
@@ -743,16 +600,6 @@ subroutine SLIDER(parent, x, y, low, high, step, value, widget)
                            owSize=slider_set%size, owBackCol=slider_set%colour3, owHpos=horizontal, owVpos=vertical, &
                            owExpand=expansion)
 end subroutine
-subroutine SLIENQ(widget, value)
-   integer, intent(in) :: widget
-   real, intent(out) :: value
-   call owEnqSliderValue(widget, value)
-end subroutine
-subroutine SLISET(widget, value)
-   integer, intent(in) :: widget
-   real, intent(in) :: value
-   call owSetSliderValue(widget, value)
-end subroutine
 subroutine SPIBAR(parent, x, y, buddy, step, widget)
    integer, intent(in) :: parent, x, y, buddy, step
    integer, intent(out) :: widget
@@ -774,15 +621,6 @@ subroutine GAGTYP(widget, kind, ticks1, ticks2)
    integer, intent(in) :: widget, kind, ticks1, ticks2
    call owSetWidgetProp(widget, owAccess=kind, owTicks1=ticks1, owTicks2=ticks2)
 end subroutine
-subroutine GAGENQ(widget, value)
-   integer, intent(in) :: widget
-   integer, intent(out) :: value
-   call owEnqGaugeValue(widget, value)
-end subroutine
-subroutine GAGSET(widget, value)
-   integer, intent(in) :: widget, value
-   call owSetGaugeValue(widget, value)
-end subroutine
 subroutine PROBAR(parent, x, y, kind, widget) ! kind 0 in steps, 1 smooth
    integer, intent(in) :: parent, x, y, kind
    integer, intent(out) :: widget
@@ -792,10 +630,6 @@ end subroutine
 subroutine PROLIM(widget, low, high)
    integer, intent(in) :: widget, low, high
    call owSetWidgetProp(widget, owMinimum=low, owMaximum=high)
-end subroutine
-subroutine PROSET(widget, value)
-   integer, intent(in) :: widget, value
-   call owSetProgressValue(widget, value)
 end subroutine
 
 ! --- lists, trees, tables
@@ -833,11 +667,6 @@ subroutine LISENQ(widget, row, string, found)
    integer, intent(out) :: found
    found = owEnqListEntry(widget, row, string)
 end subroutine
-subroutine LISSTA(widget, rows, selected, current)
-   integer, intent(in) :: widget
-   integer, intent(out) :: rows, selected, current
-   call owEnqListStatus(widget, rows, selected, current)
-end subroutine
 subroutine COMTYP(display, sort)
    integer, intent(in) :: display, sort
    combo_display = display
@@ -862,20 +691,6 @@ subroutine TREENT(parent, position, label, entry) ! position 1: the last child, 
    integer, intent(out) :: entry
    entry = owCreateTreeEntry(parent, merge(OLASTCHILD, position, position == 1), label)
 end subroutine
-subroutine TREACT(item, mode)
-   integer, intent(in) :: item, mode
-   call owTreeViewAction(item, mode)
-end subroutine
-subroutine TREENQ(item, string)
-   integer, intent(in) :: item
-   character(*), intent(out) :: string
-   call owEnqTreeViewLabel(item, string)
-end subroutine
-subroutine TRESET(item, string)
-   integer, intent(in) :: item
-   character(*), intent(in) :: string
-   call owSetTreeViewLabel(item, string)
-end subroutine
 subroutine TABBOX(parent, x, y, widget)
    integer, intent(in) :: parent, x, y
    integer, intent(out) :: widget
@@ -896,20 +711,6 @@ subroutine TABENT(widget, row, column, string, added)
    character(*), intent(in) :: string
    integer, intent(out) :: added
    added = owAddTableBoxEntry(widget, row, column, string)
-end subroutine
-subroutine TABENQ(widget, column, label)
-   integer, intent(in) :: widget, column
-   character(*), intent(out) :: label
-   call owEnqTableBoxLabel(widget, column, label)
-end subroutine
-subroutine TABSET(widget, column, label)
-   integer, intent(in) :: widget, column
-   character(*), intent(in) :: label
-   call owSetTableBoxLabel(widget, column, label)
-end subroutine
-subroutine TABSIZ(widget, column, width)
-   integer, intent(in) :: widget, column, width
-   call owSetTableBoxAttribs(widget, column, width)
 end subroutine
 
 ! --- arrays
@@ -938,19 +739,6 @@ subroutine VALARR(parent, x, y, columns, rows, widget)
    widget = owCreateValueArray(parent, x, y, min_width, min_height, columns, rows, owAxisW=axis_width, &
                                owAxisH=axis_height, owXjust=xjust, owYjust=yjust, owXtext=xtext, owYtext=ytext, &
                                owBorderType=OPROJECTED, owHpos=horizontal, owVpos=vertical, owExpand=expansion)
-end subroutine
-subroutine ARRACM(widget, mode)
-   integer, intent(in) :: widget, mode
-   call owDefineArrayAction(widget, mode)
-end subroutine
-subroutine ARRENQ(widget, column1, row1, column2, row2)
-   integer, intent(in) :: widget
-   integer, intent(out) :: column1, row1, column2, row2
-   call owEnqArrayCells(widget, column1, row1, column2, row2)
-end subroutine
-subroutine ARRSEL(widget, column1, row1, column2, row2)
-   integer, intent(in) :: widget, column1, row1, column2, row2
-   call owSelectArrayCells(widget, column1, row1, column2, row2)
 end subroutine
 subroutine CELSIZ(widget, column, row, width, height)
    integer, intent(in) :: widget, column, row, width, height
@@ -982,12 +770,6 @@ subroutine CELANQ(widget, column, row, back, text, border, line, justify)
    line = cell%borderType
    justify = cell%justify
 end subroutine
-subroutine CELSET(widget, column, row, value, string)
-   integer, intent(in) :: widget, column, row
-   real, intent(in) :: value
-   character(*), intent(in) :: string
-   call owSetCellSetting(widget, column, row, value, string)
-end subroutine
 subroutine CELENQ(widget, column, row, value, string)
    integer, intent(in) :: widget, column, row
    real, intent(out) :: value
@@ -995,10 +777,6 @@ subroutine CELENQ(widget, column, row, value, string)
    double precision :: wide
    call owEnqCellSetting(widget, column, row, wide, string)
    value = real(wide)
-end subroutine
-subroutine CELACT(widget, column, row)
-   integer, intent(in) :: widget, column, row
-   call owSetActiveCell(widget, column, row)
 end subroutine
 ! A block of columns by rows, from the first cell on.
 subroutine TARSET(widget, column, row, columns, rows, strings)
@@ -1041,22 +819,6 @@ subroutine VARENQ(widget, column, row, columns, rows, values)
       end do
    end do
 end subroutine
-subroutine ADDROW(widget, before)
-   integer, intent(in) :: widget, before
-   call owAddArrayRow(widget, before)
-end subroutine
-subroutine ADDCOL(widget, before)
-   integer, intent(in) :: widget, before
-   call owAddArrayColumn(widget, before)
-end subroutine
-subroutine REMROW(widget, row)
-   integer, intent(in) :: widget, row
-   call owRemoveArrayRow(widget, row)
-end subroutine
-subroutine REMCOL(widget, column)
-   integer, intent(in) :: widget, column
-   call owRemoveArrayColumn(widget, column)
-end subroutine
 
 ! --- graphics frames and drawing
 
@@ -1087,35 +849,6 @@ subroutine FRAENQ(widget, xmin, ymin, xmax, ymax)
    xmax = limits%xmax
    ymax = limits%ymax
 end subroutine
-subroutine FRAPIX(widget, width, height)
-   integer, intent(in) :: widget
-   integer, intent(out) :: width, height
-   call owEnqGraphicsPixelBounds(widget, width, height)
-end subroutine
-subroutine FRAACT(widget)
-   integer, intent(in) :: widget
-   call owActivateGraphicsFrame(widget)
-end subroutine
-subroutine FRACLE(widget)
-   integer, intent(in) :: widget
-   call owClearGraphicsFrame(widget)
-end subroutine
-subroutine FRACLP(widget)
-   integer, intent(in) :: widget
-   call owCopyGraphicsToClipboard(widget)
-end subroutine
-subroutine MOVTO2(x, y)
-   real, intent(in) :: x, y
-   call oMoveTo2D(x, y)
-end subroutine
-subroutine LINTO2(x, y)
-   real, intent(in) :: x, y
-   call oDrawLineTo2D(x, y)
-end subroutine
-subroutine LINCOL(colour)
-   integer, intent(in) :: colour
-   call oSetLineColour(colour)
-end subroutine
 subroutine POLTO2(x, y, points)
    integer, intent(in) :: points
    real, intent(in) :: x(points), y(points)
@@ -1136,27 +869,6 @@ subroutine RFILL(x1, y1, x2, y2, style, colour)
    call oSetFillMode(style, colour)
    call oFillRect(x1, y1, x2, y2)
 end subroutine
-subroutine CHASTR(string)
-   character(*), intent(in) :: string
-   call oDisplayStr(string)
-end subroutine
-subroutine CHASIZ(width, height)
-   real, intent(in) :: width, height
-   call oSetCharSize(width, height)
-end subroutine
-subroutine CHAANG(degrees)
-   real, intent(in) :: degrees
-   call oSetStrAngle(degrees)
-end subroutine
-subroutine CHAJUS(horizontal_place)
-   integer, intent(in) :: horizontal_place
-   call oSetStrJustify(horizontal_place)
-end subroutine
-subroutine IMGDRA(file, x, y, width, height)
-   character(*), intent(in) :: file
-   real, intent(in) :: x, y, width, height
-   call owDrawImage(file, x, y, width, height)
-end subroutine
 subroutine IMGDMP(widget, file, status)
    integer, intent(in) :: widget
    character(*), intent(in) :: file
@@ -1166,10 +878,6 @@ end subroutine
 
 ! --- every widget
 
-subroutine WIDSTA(widget, status)
-   integer, intent(in) :: widget, status
-   call owSetWidgetStatus(widget, status)
-end subroutine
 ! property: 0 face, 1 points, 3 character set, 4 bold, 5 italic, 6 underline, 7 strikeout
 subroutine WIDFNT(widget, property, value, face)
    integer, intent(in) :: widget, property, value
@@ -1265,28 +973,12 @@ subroutine WIDLIS(widget, children, length, count)
    integer, intent(out) :: children(length), count
    count = owReturnChildList(widget, children, length)
 end subroutine
-subroutine WIDCUR(widget, format, cursor)
-   integer, intent(in) :: widget, format, cursor
-   call owSetGuiCursor(widget, format, cursor)
-end subroutine
-subroutine WIDDRA(widget)
-   integer, intent(in) :: widget
-   call owDrawWidget(widget)
-end subroutine
-subroutine WIDREM(widget)
-   integer, intent(in) :: widget
-   call owEraseWidget(widget)
-end subroutine
 integer function WTYENQ(widget)
    integer, intent(in) :: widget
    type(OWIDGET) :: info
    call owEnqWidgetInfo(widget, info)
    WTYENQ = info%kind
 end function
-subroutine ACTWID(widget)
-   integer, intent(in) :: widget
-   call owSetActiveWidget(widget)
-end subroutine
 ! A property by its number, the value as a whole number, a real or a text.
 subroutine PRPSET(widget, property, whole, wide, text)
    integer, intent(in) :: widget, property, whole
@@ -1301,21 +993,9 @@ subroutine PRPENQ(widget, property, whole, wide, text)
    character(*), intent(out) :: text
    call owEnqProperty(widget, property, whole, wide, text)
 end subroutine
-subroutine LINKER(widget, other, mode, state)
-   integer, intent(in) :: widget, other, mode, state
-   call owDefineWidgetLinks(widget, other, mode, state)
-end subroutine
 
 ! --- boxes
 
-subroutine GUIERR(title_text, text)
-   character(*), intent(in) :: title_text, text
-   call owDisplayErrorBox(title_text, text)
-end subroutine
-subroutine GUIINF(title_text, text)
-   character(*), intent(in) :: title_text, text
-   call owDisplayInfoBox(title_text, text)
-end subroutine
 subroutine GUIMSG(title_text, text, picture, buttons, answer)
    character(*), intent(in) :: title_text, text
    integer, intent(in) :: picture, buttons
@@ -1329,7 +1009,7 @@ subroutine GUIHLP(file, topic, shown)
 end subroutine
 subroutine GUIPRT(widget, points)
    integer, intent(in) :: widget, points
-   call owPrintTextWidget(widget, 0, 0, points)
+   call TEXPRT(widget, 0, 0, points)
 end subroutine
 subroutine BROWSE(filter, title_text, mode, name, directory, chosen)
    character(*), intent(in) :: filter, title_text
