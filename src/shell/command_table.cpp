@@ -1,5 +1,7 @@
 #include "shell/command_table.h"
 
+#include "dialogues/frame.h"
+
 #include <cassert>
 #include <unordered_map>
 #include <vector>
@@ -20,7 +22,7 @@ std::unordered_map<int, const Command*> indexOf(std::span<const Command> table) 
 
 std::span<const Command> commandTable() {
     static const std::vector<Command> table =
-        joined({surfaceCommands(), propertyCommands(), editingCommands(), shellCommands()});
+        joined({surfaceCommands(), propertyCommands(), editingCommands(), dialogueCommands(), shellCommands()});
     return table;
 }
 
@@ -41,7 +43,7 @@ int currentCommand() { return running; }
 bool runCommand(int id) {
     running = id;
     const Command* command = findCommand(id);
-    if (!command || !command->handler) return false;
-    command->handler();
-    return true;
+    if (!command) return dialogueEvent(id);
+    if (command->handler) command->handler();
+    return command->handler != nullptr;
 }

@@ -2,6 +2,7 @@
 // the key map and the dispatch are made from it.
 #pragma once
 
+#include "dialogues/commands.h"
 #include "editing/commands.h"
 #include "properties/commands.h"
 #include "shell/commands.h"

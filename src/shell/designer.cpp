@@ -3,6 +3,7 @@
 #include "codegen/generate.h"
 #include "compile/catalogue.h"
 #include "compile/execute.h"
+#include "dialogues/frame.h"
 #include "editing/modes.h"
 #include "editing/syntax.h"
 #include "menu-c.h"
@@ -131,6 +132,7 @@ void runActionLoop() {
 // ---- The end --------------------------------------------------------------------------------------------------
 
 void endDesigner() {
+    forgetDialogues();
     saveWindowStates();
     closeProject();
     freeDefaults();

@@ -14,6 +14,5 @@ constexpr Command COMMANDS[] = {
 
 std::vector<Command> surfaceCommands() {
     return joined({clipboardCommands(), designEventCommands(), dialogueKeyCommands(), hierarchyCommands(),
-                   moveCommands(), pointerCommands(), snapDialogueCommands(), undoCommands(), widgetEventCommands(),
-                   COMMANDS});
+                   moveCommands(), pointerCommands(), undoCommands(), widgetEventCommands(), COMMANDS});
 }

@@ -17,7 +17,6 @@ enum SurfaceCommandId : int {
     CMD_DUPLICATE = 15136,
     CMD_NEW_FORM = 15144,
     CMD_DIALOGUE_TAB = 15165,
-    CMD_SNAP_DIALOGUE = 15229,
     CMD_DOUBLE_CLICK = 15277,  // on the adopted widget
     CMD_DESIGN_KEY = 15314,    // an arrow key or Esc on a form
     CMD_GROUP_CLICKED = 15315, // on the panel of a group
@@ -27,14 +26,9 @@ enum SurfaceCommandId : int {
     CMD_TOGGLED = 15331,
     CMD_VALUE_EDITED = 15339,
     CMD_VALUE_SELECTED = 15340,
-    CMD_SNAP_ON = 15420,
-    CMD_SNAP_OFF = 15421,
-    CMD_SNAP_OK = 15422,
-    CMD_SNAP_CANCEL = 15423,
     CMD_UNADOPT = 15474,
     CMD_TAB_ORDER = 15475,
     CMD_ALIGN = 15476,
-    CMD_SNAP_WINDOW = 15515,
     CMD_HIERARCHY_ROW = 15529,
     CMD_DELETE = 19000,
     CMD_HELP = 19001,
@@ -47,7 +41,6 @@ std::span<const Command> dialogueKeyCommands();
 std::span<const Command> hierarchyCommands();
 std::span<const Command> moveCommands();
 std::span<const Command> pointerCommands();
-std::span<const Command> snapDialogueCommands();
 std::span<const Command> undoCommands();
 std::span<const Command> widgetEventCommands();
 

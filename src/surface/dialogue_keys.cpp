@@ -23,7 +23,7 @@ std::vector<Dialogue> stack; // the open dialogues, the one with the input last
 void mark(Dialogue& dialogue, const DialogueButton& button) {
     if (button.handle == dialogue.marked) return;
     if (dialogue.marked) owSetWidgetProp(dialogue.marked, owType, ODEFAULT, 0);
-    owSetWidgetProp(button.handle, owType, ODEFAULTBUTTON, 0);
+    if (button.handle) owSetWidgetProp(button.handle, owType, ODEFAULTBUTTON, 0); // a dialogue may have no home button
     dialogue.marked = button.handle;
 }
 

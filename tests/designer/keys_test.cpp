@@ -2,6 +2,7 @@
 // has the input after a click, a menu, a dialogue; dialogues above dialogues.
 #include "designer_fixture.h"
 
+#include "dialogues/snap_dialogue.h"
 #include "editing/editor_window.h"
 #include "editing/text_view.h"
 #include "platform/text_files.h"
@@ -215,7 +216,7 @@ TEST_F(Keys, OfCommandsRestWhileADialogueHasTheInput) {
     send(CMD_SNAP_DIALOGUE);
     const int snap = owEnqActiveWindow();
     expectKeys({"field of a dialogue", Where::Dialogue, [snap] { focusField(snap); }});
-    send(CMD_SNAP_CANCEL);
+    send(SNAP_CANCEL);
     owSetActiveWidget(codeText());
     send(CMD_NAMES_FORMS);
     EXPECT_TRUE(dialogueOpen());
@@ -375,8 +376,8 @@ TEST_F(Keys, ReturnInAFieldTakesItsValueAndPressesTheButtonOnce) {
     type(0, "7");
     key(0, Qt::Key_Return);
     std::vector<int> all = identifiers();
-    EXPECT_EQ(std::count(all.begin(), all.end(), CMD_SNAP_OK), 1);
-    send(CMD_SNAP_OK);
+    EXPECT_EQ(std::count(all.begin(), all.end(), SNAP_OK), 1);
+    send(SNAP_OK);
     EXPECT_EQ(project.snapGrid, 7);
 }
 

@@ -1,6 +1,7 @@
 // The frame around the forms: start-up, commands and keys, control windows, dialogues, help.
 #include "designer_fixture.h"
 
+#include "dialogues/snap_dialogue.h"
 #include "editing/editor_window.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
@@ -387,17 +388,17 @@ TEST_F(DesignerTest, TheSnapGridIsSetInItsDialogue) {
     start();
     choose(menuEntry(CMD_SNAP_DIALOGUE));
     pump();
-    EXPECT_EQ(owEnqWidgetKeyCallback(owEnqActiveWindow(), OKEYESC), CMD_SNAP_CANCEL);
-    send(CMD_SNAP_OFF);
-    send(CMD_SNAP_OK);
+    EXPECT_EQ(owEnqWidgetKeyCallback(owEnqActiveWindow(), OKEYESC), SNAP_CANCEL);
+    send(SNAP_OFF);
+    send(SNAP_OK);
     EXPECT_EQ(project.snapOn, 0);
     EXPECT_EQ(owEnqSnapGrid(), 1);
     EXPECT_EQ(project.projectModified, 1);
     project.projectModified = 0;
     choose(menuEntry(CMD_SNAP_DIALOGUE));
     pump();
-    send(CMD_SNAP_ON);
-    send(CMD_SNAP_CANCEL);
+    send(SNAP_ON);
+    send(SNAP_CANCEL);
     EXPECT_EQ(project.snapOn, 0);
     EXPECT_EQ(project.projectModified, 0);
     project.gridMode = 1;

@@ -369,3 +369,44 @@ TEST(Disabled, ListsAndSlidersLookIt) {
         EXPECT_EQ(picture(widget), enabled) << widget;
     }
 }
+
+// A row that is dragged tells where it is to go and stays until the program moves it.
+TEST(ListBox, RowsAreDragged) {
+    const Toolkit toolkit;
+    const int list = makeList(toolkit);
+    const QPoint first(10, 8);
+    drag(list, first, {10, 100});
+    EXPECT_NE(statusOf(list).current, 1) << "without a callback the selection follows the pointer";
+    owDefineRowDragCallback(list, 77);
+    click(list, first);
+    events();
+    drag(list, first, {10, 149});
+    const std::vector<OACTION> told = events();
+    ASSERT_FALSE(told.empty());
+    EXPECT_EQ(told.back().callback, 77);
+    EXPECT_EQ(told.back().status, 1);
+    EXPECT_EQ(told.back().iargs[0], 4);
+    EXPECT_EQ(rowsOf(list).front(), "pear");
+    EXPECT_EQ(statusOf(list).current, 1);
+    click(list, first);
+    EXPECT_NE(events().back().callback, 77) << "a click is no drag";
+}
+
+TEST(ListBox, TellsWhichRowsAreSelected) {
+    const Toolkit toolkit;
+    const int list = makeList(toolkit, OMULTIPLECHOICE2);
+    for (const int row : {2, 4}) owSetListEntry(list, OSELECT, owEntry, row, 0);
+    std::vector<int> selected;
+    for (int row = 0; row <= 5; ++row)
+        if (owEnqListSelected(list, row)) selected.push_back(row);
+    EXPECT_EQ(selected, (std::vector{2, 4}));
+}
+
+// Alt makes a key of its own of the cursor keys.
+TEST(ListBox, AltAndAnArrowIsAKeyOfItsOwn) {
+    const Toolkit toolkit;
+    const int list = makeList(toolkit);
+    owDefineWidgetKeyCallback(list, OKEYUP + 4000, 78);
+    key(list, Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(identifiers(), (std::vector{OIDENT + list, 78}));
+}

@@ -179,6 +179,8 @@ constexpr Entry entries[] = {
     {Fn::owSetListEntry, 0, LISTS, 67, {style(1, -2, 5)}},
     {Fn::owEnqListEntry, 0, LISTS, 67},
     {Fn::owEnqListStatus, 0, LISTS, 67},
+    {Fn::owEnqListSelected, 0, LISTS, 67},
+    {Fn::owDefineRowDragCallback, 0, LISTS, 67},
     {Fn::owCreateTableBox, 0, CONTAINERS, 7, {EXPANSION, HORIZONTAL, VERTICAL}},
     {Fn::owAddTableBoxColumn, 0, TABLES, 68, {value(1, 1, 32767), value(2, 0, 32767)}},
     {Fn::owRemoveTableBoxColumn, 0, TABLES, 68},

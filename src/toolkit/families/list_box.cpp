@@ -9,7 +9,10 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPainter>
 #include <QScrollBar>
+
+#include <utility>
 
 namespace orba {
 namespace {
@@ -29,6 +32,7 @@ public:
         cutToRows();
     }
     DescribedRow* rows = nullptr;
+    int rowDragged = 0; // identifier, 0: rows stay where they are
 
 protected:
     void focusInEvent(QFocusEvent* event) override {
@@ -44,6 +48,33 @@ protected:
         const int before = currentRow();
         QListWidget::mousePressEvent(event);
         if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint())) chosen(before, event->position());
+        held_ = rowDragged && event->button() == Qt::LeftButton ? rowAt(event->position()) : -1;
+        target_ = held_;
+    }
+    // A row that is dragged leaves the selection alone; a line shows where it would go.
+    void mouseMoveEvent(QMouseEvent* event) override {
+        if (held_ < 0) return QListWidget::mouseMoveEvent(event);
+        const int row = rowAt(event->position());
+        target_ = row >= 0 ? row : event->position().y() < 0 ? 0 : count() - 1;
+        scrollToItem(item(target_));
+        viewport()->update();
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        QListWidget::mouseReleaseEvent(event);
+        const int from = std::exchange(held_, -1);
+        viewport()->update();
+        if (from < 0 || target_ == from || from >= count() || target_ >= count()) return;
+        postIdentifier(rowDragged, handle, 0, from + 1, event->position());
+        addEventValue(0, target_ + 1);
+    }
+    void paintEvent(QPaintEvent* event) override {
+        QListWidget::paintEvent(event);
+        if (held_ < 0 || target_ == held_ || !item(target_)) return;
+        const QRect row = visualItemRect(item(target_));
+        const int y = target_ > held_ ? row.bottom() : row.top();
+        QPainter painter(viewport());
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 3));
+        painter.drawLine(row.left(), y, row.right(), y);
     }
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         QListWidget::mouseDoubleClickEvent(event);
@@ -84,6 +115,9 @@ private:
     }
     int asked_ = 0; // pixels
     bool cutting_ = false;
+    int held_ = -1, target_ = -1; // the row that is dragged and the one under the pointer, from 0
+
+    int rowAt(QPointF position) const { return indexAt(position.toPoint()).row(); }
 
     void chosen(int before, QPointF position) {
         if (currentRow() != before) post(handle, Slot::change, currentRow() + 1, position);
@@ -248,7 +282,23 @@ ListStatus listBoxStatus(Widget& widget) {
 }
 
 namespace {
-const Registration registration({{Fn::owCreateListBox, createListBox}});
+
+// Combo boxes have neither.
+Word enqListSelected(const Arguments& call) {
+    Widget& widget = *widgetOf(call.integer(0));
+    const QListWidgetItem* item = widget.kind == Kind::listBox ? listOf(widget).item(call.integer(1) - 1) : nullptr;
+    return item && item->isSelected() ? 1 : 0;
 }
+
+Word defineRowDrag(const Arguments& call) {
+    Widget& widget = *widgetOf(call.integer(0));
+    if (widget.kind == Kind::listBox) listOf(widget).rowDragged = call.integer(1);
+    return 0;
+}
+
+const Registration registration({{Fn::owCreateListBox, createListBox},
+                                 {Fn::owEnqListSelected, enqListSelected},
+                                 {Fn::owDefineRowDragCallback, defineRowDrag}});
+} // namespace
 
 } // namespace orba

@@ -21,6 +21,7 @@ namespace {
 
 constexpr int SHIFTED = 1000;
 constexpr int CONTROLLED = 2000;
+constexpr int ALTERED = 4000;
 
 struct SpecialKey {
     int key;
@@ -295,7 +296,8 @@ int keyCode(const QKeyEvent& event) {
     const Qt::KeyboardModifiers held = event.modifiers();
     if (const int code = specialCode(event.key())) {
         if (code == OKEYSHIFTTAB || (code == OKEYTAB && !(held & Qt::ControlModifier))) return code;
-        return code + (held & Qt::ShiftModifier ? SHIFTED : 0) + (held & Qt::ControlModifier ? CONTROLLED : 0);
+        return code + (held & Qt::ShiftModifier ? SHIFTED : 0) + (held & Qt::ControlModifier ? CONTROLLED : 0) +
+               (held & Qt::AltModifier ? ALTERED : 0);
     }
     if (held & Qt::AltModifier) return 0;
     if (held & Qt::ControlModifier) {

@@ -535,6 +535,8 @@ void owDefineDragSelectCallback(int widget, int callback);
 void owDefineDragMoveCallback(int widget, int callback);
 void owDefineValueErrorCallback(int widget, int callback);
 void owDefineLinkCallback(int widget, int callback);
+/* A letter's key is its character, with Ctrl 1 to 26; other keys are the codes OKEY..., plus 1000 with Shift, 2000 with
+ * Ctrl, 4000 with Alt. */
 void owDefineKeyCallback(int key, int callback);       /* key at least -20; the key is taken from the widgets; 0 frees it */
 void owDefineKeySelectCallback(int key, int callback); /* the key still reaches the widget that has the focus */
 int owEnqKeyCallback(int key);
@@ -684,6 +686,9 @@ void owSetListEntry(int list, int action, ...);
 int owEnqListEntry(int list, int entry, char* buffer, int length, ...); /* rows count from 1; 0 or -1 the current row;
                                                                            returns the row, 0 for none */
 void owEnqListStatus(int list, int* count, int* selected, int* current);
+int owEnqListSelected(int list, int row); /* of a list box: 1 when the row is selected */
+/* Rows of a list box can be dragged: the status is the row from 1, iargs[0] where it is to go; the program moves it. */
+void owDefineRowDragCallback(int list, int callback);
 void owAddTableBoxColumn(int table, int column, int width, ...);
 void owRemoveTableBoxColumn(int table, int column);
 int owAddTableBoxEntry(int table, int row, int column, const char* text);
