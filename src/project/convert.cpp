@@ -1,13 +1,17 @@
 #include "project/convert.h"
 
+#include "platform/paths.h"
+#include "project/language.h"
 #include "project/widget_types.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <string>
 
 namespace {
 
+constexpr int PIXEL_SNAP = 10;   // step of the snap grid in pixel mode
 constexpr int LARGEST = 1000000; // pixels; what a damaged file may hold stays a number
 
 int inPixels(int cells, int cell) {
@@ -105,4 +109,77 @@ void dropWindowsFields(WidgetNode* list) {
         default: break;
         }
     }
+}
+
+// ---- The whole project
+
+ProjectType projectType() {
+    return {.language = project.projectLanguage,
+            .platform = project.projectPlatform,
+            .doubleBuffering = project.doubleBuffering,
+            .gridMode = project.gridMode,
+            .gridHoriz = project.gridHoriz,
+            .gridVert = project.gridVert,
+            .scalable = project.scalable};
+}
+
+namespace {
+
+bool changesGrid(const ProjectType& wanted) {
+    return wanted.gridHoriz != project.gridHoriz || wanted.gridVert != project.gridVert ||
+           wanted.gridMode != project.gridMode;
+}
+
+void removeWindowsOnly() {
+    for (WidgetNode* node : windowsOnlyRecords(project.forms)) {
+        for (const WidgetNode* one = node; one; one = walkBelow(one, node))
+            if (one->type != TYPE_MAIN_PANEL && !one->name.empty()) --project.widgetCount;
+        deleteNode(node);
+    }
+    dropWindowsFields(project.forms);
+    recountCounters();
+}
+
+void convertGrid(const ProjectType& wanted) {
+    const CellSize before = {project.gridPixelX, project.gridPixelY};
+    const int modeBefore = project.gridMode;
+    project.gridHoriz = wanted.gridHoriz;
+    project.gridVert = wanted.gridVert;
+    project.gridMode = wanted.gridMode;
+    applyGrid();
+    if (!modeBefore && wanted.gridMode) toGrid(project.forms, before);
+    if (modeBefore && !wanted.gridMode) toPixels(project.forms, before);
+    project.snapOn = 1;
+    project.snapGrid = wanted.gridMode ? project.gridPixelX : PIXEL_SNAP;
+}
+
+} // namespace
+
+bool changesWidgets(const ProjectType& wanted) {
+    if (changesGrid(wanted) || wanted.platform != project.projectPlatform) return true;
+    return wanted.platform != 'w' && !windowsOnlyRecords(project.forms).empty();
+}
+
+void convertProject(const ProjectType& wanted) {
+    const bool newGrid = changesGrid(wanted);
+    project.projectPlatform = wanted.platform;
+    if (wanted.platform != 'w') removeWindowsOnly();
+    project.doubleBuffering = wanted.doubleBuffering;
+    setProjectLanguage(wanted.language);
+    if (newGrid) convertGrid(wanted);
+    project.scalable = wanted.scalable;
+    project.projectModified = project.sourceStale = 1;
+}
+
+void setProjectLanguage(int language) {
+    project.projectLanguage = language;
+    project.missingSource = {};
+    const LanguageFacts& facts = languageFacts(language);
+    const std::string& name = project.sourceName;
+    const std::size_t point = name.rfind('.');
+    if (name.empty()) return;
+    const std::string extension = point == std::string::npos ? "" : name.substr(point);
+    if (!extension.empty() && std::string(facts.filter).find("*" + extension + "|") != std::string::npos) return;
+    const std::string renamed = name.substr(0, point) + facts.extension;
+    project.sourceName = pathExists(joinPath(project.sourceDir, renamed)) ? "" : renamed;
 }

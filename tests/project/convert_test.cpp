@@ -1,6 +1,7 @@
 #include "project/convert.h"
 
 #include "project/files.h"
+#include "project/language.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
 #include "support/box_script.h"
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <utility>
 #include <vector>
@@ -212,4 +214,121 @@ TEST(Convert, PlatformAndLanguageComeBackFromAFile) {
                 EXPECT_EQ(project.projectPlatform, platform) << language << " " << buffering;
                 EXPECT_EQ(project.projectLanguage, language) << platform << " " << buffering;
             }
+}
+
+// ---- Whole projects
+
+namespace {
+
+// A pixel project on two forms, with a gauge and a tool bar on the first.
+void mixedProject() {
+    WidgetNode* form = freshProject();
+    project.snapOn = 0;
+    boxed(form->child, TYPE_BUTTON, 205, 44, 75, 25)->name = "button";
+    boxed(form->child, TYPE_GAUGE, 22, 44, 75, 25)->name = "gauge";
+    WidgetNode* pages = boxed(form->child, TYPE_TAB_BOX, 22, 44, 75, 25);
+    pages->name = "pages";
+    boxed(boxed(pages, TYPE_PANEL, 0, 0, 50, 50), TYPE_BUTTON, 0, 0, 5, 5)->name = "inner";
+    project.counters[COUNTER_GAUGE] = 7;
+    project.counters[COUNTER_BUTTON] = 4;
+    project.widgetCount = 6;
+    project.gridPixelX = project.gridPixelY = 22;
+    project.projectModified = project.sourceStale = 0;
+}
+
+ProjectType changed(void (*change)(ProjectType&)) {
+    ProjectType type = projectType();
+    change(type);
+    return type;
+}
+
+} // namespace
+
+TEST(ConvertProject, ToXRemovesWhatItCannotHoldAndGoesToTheGrid) {
+    mixedProject();
+    const ProjectType wanted = changed([](ProjectType& type) {
+        type.platform = 'x';
+        type.gridMode = 1;
+        type.gridHoriz = 32;
+        type.gridVert = 24;
+    });
+    EXPECT_TRUE(changesWidgets(wanted));
+    convertProject(wanted);
+    EXPECT_TRUE(projectType() == wanted);
+    EXPECT_EQ(findName(project.forms, "gauge", false), nullptr);
+    EXPECT_EQ(findName(project.forms, "inner", false), nullptr);
+    const WidgetNode* button = findName(project.forms, "button", false);
+    ASSERT_TRUE(button);
+    EXPECT_EQ(Pair(button->xpos, button->width), Pair(9, 3));
+    EXPECT_EQ(Pair(project.counters[COUNTER_GAUGE], project.counters[COUNTER_BUTTON]), Pair(1, 4));
+    EXPECT_EQ(project.widgetCount, 2);
+    EXPECT_EQ(Pair(project.gridPixelX, project.gridPixelY), Pair(25, 25));
+    EXPECT_EQ(Pair(project.snapOn, project.snapGrid), Pair(1, 25));
+    EXPECT_EQ(Pair(project.projectModified, project.sourceStale), Pair(1, 1));
+    EXPECT_FALSE(changesWidgets(wanted)) << "once is enough";
+}
+
+TEST(ConvertProject, AndBackToPixelsOfWindows) {
+    mixedProject();
+    convertProject(changed([](ProjectType& type) {
+        type.platform = 'g';
+        type.gridMode = 1;
+    }));
+    EXPECT_EQ(project.gridPixelX, 22);
+    convertProject(changed([](ProjectType& type) {
+        type.platform = 'w';
+        type.gridMode = 0;
+    }));
+    const WidgetNode* button = findName(project.forms, "button", false);
+    EXPECT_EQ(Pair(button->xpos, button->width), Pair(198, 66));
+    EXPECT_EQ(Pair(project.snapOn, project.snapGrid), Pair(1, 10));
+}
+
+TEST(ConvertProject, WhatLaysNothingOutAnewMovesNothing) {
+    mixedProject();
+    const ProjectType wanted = changed([](ProjectType& type) {
+        type.scalable = 1;
+        type.language = LANGUAGE_C;
+        type.doubleBuffering = 1;
+    });
+    EXPECT_FALSE(changesWidgets(wanted));
+    convertProject(wanted);
+    EXPECT_TRUE(projectType() == wanted);
+    EXPECT_EQ(findName(project.forms, "button", false)->xpos, 205);
+    EXPECT_TRUE(findName(project.forms, "gauge", false));
+    EXPECT_EQ(project.snapOn, 0);
+}
+
+TEST(ConvertProject, AnotherCountOfCellsKeepsTheCellsOfWidgets) {
+    mixedProject();
+    convertProject(changed([](ProjectType& type) { type.gridMode = 1; }));
+    convertProject(changed([](ProjectType& type) { type.gridHoriz = 20; }));
+    EXPECT_EQ(findName(project.forms, "button", false)->xpos, 9);
+    EXPECT_EQ(Pair(project.gridPixelX, project.snapGrid), Pair(40, 40));
+}
+
+TEST(ConvertProject, TheSourceFollowsTheLanguage) {
+    struct Row {
+        const char* name;
+        int language;
+        const char* expected;
+    };
+    const Row rows[] = {{"g.f90", LANGUAGE_C, "g.cpp"},
+                        {"g.cpp", LANGUAGE_F90, "g.f90"},
+                        {"g.c", LANGUAGE_C, "g.c"},
+                        {"g.f90", LANGUAGE_F77, "g.for"},
+                        {"a.b.f90", LANGUAGE_C, "a.b.cpp"},
+                        {"bare", LANGUAGE_C, "bare.cpp"},
+                        {"", LANGUAGE_C, ""},
+                        {"there.f90", LANGUAGE_C, ""}};
+    const ScratchFolder scratch{"orba-language"};
+    std::ofstream(scratch.path / "there.cpp") << "somebody's own";
+    for (const Row& row : rows) {
+        freshProject();
+        project.sourceDir = scratch.path.string();
+        project.sourceName = row.name;
+        setProjectLanguage(row.language);
+        EXPECT_EQ(project.sourceName, row.expected) << row.name;
+        EXPECT_EQ(project.projectLanguage, row.language);
+    }
 }
