@@ -116,6 +116,32 @@ void addTreeEntries(WidgetNode& tree, std::initializer_list<Entry> entries) {
     }
 }
 
+void addMenu(WidgetNode& form, std::initializer_list<Entry> entries) {
+    const auto append = [&](int kind, int level, const std::string& name, const std::string& label) -> MenuEntryRec& {
+        MenuEntryRec& entry = form.entries.emplace_back();
+        entry.kind = kind;
+        entry.level = level;
+        entry.name = name;
+        entry.label = label;
+        return entry;
+    };
+    append(MENU_BAR, 0, form.name + "_Menubar", "");
+    int level = 0, pullDowns = 0, separators = 0;
+    std::string above;
+    for (const Entry& row : entries) {
+        if (row.level > level) append(MENU_PULL_DOWN, row.level, above + "_Pop" + std::to_string(++pullDowns), "");
+        level = row.level;
+        if (*row.label == 0) {
+            append(MENU_SEPARATOR, row.level, "separator" + std::to_string(++separators), "");
+            continue;
+        }
+        above = row.name;
+        MenuEntryRec& entry = append(MENU_ENTRY, row.level, row.name, row.label);
+        entry.accel = row.label[0];
+        entry.slots[ENTRY_GENERAL] = row.code;
+    }
+}
+
 std::string code(const char* text) {
     std::string out;
     if (*text == '\n') ++text;

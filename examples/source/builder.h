@@ -32,6 +32,9 @@ struct Entry {
 };
 void addTreeEntries(WidgetNode& tree, std::initializer_list<Entry> entries);
 
+// The menu of a form, in the same way; a label that is empty is a separator.
+void addMenu(WidgetNode& form, std::initializer_list<Entry> entries);
+
 // Code as the editor keeps it: lines end in carriage return and line feed, no line end at the start or the end.
 std::string code(const char* text);
 

@@ -1,6 +1,6 @@
-// Writes the example projects:
+// Writes the example projects and what new projects begin with:
 //     make_examples FOLDER
-// puts FOLDER/heat/heat.wdp and so on there.
+// puts FOLDER/heat/heat.wdp and so on there, and FOLDER/templates/tool_f90.wdp.
 #include "examples.h"
 
 #include "project/files.h"
@@ -20,5 +20,14 @@ int main(int count, char** words) {
         if (!saveProject(folder.string(), std::string(row.name) + ".wdp", true)) return 1;
         std::printf("%s\n", (folder / row.name).string().c_str());
     }
+    const std::filesystem::path folder = std::filesystem::path(words[1]) / "templates";
+    std::filesystem::create_directories(folder);
+    for (const example::TemplateRow& row : example::templates)
+        for (const int language : {90, 99}) {
+            row.make(language);
+            const std::string name = std::string(row.name) + (language == 99 ? "_c.wdp" : "_f90.wdp");
+            if (!saveProject(folder.string(), name, true)) return 1;
+            std::printf("%s\n", (folder / name).string().c_str());
+        }
     return 0;
 }
