@@ -13,4 +13,7 @@ constexpr Command COMMANDS[] = {
 
 } // namespace
 
-std::vector<Command> dialogueCommands() { return joined({snapDialogueCommands(), COMMANDS}); }
+std::vector<Command> dialogueCommands() {
+    return joined({defaultsCommands(), preferencesCommands(), projectSettingsCommands(), projectTypeCommands(),
+                   snapDialogueCommands(), syntaxCommands(), COMMANDS});
+}

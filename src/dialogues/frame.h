@@ -13,7 +13,8 @@
 //   4. Handlers ask and set controls through namespace `dialogue` and end with closeDialogue(DIALOGUE). What a program
 //      sets brings no event. A handler that refuses a field calls dialogue::refuse, so that an OK that was pressed to
 //      leave the field does not count.
-//   5. A command that opens it: its row below its handler, named in commands.h and commands.cpp. An editor of the property sheet: its row in editors.cpp.
+//   5. A command that opens it: its row below its handler, named in commands.h and commands.cpp. An editor of the
+//   property sheet: its row in editors.cpp.
 // Return presses the default button (behind the field's own commit), Esc and the close box the `cancel` control, F1
 // shows `help`, Tab goes by the table, Alt and the mnemonic works on buttons and toggles.
 //

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -57,7 +58,10 @@ struct Sheet {
     WidgetNode* widget = nullptr; // null: no rows
     std::vector<ShownRow> rows;
     std::string label = FALLBACK_LABEL; // of the selected row
+    void (*edited)() = [] {};           // behind each change of the user
 } sheet;
+
+Sheet atHome; // the one in the pane, while it is lent
 
 // ---- Rows that open an editor.
 
@@ -245,7 +249,9 @@ void eraseList() {
     sheet.list = 0;
 }
 
-void setTitle(const char* title) { owSetWidgetProp(sheet.pane, owTitle, title, 0); }
+void setTitle(const char* title) {
+    if (sheet.pane) owSetWidgetProp(sheet.pane, owTitle, title, 0);
+}
 
 // The label area of an array as the live widget has it.
 void fetchLabelArea(WidgetNode& array) {
@@ -369,6 +375,19 @@ void showProperties(WidgetNode* widget) {
     owDrawWidget(sheet.list);
 }
 
+void lendSheet(int panel, void (*edited)()) {
+    showProperties(nullptr);
+    atHome = std::exchange(sheet, Sheet());
+    sheet.panel = panel;
+    sheet.edited = edited;
+    makeList();
+}
+
+void returnSheet() {
+    eraseList();
+    sheet = std::exchange(atHome, Sheet());
+}
+
 const std::string& selectedPropertyLabel() { return sheet.label; }
 bool sheetHolds(int widget) {
     return widget == sheet.list || std::ranges::find(sheet.rows, widget, &ShownRow::widget) != sheet.rows.end();
@@ -396,6 +415,7 @@ void propertyChangedCommand() {
         if (sheet.widget != widget) break;
     }
     refreshProperties();
+    sheet.edited();
     if (!design.defaultsMode && project.currentWidget) adoptWidget(*project.currentWidget);
 }
 
@@ -410,6 +430,7 @@ void propertyButtonCommand() {
     if (row.cell == Cell::Colour) {
         chooseColour(widget, row);
         refreshProperties();
+        sheet.edited();
     } else {
         openEditorOf(widget, row);
     }

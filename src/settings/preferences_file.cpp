@@ -13,7 +13,9 @@
 namespace {
 
 const char FILE_NAME[] = "wdesign.prf";
-constexpr std::size_t SLOT_BYTES = 25;
+constexpr std::size_t SLOT_BYTES = CONFIG_EXPRESSION_BYTES + 1;
+
+int systemPointSize = 9; // of the code font, as told at the start
 
 // How a field stands in its slot. The file holds "place once" where the program holds "repeat placement".
 enum FieldKind { FIELD_NUMBER, FIELD_NEGATED, FIELD_TEXT };
@@ -78,7 +80,13 @@ std::string fieldText(const Preferences& values, const PreferenceField& field) {
 
 } // namespace
 
+PreferenceRange preferenceRange(int Preferences::*number) {
+    const auto* field = std::ranges::find(FIELDS, number, &PreferenceField::number);
+    return {field->least, field->most};
+}
+
 void loadPreferences(int defaultPointSize) {
+    systemPointSize = defaultPointSize;
     preferences = {};
     preferences.codePointSize = defaultPointSize;
     std::string bytes;
@@ -91,6 +99,8 @@ void loadPreferences(int defaultPointSize) {
         start += SLOT_BYTES;
     }
 }
+
+void reloadPreferences() { loadPreferences(systemPointSize); }
 
 void syntaxNotAvailable() { preferences.syntaxColours = 0; }
 

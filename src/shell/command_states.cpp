@@ -186,12 +186,16 @@ void retarget(const ModeTwin& twin) {
 
 } // namespace
 
+void refreshInputMode() {
+    for (const ModeTwin& twin : TWINS) retarget(twin);
+    refreshCommands();
+}
+
 void setInputMode(bool text) {
     const bool changed = textMode != text || !modeInstalled;
     textMode = text;
     modeInstalled = true;
-    if (changed)
-        for (const ModeTwin& twin : TWINS) retarget(twin);
+    if (changed) return refreshInputMode();
     refreshCommands();
 }
 

@@ -67,6 +67,7 @@ void buildWindows() {
     if (preferences.syntaxColours && !loadSyntaxAttributes()) syntaxNotAvailable();
     buildControlWindows();
     joinBuildToWindows();
+    joinProjectDialogues();
     hooks.formFileForgotten = forgetFormFile;
     loadRecentProjects(fileMenu());
     showPreferenceLabels();

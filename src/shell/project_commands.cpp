@@ -3,6 +3,8 @@
 #include "compile/catalogue.h"
 #include "compile/execute.h"
 #include "compile/log.h"
+#include "dialogues/project_requests.h"
+#include "dialogues/project_type.h"
 #include "editing/code_editor.h"
 #include "editing/modes.h"
 #include "menu-c.h"
@@ -15,6 +17,7 @@
 #include "shell/command_states.h"
 #include "shell/command_table.h"
 #include "shell/commands.h"
+#include "shell/compiler_log.h"
 #include "shell/menus.h"
 #include "shell/saving.h"
 #include "shell/window_control.h"
@@ -64,13 +67,17 @@ namespace {
 bool programRunning() { return childProcess.handle != 0; }
 
 // What follows from language, platform and grid of the project that has just come in.
-void adoptProjectSettings() {
-    owSetSnapGrid(project.snapOn ? project.snapGrid : 1);
-    forgetLog();
+void adoptProjectKind() {
     const bool fits = compilerFitsProject(true);
     enableCompile(fits && !programRunning());
     refreshCommands();
     showProjectTitle();
+}
+
+void adoptProjectSettings() {
+    owSetSnapGrid(project.snapOn ? project.snapGrid : 1);
+    forgetLog();
+    adoptProjectKind();
 }
 
 void showForms(WidgetNode* selected) {
@@ -148,11 +155,67 @@ namespace {
 
 void newProjectCommand() {
     selectTool(TOOL_SELECTOR);
-    if (!saveQuestion("Start New Project", false)) return;
-    dropSelection();
+    if (saveQuestion("Start New Project", false)) newProjectDialogue();
+}
+
+void startEmptyProject(const ProjectType& type) {
+    project.projectLanguage = type.language;
+    project.projectPlatform = type.platform;
+    project.doubleBuffering = type.doubleBuffering;
+    project.gridMode = type.gridMode;
+    project.gridHoriz = type.gridHoriz;
+    project.gridVert = type.gridVert;
+    applyGrid();
     startNewProject();
+    project.scalable = type.gridMode ? type.scalable : 0;
+}
+
+// The project of a file, under no name, as if it had been drawn now.
+bool startFromModel(const ProjectType& type, const std::string& model) {
+    if (!loadProject(folderOf(model), fileNameOf(model))) return false;
+    mendLoadedProject();
+    convertProject(type);
+    startAnotherProject();
+    project.projectTitle.clear();
+    project.projectName.clear();
+    project.projectDir.clear();
+    project.storedSource.clear();
+    project.snapOn = 1;
+    project.snapGrid = project.gridMode ? project.gridPixelX : 10;
+    adoptProjectSettings();
+    enableExecute(false);
+    showForms(nullptr);
+    project.projectModified = 0;
+    project.sourceStale = 1;
+    return true;
+}
+
+void startProject(const ProjectType& type, const std::string& model) {
+    dropSelection(); // while the grid is still that of the live widgets
+    if (model.empty())
+        startEmptyProject(type);
+    else if (!startFromModel(type, model))
+        selectAgain();
     activateWidget(project.currentWidget);
 }
+
+} // namespace
+
+void joinProjectDialogues() {
+    projectRequests.startProject = startProject;
+    projectRequests.kindChanged = [] {
+        adoptProjectKind();
+        enableExecute(false); // the program is of the other kind
+    };
+    projectRequests.preferencesChanged = [] {
+        showPreferenceLabels();
+        refreshInputMode();
+        startAutoBackup();
+        setLogFont();
+    };
+}
+
+namespace {
 
 void exitCommand() {
     if (saveQuestion("Exit ORBAWIDG Designer", false)) design.quitRequested = 1;

@@ -14,6 +14,8 @@ FilePlace placeFromCommandLine(const std::string& commandLine);
 // Throws the open project away and begins one with "Form1", in the language, platform and grid in force.
 void startNewProject();
 
+void joinProjectDialogues(); // what they ask for is answered from here on
+
 void closeProject();    // at the end of the program: live forms and records go
 void startAutoBackup(); // with the period of the preferences, or stops it
 void forgetFormFile();  // the next Save Form asks for a name

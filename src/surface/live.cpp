@@ -73,13 +73,13 @@ void defineEvents(WidgetNode& node, int general, int select) {
 void realiseOne(WidgetNode& node, int parent) {
     const LiveType* type = liveType(node.type);
     if (!type) return;
-    setGridMode(project.gridMode);
+    setGridMode(design.defaultsMode ? 0 : project.gridMode); // default records are in pixels
     const int under = liveParent(node, parent);
     int handle = type->create(node, under);
     const bool standIn = handle <= 0 && node.type != TYPE_FORM;
     if (standIn) handle = createStandIn(node, under);
     setHandle(node, std::max(handle, 0), under);
-    if (handle > 0)
+    if (handle > 0 && !design.defaultsMode) // a sample sends nothing
         defineEvents(node, standIn ? LiveType::BY_HANDLE : type->general, standIn ? LiveType::BY_HANDLE : type->select);
     if (handle > 0 && !standIn) {
         if (bearsFont(node)) setFont(node);
@@ -236,7 +236,7 @@ void drawFrameCross(const WidgetNode& frame) {
 
 void storeArrayGeometry(WidgetNode& node) {
     if (node.handle <= 0 || !(isArray(node) || isTable(node))) return;
-    setGridMode(project.gridMode);
+    setGridMode(design.defaultsMode ? 0 : project.gridMode);
     node.columnWidths.resize(std::max(node.columns, 0));
     OARRAYCELL cell = {};
     for (int column = 0; column < node.columns; ++column) {
@@ -264,7 +264,7 @@ void storeGeometryBelow(WidgetNode& node) {
 
 void applyArrayGeometry(WidgetNode& node) {
     if (node.handle <= 0) return;
-    setGridMode(project.gridMode);
+    setGridMode(design.defaultsMode ? 0 : project.gridMode);
     const int columns = std::min<int>(node.columns, node.columnWidths.size());
     const int rows = std::min<int>(node.rows, node.rowHeights.size());
     for (int column = 0; column < columns; ++column) {

@@ -2,6 +2,7 @@
 #include "designer_fixture.h"
 
 #include "compile/hooks.h"
+#include "dialogues/project_type.h"
 #include "platform/paths.h"
 #include "platform/text_files.h"
 #include "project/defaults.h"
@@ -159,6 +160,7 @@ TEST_F(DesignerTest, ANewProjectStartsAgain) {
     project.projectModified = 1;
     expectBox("Start New Project", SAVE_TEXT, OANSWERNO);
     send(CMD_NEW_PROJECT);
+    send(TYPE_OK);
     EXPECT_EQ(live("Form1_Button1"), 0);
     EXPECT_EQ(project.forms->name, "Form1");
     EXPECT_EQ(project.projectName, "");
@@ -198,6 +200,7 @@ TEST_F(DesignerTest, AFormIsSavedAndInserted) {
     send(CMD_INSERT_FORM);
     project.projectModified = 0;
     send(CMD_NEW_PROJECT);
+    send(TYPE_OK);
     expectBrowser("Insert Form", file("second.wdf"));
     send(CMD_INSERT_FORM);
     ASSERT_NE(project.forms->next, nullptr);
@@ -249,6 +252,7 @@ TEST_F(DesignerTest, TheLogIsEmptiedWithItsProject) {
     emptied = 0;
     buildHooks.clearLog = [] { ++emptied; };
     send(CMD_NEW_PROJECT);
+    send(TYPE_OK);
     EXPECT_EQ(emptied, 1);
     expectBrowser("Open Project", file("bridge.wdp"));
     send(CMD_OPEN_PROJECT);

@@ -1,10 +1,16 @@
 // Attributes of the code's colours: the files that keep them, and the dialogue that changes them.
 #include "designer_fixture.h"
 
+#include "dialogues/commands.h"
+#include "dialogues/frame.h"
+#include "dialogues/syntax_attributes.h"
+
 #include "editing/syntax.h"
 #include "platform/environment.h"
 #include "platform/text_files.h"
 #include "toolkit/testing/robot.h"
+
+#include <QColor>
 
 using namespace orba::testing;
 
@@ -113,4 +119,134 @@ TEST_F(SyntaxFiles, AFileThatCannotBeWrittenIsReported) {
     expectBox("Save Syntax Attributes", "Cannot open wdesign.syn to save attributes", 4);
     EXPECT_FALSE(saveSyntaxAttributes());
     EXPECT_EQ(inForce(), before);
+}
+
+// ---- The dialogue
+
+namespace {
+
+class SyntaxDialogue : public SyntaxFiles {
+protected:
+    static constexpr int COMMENTS = 1;
+
+    void open() {
+        choose(menuEntry(CMD_SYNTAX_ATTRIBUTES));
+        pump();
+        ASSERT_TRUE(dialogue::widget(SYNTAX_OK));
+    }
+    void press(int id) {
+        click(dialogue::widget(id));
+        pump();
+    }
+    void showCategory(int category) {
+        dialogue::choose(SYNTAX_CATEGORY, category + 1);
+        owPostCallback(SYNTAX_CATEGORY, 0);
+        pump();
+    }
+};
+
+} // namespace
+
+TEST_F(SyntaxDialogue, ShowsAndChangesEachCategory) {
+    start();
+    open();
+    for (int category = 0; category < SYNTAX_CATEGORIES; ++category) {
+        showCategory(category);
+        const SyntaxAttributes before = syntaxAttributes(category);
+        EXPECT_EQ(dialogue::isOn(SYNTAX_BOLD), before.bold != 0) << category;
+        EXPECT_EQ(dialogue::isOn(SYNTAX_ITALIC), before.italic != 0) << category;
+        for (const int style : {SYNTAX_BOLD, SYNTAX_ITALIC, SYNTAX_UNDERLINE, SYNTAX_STRIKEOUT}) press(style);
+        const SyntaxAttributes after = syntaxAttributes(category);
+        EXPECT_EQ(after.bold, !before.bold) << category;
+        EXPECT_EQ(after.italic, !before.italic) << category;
+        EXPECT_EQ(after.underline + after.strikeout, 2) << category;
+        EXPECT_EQ(after.face, "") << "the face was not touched";
+        EXPECT_EQ(after.colour, before.colour);
+    }
+    press(SYNTAX_CANCEL);
+}
+
+TEST_F(SyntaxDialogue, OkWritesAndTheNextStartReads) {
+    start();
+    open();
+    showCategory(COMMENTS);
+    press(SYNTAX_BOLD);
+    showCategory(LANGUAGE);
+    expectColourBox(QColor(0x12, 0x34, 0x56));
+    press(SYNTAX_COLOUR);
+    EXPECT_EQ(syntaxAttributes(LANGUAGE).colour, 0x01123456);
+    press(SYNTAX_OK);
+    const std::string before = inForce();
+    end();
+    start();
+    EXPECT_EQ(inForce(), before);
+    EXPECT_EQ(syntaxAttributes(COMMENTS).bold, 1);
+    EXPECT_EQ(syntaxAttributes(LANGUAGE).colour, 0x01123456);
+}
+
+TEST_F(SyntaxDialogue, CancelLosesTheChangesOfAllCategories) {
+    start();
+    const std::string before = inForce();
+    open();
+    showCategory(COMMENTS);
+    press(SYNTAX_BOLD);
+    showCategory(LANGUAGE);
+    press(SYNTAX_ITALIC);
+    std::filesystem::remove(delivered());
+    press(SYNTAX_CANCEL);
+    EXPECT_EQ(inForce(), before) << "without a file, too";
+    EXPECT_FALSE(std::filesystem::exists(userFile()));
+}
+
+TEST_F(SyntaxDialogue, RestoreDefaultsShowsTheDelivered) {
+    start();
+    const std::string before = inForce();
+    open();
+    showCategory(LANGUAGE);
+    press(SYNTAX_BOLD);
+    EXPECT_FALSE(dialogue::isOn(SYNTAX_BOLD));
+    press(SYNTAX_RESTORE);
+    EXPECT_TRUE(dialogue::isOn(SYNTAX_BOLD));
+    EXPECT_EQ(inForce(), before);
+    press(SYNTAX_OK);
+}
+
+TEST_F(SyntaxDialogue, ColoursOfTheTableBecomeTrueOnes) {
+    start();
+    SyntaxAttributes plain = syntaxAttributes(0);
+    plain.colour = 3;
+    setSyntaxAttributes(0, plain);
+    open();
+    showCategory(0);
+    expectColourBox(QColor(255, 255, 255));
+    press(SYNTAX_COLOUR);
+    EXPECT_EQ(syntaxAttributes(0).colour, 0x01FFFFFF);
+    press(SYNTAX_CANCEL);
+    EXPECT_EQ(syntaxAttributes(0).colour, 3);
+}
+
+TEST_F(SyntaxDialogue, AFolderThatCannotBeWrittenIsReported) {
+    start();
+    std::filesystem::create_directories(userFile() + "/in the way");
+    open();
+    showCategory(LANGUAGE);
+    press(SYNTAX_ITALIC);
+    expectBox("Save Syntax Attributes", "Cannot open wdesign.syn to save attributes", 4);
+    press(SYNTAX_OK);
+    EXPECT_EQ(syntaxAttributes(LANGUAGE).italic, 1) << "in force until the end";
+}
+
+TEST_F(SyntaxDialogue, TheSampleIsOfTheProjectsLanguage) {
+    start();
+    for (const auto& [language, word] :
+         {std::pair(90, "integer ::"), std::pair(99, "#include"), std::pair(77, "CALL")}) {
+        project.projectLanguage = language;
+        open();
+        EXPECT_NE(dialogue::text(SYNTAX_CODE).find(word), std::string::npos) << language;
+        const std::string before = dialogue::text(SYNTAX_CODE);
+        type(dialogue::widget(SYNTAX_CODE), "x");
+        EXPECT_EQ(dialogue::text(SYNTAX_CODE), before) << "nobody writes there";
+        press(SYNTAX_CANCEL);
+    }
+    project.projectLanguage = 90;
 }
