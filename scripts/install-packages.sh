@@ -10,6 +10,7 @@ packages=(
   xterm                                        # the window of console programs, where the desktop brings no terminal
   fonts-dejavu-core fonts-liberation           # text in a bare installation; a Courier New metric match for code
   libgtest-dev libgmock-dev libbenchmark-dev   # tests and benchmarks
+  liblapack-dev libblas-dev                    # the library that the equations example links
   xvfb openbox xdotool imagemagick             # end-to-end tests: display, window manager, mouse and keys, pictures
   qt6-tools-dev designer-qt6                   # only measured against: form loader, form compiler and form designer
   clang-14 libclang-rt-14-dev clang-tidy-14 clang-format-14 # fuzzing, checks, layout

@@ -15,3 +15,6 @@ std::string settingsFileToRead(const std::string& name);
 
 // The file to write: in the data folder when there is one, else in the current directory.
 std::string settingsFileToWrite(const std::string& name);
+
+// Writes that file whole or not at all, also where two designers save at once. False when it can't be written.
+bool writeSettingsFile(const std::string& name, const std::string& text);

@@ -111,6 +111,6 @@ void savePreferences() {
         slot.resize(SLOT_BYTES, '\0');
         bytes += slot;
     }
-    if (!writeTextFile(settingsFileToWrite(FILE_NAME), bytes))
+    if (!writeSettingsFile(FILE_NAME, bytes))
         host.infoBox("Save Prefences", "Cannot open wdesign.prf to save preferences");
 }

@@ -77,7 +77,7 @@ void addRecentProject(int menu, const std::string& path) {
         if (absolutePath(old) != whole && lines.size() < RECENT_PROJECTS) lines.push_back(old);
     std::string text;
     for (const std::string& line : lines) text += line + '\n';
-    writeTextFile(settingsFileToWrite(FILE_NAME), text);
+    writeSettingsFile(FILE_NAME, text);
     eraseEntries();
     loadRecentProjects(menu);
 }

@@ -175,7 +175,7 @@ void saveWindowStates() {
     for (const WindowRowInfo& info : ROWS) readLiveWindow(windowStates[info.row], info.kind);
     std::string text;
     for (const WindowRowInfo& info : ROWS) text += rowText(info.row, windowStates[info.row]);
-    if (!writeTextFile(settingsFileToWrite(FILE_NAME), text))
+    if (!writeSettingsFile(FILE_NAME, text))
         host.infoBox("Save Window States", "Cannot open wdesign.ini to save window states");
 }
 

@@ -12,7 +12,10 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <string>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -254,4 +257,33 @@ TEST_F(SettingsFiles, ALongExpressionIsCutBetweenCharacters) {
     savePreferences();
     loadPreferences(9);
     EXPECT_EQ(preferences.configDirExpr, "12345678901234567890123");
+}
+
+// Another process saves again and again; whoever reads meanwhile finds the file of one of them.
+TEST_F(SettingsFiles, TwoWritersNeverMakeAMixture) {
+    const auto save = [](int number, const std::string& text) {
+        preferences.globalIndent = preferences.selectedIndent = preferences.tabSpaces = number;
+        preferences.configDirExpr = text;
+        savePreferences();
+    };
+    save(1, "aaaaaaaaaaaaaaaaaaaaaaaa");
+    const std::string one = contents(data / "wdesign.prf");
+    save(22, "b");
+    const std::string other = contents(data / "wdesign.prf");
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        for (int i = 0; i < 100; i++) save(1, "aaaaaaaaaaaaaaaaaaaaaaaa");
+        _exit(0);
+    }
+    for (int i = 0; i < 100; i++) {
+        save(22, "b");
+        const std::string found = contents(data / "wdesign.prf");
+        EXPECT_TRUE(found == one || found == other) << found.size();
+    }
+    int status = 1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(data), {}), 1) << "nothing is left beside it";
+    EXPECT_EQ(boxShown, "");
 }
