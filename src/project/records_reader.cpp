@@ -56,10 +56,12 @@ void readField(RecordSource& source, WidgetNode& node, const FieldRow& row) {
     }
 }
 
-void readSlot(FileReader& reader, CallbackSlot& slot) {
+CallbackSlot readSlot(FileReader& reader) {
+    CallbackSlot code;
     int size = 0;
     readNumber(reader, size);
-    readText(reader, slot, size, SIZE_MAX);
+    readText(reader, code, size, SIZE_MAX);
+    return code;
 }
 
 // What a record of an old version has to become. Each row runs on the whole record, in this order.
@@ -113,7 +115,7 @@ void readFields(RecordSource& source, WidgetNode& node) {
             takeAbsent(source, node, row);
     }
     for (const SlotPlace& place : slotFileOrder)
-        if (source.version >= place.since) readSlot(source.reader, node.slots[place.slot]);
+        if (source.version >= place.since) node.slots.set(place.slot, readSlot(source.reader));
     for (const Upgrade& upgrade : upgrades)
         if (source.version < upgrade.below) upgrade.apply(node);
     if (!node.name.empty() && node.type != TYPE_MAIN_PANEL) ++source.namedRecords;
@@ -145,7 +147,7 @@ void readEntry(RecordSource& source, MenuEntryRec& entry) {
     for (const EntryStringRow& row : entryStrings)
         if (source.version >= row.since) readString(source.reader, entry.*row.field);
     for (int i = 0; i < ENTRY_SLOTS; ++i)
-        if (source.version >= entrySlotSince[i]) readSlot(source.reader, entry.slots[i]);
+        if (source.version >= entrySlotSince[i]) entry.slots.set(i, readSlot(source.reader));
     for (const EntryNumberRow& row : entryNumbers) readNumber(source.reader, entry.*row.field);
 }
 
