@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
         }
         randomProject(random, 1, 3);
         for (WidgetNode* n = project.forms; n; n = walkList(n, project.forms)) // long texts only slow the search down
-            for (std::string& slot : n->slots.all()) slot.resize(std::min<std::size_t>(slot.size(), 40));
+            for (std::string& slot : n->slots) slot.resize(std::min<std::size_t>(slot.size(), 40));
         write(folder + "/project" + name, encodeProject(image, project));
         if (version >= 30) write(folder + "/form" + name, encodeForm(image, project.forms, 10, 10));
     }

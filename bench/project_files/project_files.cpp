@@ -99,7 +99,7 @@ double overhead(std::size_t before) {
         ++records;
         for (const std::string* text : {&n->name, &n->text, &n->icon, &n->bubbleHelp, &n->fontFace, &n->xLabels})
             texts += heapOf(*text);
-        for (const std::string& slot : n->slots.kept()) texts += heapOf(slot);
+        for (const std::string& slot : n->slots) texts += heapOf(slot);
     }
     const struct mallinfo2 now = mallinfo2();
     return static_cast<double>(now.uordblks + now.hblkhd - before - texts) / records;

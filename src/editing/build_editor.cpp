@@ -7,6 +7,7 @@
 #include "editing/modes.h"
 #include "editing/rename.h"
 #include "menu-c.h"
+#include "project/preferences.h"
 #include "surface/hooks.h"
 #include "surface/window_states.h"
 
@@ -17,6 +18,7 @@ namespace {
 // The head shows whole in a pane of the default width.
 constexpr int HEAD_HEIGHT = 50, BLOCK_WIDTH = 150, SELECTOR_LEFT = 160, SELECTOR_WIDTH = 214, ICONS_LEFT = 378;
 constexpr int ICON_SIZE = 22, ICON_TOP = 15, ICON_STEP = 29;
+constexpr int LINES_WIDTH = 64;        // of what the list of blocks tells beside a name
 constexpr int UNLIMITED = 2147483646; // characters
 
 struct EditorIcon {
@@ -102,10 +104,11 @@ void buildCodeEditor(int pane) {
     const int head = owCreatePanel(body, 0, 0, state.width, HEAD_HEIGHT, owVpos, OTOP, owHpos, OCENTRE, owExpand, 1,
                                    owBorderType, ONOBOUNDARY, 0);
     editor.blockList = owCreateComboBox(head, 5, 22, BLOCK_WIDTH, 276, ONONE, ODISPLAY, owVpos, OTOP, owHelp,
-                                        "Select Code Block", owCallback, CMD_CODE_BLOCK, 0);
+                                        "Select Code Block", owDescWidth, LINES_WIDTH, owCallback, CMD_CODE_BLOCK, 0);
     makeSelector(head);
     makeIcons(head);
     makeTexts(body, state.width, std::max(state.height - HEAD_HEIGHT, HEAD_HEIGHT));
+    owShowCodeView(editor.text, preferences.selectedIndent, CMD_CODE_ZOOM);
     refreshFont(false, 0);
     fillHooks();
 }

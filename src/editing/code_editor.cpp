@@ -1,6 +1,7 @@
 // Binding the text of the code editor to a block or slot.
 #include "editing/code_editor.h"
 
+#include "editing/block_list.h"
 #include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/modes.h"
@@ -13,6 +14,7 @@
 #include "surface/selection.h"
 
 #include <algorithm>
+#include <map>
 #include <string>
 
 namespace {
@@ -20,8 +22,8 @@ namespace {
 void addSlotRows(const WidgetNode& widget) {
     const auto slots = offeredSlots(widget);
     if (slots.empty()) return;
-    addRow(editor.blockList, SLOT_SEPARATOR_ROW);
-    for (const WidgetSlot slot : slots) addRow(editor.blockList, slotTable[slot].name);
+    addBlockRow(SLOT_SEPARATOR_ROW);
+    for (const WidgetSlot slot : slots) addBlockRow(slotTable[slot].name);
 }
 
 void setTab(int tab, bool enabled) { owSetWidgetStatus(tab, enabled ? OSELECTABLE : OUNSELECTABLE); }
@@ -42,11 +44,30 @@ void storePosition() {
 
 int positionOf(const std::string& name) { return isSlotName(name) ? SLOT_LIST_POSITION : blockIndexOf(name) + 1; }
 
+// Each block and slot has a text of its own in the widget, which keeps its history while the project is open.
+std::map<std::string, int> documents;
+
+int documentOfShown() {
+    std::string key = project.currentBlockName;
+    if (codeEditing.target == EDIT_WIDGET_SLOT)
+        key += "|" + std::to_string(codeEditing.widget);
+    else if (codeEditing.target != EDIT_BLOCK && codeEditing.currentEntry)
+        key += "|" + std::to_string(codeEditing.entryOwner) + "|" + codeEditing.currentEntry->name;
+    return documents.emplace(key, static_cast<int>(documents.size()) + 1).first->second;
+}
+
+// As the widget would take the code and give it back.
+std::string comparable(std::string code) {
+    std::erase(code, '\r');
+    code.erase(code.find_last_not_of(' ') + 1);
+    return code;
+}
+
 } // namespace
 
 void refreshBlockList() {
-    owSetListEntry(editor.blockList, OCLEAR, 0);
-    for (const CodeBlockRow& block : codeBlockTable) addRow(editor.blockList, block.name);
+    clearBlockRows();
+    for (const CodeBlockRow& block : codeBlockTable) addBlockRow(block.name);
     refreshBlockCopies();
     owDefineChangeCallback(editor.text, 0);
 }
@@ -56,12 +77,17 @@ void loadWidgetSlots(WidgetNode& widget) {
     loadWorkingSlots(widget);
 }
 
-void showCurrentBlock() { owSetTextSetting(editor.text, shownCode().c_str(), owEntryType, OSTANDARD, 0); }
+void showCurrentBlock() {
+    const bool kept = owShowTextDocument(editor.text, documentOfShown()) == 1;
+    if (kept && comparable(textOf(editor.text)) == comparable(shownCode())) return;
+    owSetTextSetting(editor.text, shownCode().c_str(), owEntryType, OSTANDARD, 0);
+}
 
 void rememberCaret() { storePosition(); }
 
 void showBoundCode() {
-    selectInList(editor.blockList, project.currentBlockName.c_str());
+    showBlockSizes();
+    selectBlockRow(project.currentBlockName);
     codeEditing.listPosition = positionOf(project.currentBlockName);
     showCurrentBlock();
     int& start = codeEditing.caretStart[codeEditing.listPosition];
@@ -79,7 +105,7 @@ void commitEditor() {
     const TextRange range = selectionOf(editor.text);
     commitCode(textOf(editor.text), range.start, range.end);
     owDefineChangeCallback(editor.text, CMD_CODE_CHANGED);
-    owTextUndoAction(editor.text, ORESETUNDO);
+    showBlockSizes();
 }
 
 void bindCode(WidgetNode* widget) {
@@ -105,8 +131,10 @@ void showCallback(WidgetNode& widget) {
 void forgetCode() {
     forgetCodeCopies();
     if (!editor.text) return;
+    documents.clear();
+    owForgetTextDocuments(editor.text);
     owSetTextSetting(editor.text, "", 0);
-    owSetListEntry(editor.blockList, OCLEAR, 0);
+    clearBlockRows();
 }
 
 void showCode(const std::string& blockName, WidgetNode* widget, int line, int column) {
@@ -138,9 +166,8 @@ namespace {
 
 void blockChosenCommand() {
     commitEditor();
-    const std::string name = chosenRow(editor.blockList);
-    if (name == SLOT_SEPARATOR_ROW || name.empty())
-        return selectInList(editor.blockList, project.currentBlockName.c_str());
+    const std::string name = chosenBlockRow();
+    if (name == SLOT_SEPARATOR_ROW || name.empty()) return selectBlockRow(project.currentBlockName);
     storePosition();
     constexpr size_t NAME_SIZE = 50;
     project.currentBlockName = name.substr(0, NAME_SIZE);

@@ -1,5 +1,6 @@
 #include "editing/code_lists.h"
 
+#include "editing/block_list.h"
 #include "editing/code_editor.h"
 #include "editing/commands.h"
 #include "editing/editor_window.h"
@@ -40,9 +41,8 @@ WidgetNode* firstFormWithMenu() {
 // Rows of the slots of an entry instead of a widget's.
 void showEntrySlots(const WidgetNode& owner) {
     refreshBlockList();
-    addRow(editor.blockList, SLOT_SEPARATOR_ROW);
-    for (const EntrySlot slot : offeredEntrySlots(owner))
-        addRow(editor.blockList, slotTable[entrySlotKinds[slot]].name);
+    addBlockRow(SLOT_SEPARATOR_ROW);
+    for (const EntrySlot slot : offeredEntrySlots(owner)) addBlockRow(slotTable[entrySlotKinds[slot]].name);
 }
 
 // Shows the General slot of an entry of the copy; nothing changes for a name that is none.

@@ -38,8 +38,8 @@ void refreshFont(bool marks, int modifiedValue) {
         owSetFontAttribs(text, owFontFace, CODE_FONT, owPointSize, preferences.codePointSize, 0);
         select(text, range);
     }
+    owShowCodeView(text, preferences.selectedIndent, CMD_CODE_ZOOM);
     owDefineChangeCallback(text, CMD_CODE_CHANGED);
-    owTextUndoAction(text, ORESETUNDO);
     if (!marks) return;
     codeEditing.codeModified = modifiedValue != 0;
     if (modifiedValue) project.projectModified = 1;

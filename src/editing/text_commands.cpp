@@ -195,6 +195,12 @@ void textRedoCommand() {
     showHistory();
 }
 
+void codeZoomCommand() {
+    preferences.codePointSize =
+        std::clamp(preferences.codePointSize + action.status, SMALLEST_CODE_FONT, LARGEST_CODE_FONT);
+    refreshFont(false, 0);
+}
+
 // clang-format off
 constexpr Command COMMANDS[] = {
     {.id = CMD_TEXT_MENU, .label = "Text", .mnemonic = 'T', .when = WHEN_TEXT_MODE, .handler = [] {}},
@@ -209,6 +215,7 @@ constexpr Command COMMANDS[] = {
     {.id = CMD_TEXT_TAB, .key = OKEYTAB, .keyModes = IN_TEXT, .handler = textTabCommand},
     {.id = CMD_CODE_CHANGED, .handler = codeChangedCommand},
     {.id = CMD_CODE_SELECT, .handler = caretMovedCommand},
+    {.id = CMD_CODE_ZOOM, .handler = codeZoomCommand},
     {.id = CMD_INDENT, .handler = indentCommand},
     {.id = CMD_UNINDENT, .key = OKEYSHIFTTAB, .keyModes = IN_TEXT, .handler = unindentCommand},
     {.id = CMD_COMMENT, .handler = commentCommand},

@@ -59,11 +59,11 @@ bool inEntryMode() { return codeEditing.target == EDIT_MENU_SLOT || codeEditing.
 
 // The working copies of an entry stand under the slots that they answer to.
 void loadEntryCopies(const MenuEntryRec& entry) {
-    for (std::size_t i = 0; i < ENTRY_SLOTS; ++i) codeEditing.workingSlots.set(entrySlotKinds[i], entry.slots[i]);
+    for (std::size_t i = 0; i < ENTRY_SLOTS; ++i) codeEditing.workingSlots[entrySlotKinds[i]] = entry.slots[i];
 }
 
 void storeEntryCopies(MenuEntryRec& entry) {
-    for (std::size_t i = 0; i < ENTRY_SLOTS; ++i) entry.slots.set(i, codeEditing.workingSlots[entrySlotKinds[i]]);
+    for (std::size_t i = 0; i < ENTRY_SLOTS; ++i) entry.slots[i] = codeEditing.workingSlots[entrySlotKinds[i]];
 }
 
 MenuEntryRec* entryNamed(std::vector<MenuEntryRec>& entries, std::string_view name) {
@@ -208,9 +208,9 @@ void clearShownCode() {
 
 void clearAllCode() {
     if (inEntryMode())
-        for (WidgetSlot slot : entrySlotKinds) codeEditing.workingSlots.set(slot, {});
+        for (WidgetSlot slot : entrySlotKinds) codeEditing.workingSlots[slot].clear();
     else if (codeEditing.target == EDIT_WIDGET_SLOT)
-        codeEditing.workingSlots = {};
+        for (std::string& slot : codeEditing.workingSlots) slot.clear();
     for (std::string& copy : codeEditing.blockCopies) copy.clear();
     codeEditing.codeModified = true;
 }
@@ -227,8 +227,8 @@ void convertOldCode(std::string& code) {
 
 void convertOldCode(WidgetNode* list) {
     for (WidgetNode* node = list; node; node = walkList(node, list)) {
-        for (CallbackSlot& slot : node->slots.kept()) convertOldCode(slot);
+        for (CallbackSlot& slot : node->slots) convertOldCode(slot);
         for (MenuEntryRec& entry : node->entries)
-            for (CallbackSlot& slot : entry.slots.kept()) convertOldCode(slot);
+            for (CallbackSlot& slot : entry.slots) convertOldCode(slot);
     }
 }

@@ -60,8 +60,8 @@ struct CodeEditing {
     EditTarget target = EDIT_BLOCK;
     int widget = 0; // id of the record whose slots the working slots copy
     std::array<std::string, CODE_BLOCKS> blockCopies;
-    CodeSlots<WIDGET_SLOTS> workingSlots;           // of an entry: by entrySlotKinds
-    std::array<int, 26> caretStart = allOnes<26>(); // selection last seen, by list position
+    std::array<std::string, WIDGET_SLOTS> workingSlots; // of an entry: by entrySlotKinds
+    std::array<int, 26> caretStart = allOnes<26>();     // selection last seen, by list position
     std::array<int, 26> caretEnd = allOnes<26>();
     int listPosition = 2;
     bool codeModified = false;

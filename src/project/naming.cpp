@@ -112,9 +112,9 @@ void replaceIdentifier(std::string& code, const std::string& from, const std::st
 
 void replaceInCode(WidgetNode* first, const std::string& from, const std::string& to) {
     for (WidgetNode* node = first; node; node = walkList(node, first)) {
-        for (CallbackSlot& slot : node->slots.kept()) replaceIdentifier(slot, from, to);
+        for (CallbackSlot& slot : node->slots) replaceIdentifier(slot, from, to);
         for (MenuEntryRec& entry : node->entries)
-            for (CallbackSlot& slot : entry.slots.kept()) replaceIdentifier(slot, from, to);
+            for (CallbackSlot& slot : entry.slots) replaceIdentifier(slot, from, to);
     }
 }
 

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 // Dense, so that a table over the types is an array. Files know them by codes, see widget_types.h.
@@ -64,27 +63,6 @@ inline constexpr int CODE_BLOCKS = 9;
 // Code of a callback slot or a code block. The size that files store beside it is always its length plus 2.
 using CallbackSlot = std::string;
 using CodeBlock = std::string;
-
-// The slots of one record. Few records hold any code: those that hold none take no room for it.
-template <std::size_t N> class CodeSlots {
-public:
-    std::size_t size() const { return N; }
-    const CallbackSlot& operator[](std::size_t slot) const { return codes_.empty() ? NONE : codes_[slot]; }
-    CallbackSlot& operator[](std::size_t slot) { return all()[slot]; }
-    void set(std::size_t slot, CallbackSlot code) {
-        if (!code.empty() || !codes_.empty()) all()[slot] = std::move(code);
-    }
-    std::vector<CallbackSlot>& all() {
-        codes_.resize(N);
-        return codes_;
-    }
-    std::vector<CallbackSlot>& kept() { return codes_; } // all of them, or none where there is no code
-
-private:
-    static inline const CallbackSlot NONE;
-    std::vector<CallbackSlot> codes_; // N, or none while all are empty
-};
-
 inline int storedSize(const std::string& code) { return static_cast<int>(code.size()) + 2; }
 
 // The 18 slots of a widget in record order.
@@ -138,7 +116,7 @@ struct MenuEntryRec {
     int handle = 0;       // of the live entry; not stored
     int callbackId = 0;   // of the live entry; not stored
     int storedHandle = 0; // what the file held there, kept for the next save
-    CodeSlots<ENTRY_SLOTS> slots;
+    std::array<CallbackSlot, ENTRY_SLOTS> slots;
 };
 using TreeEntryRec = MenuEntryRec;
 
@@ -245,7 +223,7 @@ struct WidgetNode {
     std::string parentName;
     int formType = 0;
     std::vector<ListEntryRec> listEntries;
-    CodeSlots<WIDGET_SLOTS> slots;
+    std::array<CallbackSlot, WIDGET_SLOTS> slots;
     std::string bubbleHelp;
     int activeOnInit = 0;
     int yLabelsWidth = 0;

@@ -56,12 +56,10 @@ void readField(RecordSource& source, WidgetNode& node, const FieldRow& row) {
     }
 }
 
-CallbackSlot readSlot(FileReader& reader) {
-    CallbackSlot code;
+void readSlot(FileReader& reader, CallbackSlot& slot) {
     int size = 0;
     readNumber(reader, size);
-    readText(reader, code, size, SIZE_MAX);
-    return code;
+    readText(reader, slot, size, SIZE_MAX);
 }
 
 // What a record of an old version has to become. Each row runs on the whole record, in this order.
@@ -115,7 +113,7 @@ void readFields(RecordSource& source, WidgetNode& node) {
             takeAbsent(source, node, row);
     }
     for (const SlotPlace& place : slotFileOrder)
-        if (source.version >= place.since) node.slots.set(place.slot, readSlot(source.reader));
+        if (source.version >= place.since) readSlot(source.reader, node.slots[place.slot]);
     for (const Upgrade& upgrade : upgrades)
         if (source.version < upgrade.below) upgrade.apply(node);
     if (!node.name.empty() && node.type != TYPE_MAIN_PANEL) ++source.namedRecords;
@@ -147,7 +145,7 @@ void readEntry(RecordSource& source, MenuEntryRec& entry) {
     for (const EntryStringRow& row : entryStrings)
         if (source.version >= row.since) readString(source.reader, entry.*row.field);
     for (int i = 0; i < ENTRY_SLOTS; ++i)
-        if (source.version >= entrySlotSince[i]) entry.slots.set(i, readSlot(source.reader));
+        if (source.version >= entrySlotSince[i]) readSlot(source.reader, entry.slots[i]);
     for (const EntryNumberRow& row : entryNumbers) readNumber(source.reader, entry.*row.field);
 }
 

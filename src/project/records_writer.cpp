@@ -72,8 +72,7 @@ void writeStatusBar(FileWriter& writer, const StatusBarRec& bar) {
 
 void writeEntry(FileWriter& writer, const MenuEntryRec& entry) {
     for (const EntryStringRow& row : entryStrings) writeString(writer, entry.*row.field);
-    for (std::size_t i = 0; i < entry.slots.size(); ++i) {
-        const CallbackSlot& slot = entry.slots[i];
+    for (const CallbackSlot& slot : entry.slots) {
         const int size = codeSize(slot);
         writeEntrySize(writer, size);
         writeText(writer, slot, static_cast<std::size_t>(size));

@@ -341,7 +341,7 @@ TEST_F(Driver, MarkersAndBranchHeadsAreInTheSource) {
         readProjectScript(script);
         project.forms->formType = FORM_MASTER_SDI;
         WidgetNode* second = newForm();
-        for (CallbackSlot& slot : second->slots.all()) slot = "code";
+        for (CallbackSlot& slot : second->slots) slot = "code";
         for (CodeBlock& block : project.codeBlocks) block = "block";
         GeneratedText generated;
         ASSERT_TRUE(generateText("prog", generated));

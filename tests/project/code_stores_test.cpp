@@ -180,7 +180,7 @@ TEST(CodeStores, EntriesAreEditedInACopyAndWrittenBackByName) {
 
 TEST(CodeStores, ClearingEmptiesTheCopiesAndTheNextCommitTheStores) {
     WidgetNode* button = addRecord(freshProject()->child, TYPE_BUTTON, "Form1_Button1");
-    for (std::string& slot : button->slots.all()) slot = "code";
+    for (std::string& slot : button->slots) slot = "code";
     for (std::string& block : project.codeBlocks) block = "block";
     bindWidgetCode(*button);
     clearShownCode();
@@ -189,7 +189,7 @@ TEST(CodeStores, ClearingEmptiesTheCopiesAndTheNextCommitTheStores) {
     EXPECT_EQ(button->slots[SLOT_GENERAL], "code");
     clearAllCode();
     commitCode("", 1, 1);
-    for (const std::string& slot : button->slots.all()) EXPECT_EQ(slot, "");
+    for (const std::string& slot : button->slots) EXPECT_EQ(slot, "");
     for (const std::string& block : project.codeBlocks) EXPECT_EQ(block, "");
     freshProject();
 }

@@ -71,7 +71,7 @@ void fillProject() {
     addEntry(*project.forms, MENU_ENTRY, 0, "File", "Form1_File");
     for (MenuEntryRec& e : project.forms->entries) {
         e.help = e.icon1 = e.icon2 = e.icon3 = "x";
-        for (std::string& slot : e.slots.all()) slot = "a~b^c";
+        for (std::string& slot : e.slots) slot = "a~b^c";
     }
     addListEntry(*findName(project.forms, "Form1_List1", false), "row", "icon");
     for (CodeBlock& block : project.codeBlocks) block = "call~it^now";

@@ -99,7 +99,7 @@ struct Maker {
         n.text = text(chance(4) ? 3000 : 30);
         n.fieldWidth = static_cast<int>(n.text.size());
         if (n.type == TYPE_TEXT_ENTRY && chance(50)) n.fieldWidth = -n.fieldWidth; // it scrolls
-        for (std::string& slot : n.slots.all()) code(slot);
+        for (std::string& slot : n.slots) code(slot);
     }
 
     void sections(WidgetNode& n) {
@@ -119,7 +119,7 @@ struct Maker {
             for (int i = number(0, 5); i > 0; --i)
                 addEntry(n, number(MENU_PULL_DOWN, MENU_SEPARATOR), number(0, 3), text(9), n.name + std::to_string(i));
             for (MenuEntryRec& e : n.entries)
-                for (std::string& slot : e.slots.all()) code(slot);
+                for (std::string& slot : e.slots) code(slot);
         }
         if (n.type == TYPE_FORM && chance(60)) {
             n.statusBar = std::make_unique<StatusBarRec>();

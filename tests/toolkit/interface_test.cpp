@@ -24,7 +24,14 @@ const Declarations cOnly = {"int owEnqShiftKey(void)",
                             "int owEnqWidgetKeyCallback(int, int)",
                             "void owDefineInputCallback(int)",
                             "void owSetWindowInput(int)",
-                            "void owMarkTextLine(int, int)"};
+                            "void owMarkTextLine(int, int)",
+                            "void owShowCodeView(int, int, int)",
+                            "void owMarkTextFinding(int, int, int, int, int, const char*)",
+                            "int owEnqTextFindings(int)",
+                            "int owShowTextDocument(int, int)",
+                            "void owForgetTextDocuments(int)",
+                            "void owOfferWords(int, int, const char*, int)",
+                            "int owEnqWordsOffered(int)"};
 
 // A declaration by its types: parameters may bear any name.
 std::string typesOf(const std::string& declaration) {

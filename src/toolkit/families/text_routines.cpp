@@ -14,7 +14,16 @@ namespace {
 TextEntry& entryOf(const Arguments& call) { return *textEntryOf(widgetOf(call.integer(0))); }
 
 // What owEnqTextPos answers.
-enum TextPosition { lineOfPosition = 0, bytesBeforeLine = 1, lineLength = 2, lastPosition = 5, textLength = 6 };
+enum TextPosition {
+    lineOfPosition = 0,
+    bytesBeforeLine = 1,
+    lineLength = 2,
+    lastPosition = 5,
+    textLength = 6,
+    caretX = 7,
+    caretY = 8,
+    caretHeight = 9
+};
 
 // ------------------------------------------------------------------------------------------------ whole texts
 
@@ -83,6 +92,9 @@ Word enquirePosition(const Arguments& call) {
     case lineLength: return index.lineLength(index.lineOfPosition(given < 0 ? entry.caret() : given));
     case lastPosition: return entry.lastPosition();
     case textLength: return entry.textLength();
+    case caretX: return entry.caretPlace(given).left();
+    case caretY: return entry.caretPlace(given).top();
+    case caretHeight: return entry.caretPlace(given).height();
     default: return 0;
     }
 }

@@ -747,11 +747,28 @@ int owExtractWord(int text, int position, char* buffer, int length); /* position
 int owEnqTextLength(const char* string, ...);                   /* pixels; owFontFace, owPointSize, owBold, owItalic */
 int owEnqTextPos(int text, int property, ...);                  /* owPosition; 0 line of a position, 1 characters before
                                                                    a line, 2 length of the line that begins at a
-                                                                   position, 5 last position, 6 bytes of the text */
+                                                                   position, 5 last position, 6 bytes of the text,
+                                                                   7 and 8 x and y of a position and 9 the caret's
+                                                                   height, in pixels from the top left */
 void owEnqSelectedTextRange(int text, int* start, int* end, ...); /* owLength, owString: the text as well */
 void owSetSelectedTextRange(int text, int start, int end);      /* 1, 0 or 1, -1 all; 0, 0 nothing */
 void owEnqSelectedText(int text, char* buffer, int length);
 void owMarkTextLine(int text, int line);                        /* shades a line, from 1, until the text changes; 0: none */
+/* A text entry of many lines as an editor of code: line numbers, the current line, matching brackets, guides every
+ * `indent` blanks, Returns that indent. Ctrl with the wheel sends the callback with status 1 up and -1 down. There
+ * owMarkTextLine holds until the line is edited. */
+void owShowCodeView(int text, int indent, int zoomCallback);
+/* Underlines `length` characters, 0 for a word, at a line and column from 1, with words for a bubble and a mark beside
+ * the line, until it is edited. Line 0 takes all away. */
+void owMarkTextFinding(int text, int line, int column, int length, int error, const char* words);
+int owEnqTextFindings(int text);                                /* how many there are */
+/* Shows one of several texts of an entry, each with a history of its own; empty at first. 1 when it was there. */
+int owShowTextDocument(int text, int document);
+void owForgetTextDocuments(int text);                           /* all but the shown one, which is number 0 then */
+/* Offers words below the caret, one a line, a note behind a tab. `typed` characters ahead of the caret are the start
+ * of the word. `chosen` 1: Return takes the first one; no words: the list goes. */
+void owOfferWords(int text, int typed, const char* words, int chosen);
+int owEnqWordsOffered(int text);                                /* 1 while the list is there */
 int owFindText(int text, int start, const char* string, ...);   /* position of the match, 0 for none */
 int owFindTextDialogue(int text, char* buffer, int length);     /* 1 found; the string looked for comes back */
 int owReplaceTextDialogue(int text, char* buffer, int length);

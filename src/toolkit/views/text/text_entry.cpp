@@ -25,13 +25,19 @@ void dropHalfLetter(QLineEdit& line) {
 
 constexpr int plainMargin = 3; // pixels around the text of many lines
 
-// A text edit whose clipboard also speaks RTF.
+// A text edit whose clipboard also speaks RTF, with what an editor of code needs of it.
 class RichField : public QTextEdit {
 public:
     using QTextEdit::QTextEdit;
-    std::function<int()> room; // characters that may still be entered, -1 any number
+    std::function<int()> room;                 // characters that may still be entered, -1 any number
+    std::function<void(const QRect&)> painted; // behind the text
+    void keepLeft(int pixels) { setViewportMargins(pixels, 0, 0, 0); }
 
 protected:
+    void paintEvent(QPaintEvent* event) override {
+        QTextEdit::paintEvent(event);
+        if (painted) painted(event->rect());
+    }
     QMimeData* createMimeDataFromSelection() const override {
         QMimeData* data = QTextEdit::createMimeDataFromSelection();
         if (acceptRichText()) data->setData("text/rtf", writeRtf(textCursor()));
@@ -149,11 +155,21 @@ void TextEntry::makeEdit() {
     edit_->viewport()->installEventFilter(this);
     edit_->setAcceptRichText(rich());
     edit_->setTabChangesFocus(!rich());
-    connect(edit_->document(), &QTextDocument::contentsChange, this, [this] { forgetIndex(); });
+    followDocument();
     connect(edit_, &QTextEdit::textChanged, this, [this] { userChanged(); });
     connect(edit_, &QTextEdit::cursorPositionChanged, this, [this] { userMoved(); });
     connect(edit_, &QTextEdit::selectionChanged, this, [this] { userMoved(); });
     forgetIndex();
+}
+
+void TextEntry::makeCodeView() {
+    if (!edit_ || code_) return;
+    auto* field = static_cast<RichField*>(edit_.data());
+    edit_->setAcceptRichText(false); // what is pasted takes the code's font
+    code_ = new CodeView(edit_, [field](int pixels) { field->keepLeft(pixels); });
+    field->painted = [this](const QRect& area) {
+        if (code_) code_->paintOver(area);
+    };
 }
 
 // ------------------------------------------------------------------------------------------------- appearance
@@ -278,7 +294,7 @@ void TextEntry::userChanged() {
     // Colours of words are signalled like changes; then only the text itself tells.
     if (edit_ && (highlighter_ || options_.autoUrl) && std::exchange(coloured_, index().text()) == index().text())
         return;
-    markLine(0);
+    if (!code_) markLine(0);
     if (program_) return;
     changedSinceFocus_ = true;
     if (hooks_.changed) hooks_.changed();

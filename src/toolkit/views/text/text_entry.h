@@ -3,8 +3,10 @@
 #pragma once
 
 #include "toolkit/views/program_doing.h"
+#include "toolkit/views/text/code_view.h"
 #include "toolkit/views/text/syntax_highlighter.h"
 #include "toolkit/views/text/text_index.h"
+#include "toolkit/views/text/word_list.h"
 
 #include <QFrame>
 #include <QLineEdit>
@@ -89,7 +91,8 @@ public:
     int textLength() const; // bytes that text() gives, rich text as RTF where it was loaded as such
     std::string wordAt(int position, int& start) const;
     void scrollToCaret();
-    void markLine(int line); // shades it, counted from 1, until the text changes; 0: none
+    void markLine(int line);              // shades it, counted from 1, until the text changes; 0: none
+    QRect caretPlace(int position) const; // of a caret there, in pixels of the entry; below 1: of the caret itself
 
     bool canUndo() const;
     bool canRedo() const;
@@ -125,6 +128,16 @@ public:
     void freeze(bool on);
     bool frozen() const { return frozen_ > 0; }
 
+    // An editor of code: see CodeView. Pasted text comes plain. Null until it is one.
+    void makeCodeView();
+    CodeView* codeView() const { return code_; }
+    WordList* words(); // null for a single line
+
+    // One of several texts, each with a history of its own: shows it, empty at first. False when it is new. The text
+    // that was there before the first call is number 0. Of those not shown only the last ones are kept.
+    bool showDocument(int number);
+    void forgetDocuments(); // all but the shown one, which becomes number 0
+
     std::unique_ptr<QTextDocument> printable(int pointSize, bool selectionOnly) const; // a copy to print
 
 protected:
@@ -156,6 +169,7 @@ private:
     void mergeFormat(const QTextCharFormat& format);
     void forgetIndex() { indexed_ = false; }
     void clearFormats();
+    void followDocument();
 
     TextOptions options_;
     TextHooks hooks_;
@@ -163,7 +177,14 @@ private:
     QPointer<QLineEdit> line_;
     QPointer<QTextEdit> edit_;
     QPointer<SyntaxHighlighter> highlighter_;
-    QString coloured_; // the text at its last change, while words in it are coloured
+    QPointer<CodeView> code_;
+    QPointer<WordList> words_;
+    struct Document {
+        int number;
+        QTextDocument* document; // a child of the entry
+    };
+    QList<Document> documents_; // the shown one last, empty while there is but one text
+    QString coloured_;          // the text at its last change, while words in it are coloured
     int frozen_ = 0;
     bool focused_ = false;
     bool awaitsUser_ = false; // the focus came with the window; the user has not turned to the entry yet

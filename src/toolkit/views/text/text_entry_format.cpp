@@ -85,7 +85,7 @@ bool TextEntry::formatsWholeText() const {
 }
 
 void TextEntry::clearFormats() {
-    if (edit_->document()->allFormats().size() <= 3) return; // nothing was pasted in
+    if (code_ || edit_->document()->allFormats().size() <= 3) return; // nothing was pasted in
     const bool undoable = edit_->document()->isUndoRedoEnabled();
     edit_->document()->setUndoRedoEnabled(false);
     QTextCursor cursor(edit_->document());
@@ -227,6 +227,7 @@ bool TextEntry::save(const std::string& path) const {
 void TextEntry::setHighlighting(SyntaxLanguage language, std::function<QColor(int)> colour) {
     if (!edit_) return;
     const ProgramDoing::Mark mark(program_);
+    if (code_) code_->setLanguage(language);
     if (language == SyntaxLanguage::None) {
         delete std::exchange(highlighter_, nullptr).data(); // what it signals on its way finds it gone
         showLinks(*edit_->document(), options_.autoUrl);
@@ -272,6 +273,7 @@ std::unique_ptr<QTextDocument> TextEntry::printable(int pointSize, bool selectio
 
 void TextEntry::markLine(int line) {
     if (!edit_) return;
+    if (code_) return code_->markLine(line);
     QList<QTextEdit::ExtraSelection> marks;
     const QTextBlock block = edit_->document()->findBlockByNumber(line - 1);
     if (line > 0 && block.isValid()) {
