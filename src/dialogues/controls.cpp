@@ -10,6 +10,7 @@ constexpr int GAP = 4;       // pixels between controls
 constexpr double WIDEST = 4; // a larger factor would leave the screen
 constexpr int LIST_HEIGHT = 300;
 constexpr int LONG_TEXT = 32767;
+constexpr int NATIVE_BORDER = 0; // the desktop's own, as the other fields have it
 
 // Pixels that a control needs beside its text.
 int frameOf(Field field) {
@@ -138,9 +139,9 @@ int createControl(const Control& control, int parent, bool outermost, Scale scal
     const Frame at = frameOf(control, outermost, scale);
     switch (control.field) {
     case Field::Label: return createText(control, parent, at, LONG_TEXT, ODISPLAY, ONOBORDER);
-    case Field::Note: return createText(control, parent, at, LONG_TEXT, ODISPLAY, OBLACK3D);
-    case Field::Text: return createText(control, parent, at, -control.length, OEDIT, OBLACK3D);
-    case Field::Area: return createText(control, parent, at, control.length, OEDIT, OBLACK3D);
+    case Field::Note: return createText(control, parent, at, LONG_TEXT, ODISPLAY, NATIVE_BORDER);
+    case Field::Text: return createText(control, parent, at, -control.length, OEDIT, NATIVE_BORDER);
+    case Field::Area: return createText(control, parent, at, control.length, OEDIT, NATIVE_BORDER);
     case Field::Number: return createNumber(control, parent, at);
     case Field::Combo:
     case Field::Choice:

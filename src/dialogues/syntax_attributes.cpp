@@ -86,18 +86,30 @@ ORGBSTY fractionsOf(int colour) {
 
 constexpr int LIGHT_TEXT = 0x1FFFFFF, DARK_TEXT = 0x1000000;
 
+int trueColour(const ORGBSTY& rgb) {
+    const auto part = [](float fraction) { return static_cast<int>(std::lround(fraction * 255.0F)) & 255; };
+    return TRUE_COLOUR + (part(rgb.red) << 16) + (part(rgb.green) << 8) + part(rgb.blue);
+}
+
 // By how bright the eye takes the three parts.
-bool isDark(int colour) {
-    const ORGBSTY rgb = fractionsOf(colour);
-    return colour != 0 && 0.30F * rgb.red + 0.59F * rgb.green + 0.11F * rgb.blue < 0.5F;
+bool isDark(const ORGBSTY& rgb) { return 0.30F * rgb.red + 0.59F * rgb.green + 0.11F * rgb.blue < 0.5F; }
+
+// A colour that is made for a white page, on the desktop's own. 0 is the desktop's text.
+int readable(int colour) {
+    constexpr int PAGE = 18; // of the colour table
+    constexpr float KEPT = 0.45F;
+    ORGBSTY rgb = fractionsOf(colour);
+    if (colour == 0 || !isDark(fractionsOf(PAGE)) || !isDark(rgb)) return colour;
+    for (float* part : {&rgb.red, &rgb.green, &rgb.blue}) *part = 1.0F - (1.0F - *part) * KEPT;
+    return trueColour(rgb);
 }
 
 void showSample() {
     const SyntaxAttributes& shown = state.shown;
     const int sample = dialogue::widget(SYNTAX_SAMPLE);
-    const int onIt = isDark(shown.colour) ? LIGHT_TEXT : DARK_TEXT;
+    const int onIt = shown.colour == 0 ? 0 : isDark(fractionsOf(shown.colour)) ? LIGHT_TEXT : DARK_TEXT;
     owSetWidgetProp(dialogue::widget(SYNTAX_COLOUR), owOffCol, shown.colour, owOnCol, shown.colour, owTextCol, onIt, 0);
-    owSetWidgetProp(sample, owTextCol, shown.colour, 0);
+    owSetWidgetProp(sample, owTextCol, readable(shown.colour), 0);
     owSetFontAttribs(sample, owFontFace, shown.face.empty() ? "Courier New" : shown.face.c_str(), owPointSize,
                      preferences.codePointSize, owBold, shown.bold, owItalic, shown.italic, owUnderline,
                      shown.underline, owStrikeout, shown.strikeout, 0);
@@ -130,11 +142,6 @@ void fontChosen() {
 void styleSwitched() {
     for (const Style& style : STYLES) state.shown.*style.field = dialogue::isOn(style.id) ? 1 : 0;
     put();
-}
-
-int trueColour(const ORGBSTY& rgb) {
-    const auto part = [](float fraction) { return static_cast<int>(std::lround(fraction * 255.0F)) & 255; };
-    return TRUE_COLOUR + (part(rgb.red) << 16) + (part(rgb.green) << 8) + part(rgb.blue);
 }
 
 void changeColour() {

@@ -106,6 +106,35 @@ TEST_F(ProjectSettings, RowsAreTypedAndComeBackFromTheFile) {
     press(SETTINGS_CANCEL);
 }
 
+TEST_F(ProjectSettings, EscInARowGivesUpTheRowAlone) {
+    open();
+    owSelectProperty(list(), 1);
+    owSetActiveWidget(list());
+    settle();
+    key(0, Qt::Key_Return);
+    settle();
+    type(0, "half");
+    key(0, Qt::Key_Escape);
+    pump();
+    ASSERT_TRUE(dialogue::widget(SETTINGS_OK));
+    EXPECT_EQ(rowText(1), "");
+    key(0, Qt::Key_Escape);
+    pump();
+    EXPECT_FALSE(dialogue::widget(SETTINGS_OK));
+}
+
+TEST_F(ProjectSettings, ARowThatIsBeingTypedIsTakenByOk) {
+    open();
+    owSelectProperty(list(), 1);
+    owSetActiveWidget(list());
+    settle();
+    key(0, Qt::Key_Return);
+    settle();
+    type(0, file("a.f90").c_str());
+    press(SETTINGS_OK);
+    EXPECT_EQ(project.fileLists[LIST_SOURCES], (FileList{file("a.f90"), ""}));
+}
+
 TEST_F(ProjectSettings, CancelDropsEverything) {
     open();
     typeRow(1, file("a.f90"));

@@ -105,6 +105,34 @@ TEST_F(Defaults, EveryTypeHasItsRowsAndASampleThatFollows) {
     }
 }
 
+TEST_F(Defaults, KeysBelongToTheCellThatIsEdited) {
+    open();
+    showType(PUSH_BUTTON_ROW);
+    const auto editWidth = [this] {
+        owSelectProperty(propertyList(), owPropertyItemNumber(propertyList(), "Width"));
+        owSetActiveWidget(propertyList());
+        settle();
+        key(0, Qt::Key_Return);
+        settle();
+        key(0, Qt::Key_A, Qt::ControlModifier);
+        type(0, "44");
+    };
+    editWidth();
+    key(0, Qt::Key_Escape);
+    desk.run();
+    ASSERT_TRUE(dialogue::widget(DEFAULTS_OK)) << "Esc leaves the cell alone";
+    EXPECT_EQ(desk.property("Width"), "75");
+    editWidth();
+    key(0, Qt::Key_Return);
+    desk.run();
+    ASSERT_TRUE(dialogue::widget(DEFAULTS_OK)) << "Return takes the cell";
+    EXPECT_EQ(button().width, 44);
+    key(dialogue::widget(DEFAULTS_TYPES), Qt::Key_Escape);
+    desk.run();
+    EXPECT_FALSE(dialogue::widget(DEFAULTS_OK));
+    EXPECT_EQ(button().width, 75);
+}
+
 TEST_F(Defaults, AClickOnTheSampleChangesNothing) {
     WidgetNode* toggle = desk.place(PLACE_CHECK_BOX, desk.panel, 50, 60);
     const int status = toggle->initialStatus;

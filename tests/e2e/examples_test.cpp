@@ -2,6 +2,7 @@
 #include "desk.h"
 
 #include "examples/examples.h"
+#include "project/build_inputs.h"
 #include "project/files.h"
 #include "project/tree.h"
 #include "support/program_languages.h"
@@ -11,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
@@ -58,19 +60,59 @@ void leave(pid_t program, const std::string& example) {
 
 } // namespace
 
+namespace {
+
+// The stored project and the one that is open, once it has been through a file.
+void expectStored(const std::string& folder, const std::string& name, const std::function<void()>& make) {
+    ASSERT_TRUE(loadProject(folder, name));
+    const OwnedList stored = copyNode(project.forms, true);
+    const auto blocks = project.codeBlocks;
+    const BuildInputs inputs = buildInputs();
+    make();
+    const ScratchFolder scratch;
+    ASSERT_TRUE(saveProject(scratch.path, name, true));
+    ASSERT_TRUE(loadProject(scratch.path, name));
+    EXPECT_EQ(differences(stored.get(), project.forms), "") << name;
+    EXPECT_EQ(blocks, project.codeBlocks) << name;
+    EXPECT_TRUE(inputs == buildInputs()) << name;
+}
+
+} // namespace
+
 TEST(Examples, AreWhatTheirProgramWrites) {
-    for (const example::Row& row : example::examples) {
-        const std::string name = std::string(row.name) + ".wdp";
-        ASSERT_TRUE(loadProject(EXAMPLES + row.name, name));
-        const OwnedList stored = copyNode(project.forms, true);
-        const auto blocks = project.codeBlocks;
-        row.make();
-        const ScratchFolder folder;
-        ASSERT_TRUE(saveProject(folder.path, name, true));
-        ASSERT_TRUE(loadProject(folder.path, name));
-        EXPECT_EQ(differences(stored.get(), project.forms), "") << row.name;
-        EXPECT_EQ(blocks, project.codeBlocks) << row.name;
-    }
+    for (const example::Row& row : example::examples)
+        expectStored(EXAMPLES + row.name, std::string(row.name) + ".wdp", row.make);
+    for (const example::TemplateRow& row : example::templates)
+        for (const int language : {90, 99})
+            expectStored(ORBA_SOURCE_DIR "/data/templates",
+                         std::string(row.name) + (language == 99 ? "_c.wdp" : "_f90.wdp"), [&] { row.make(language); });
+}
+
+// Each template as it is, in both languages.
+TEST(BuildingTemplates, MakesProgramsThatRun) {
+    ASSERT_TRUE(desk::open());
+    for (const example::TemplateRow& row : example::templates)
+        for (const ProgramLanguage& language : {FORTRAN_90_PROGRAM, C_PROGRAM}) {
+            const std::string name = std::string(row.name) + (language.number == 99 ? "_c" : "_f90");
+            const std::string folder = desk::scratchFolder() + "/" + name;
+            fs::create_directories(folder);
+            const std::string script = "cd " + folder + " && ( cp " ORBA_SOURCE_DIR "/data/templates/" + name +
+                                       ".wdp . && " + makeCommand(language, name) + " ) > compile.log 2>&1";
+            ASSERT_EQ(std::system(script.c_str()), 0) << script;
+            const pid_t program = desk::start({"./" + name}, {}, folder, folder + "/run.log");
+            desk::settle(program);
+            desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/template_" + name + ".png");
+            if (std::string(row.name) == "calculator") {
+                desk::click(button(program, "+"));
+                desk::click(button(program, "Quit"));
+            } else if (std::string(row.name) == "tool") {
+                desk::click(desk::waitFor(program, "File", desk::ofKind("Action", desk::withText("File"))));
+                desk::click(desk::waitFor(program, "Quit", desk::ofKind("Action", desk::withText("Quit"))));
+            } else {
+                desk::click(button(program, "Cancel"));
+            }
+            EXPECT_EQ(desk::stop(program), 0) << name;
+        }
 }
 
 TEST(Examples, HeatRunsStopsAndTakesSettings) {
