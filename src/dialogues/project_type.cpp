@@ -332,7 +332,12 @@ void accept() {
         now != state.opened && agreed("Change Project Type", "Project is about to be converted to adopt requested "
                                                              "changes.||Are you sure you want to continue?");
     closeDialogue(TYPE_DIALOGUE);
-    if (goes) changeProject(now.type);
+    if (!goes) return;
+    // A file may hold counts that the dialogue has no room for: what nobody changed stays.
+    ProjectType type = now.type;
+    if (type.gridHoriz == state.opened.type.gridHoriz) type.gridHoriz = project.gridHoriz;
+    if (type.gridVert == state.opened.type.gridVert) type.gridVert = project.gridVert;
+    changeProject(type);
 }
 
 void cancel() { closeDialogue(TYPE_DIALOGUE); }

@@ -323,6 +323,20 @@ TEST_F(ProjectTypes, ChangingToXRemovesConvertsAndComesBackFromAFile) {
     EXPECT_EQ(commandStatus(CMD_TOOL_GAUGE), STATUS_DISABLED);
 }
 
+TEST_F(ProjectTypes, WhatTheDialogueCannotShowStays) {
+    project.projectLanguage = 77;
+    convertProject({.language = 77, .gridMode = 1, .gridHoriz = 160, .gridVert = 120});
+    openChange();
+    EXPECT_FALSE(dialogue::isOn(TYPE_F90));
+    EXPECT_FALSE(isShown(dialogue::widget(TYPE_F77)));
+    expect(SCALABLE, OK);
+    press(TYPE_SCALABLE);
+    expect(CONVERT, OK);
+    press(TYPE_OK);
+    const ProjectType expected = {.language = 77, .gridMode = 1, .gridHoriz = 160, .gridVert = 120, .scalable = 1};
+    EXPECT_TRUE(projectType() == expected) << records();
+}
+
 TEST_F(ProjectTypes, RefusedAtTheEndLeavesEveryRecord) {
     place(TOOL_GAUGE, 110, 200);
     openChange();

@@ -9,6 +9,7 @@
 #include "toolkit/frame/session.h"
 #include "toolkit/frame/windows.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -72,9 +73,19 @@ bool isFirstStation(const QObject* target) {
 // Typed characters that share a number with an arrow key are no key of the program's.
 bool namesTypedCharacter(int code, const QKeyEvent& event) { return isArrowCode(code) && !event.text().isEmpty(); }
 
-// What the key sends from `widget`: the innermost one that speaks of it decides, then the program's own keys.
-int identifierOf(const Widget& widget, int code) {
-    for (const Widget* one = &widget; one; one = one->parent) {
+// What is being edited in a cell of a list.
+bool editsCell(const QObject* target) {
+    const auto* viewport = target ? target->parent() : nullptr;
+    for (; viewport && viewport->isWidgetType(); viewport = viewport->parent())
+        if (const auto* view = qobject_cast<const QAbstractItemView*>(viewport->parent()))
+            return view->viewport() == viewport;
+    return false;
+}
+
+// What the key sends from `widget`: the innermost one that speaks of it decides, then the program's own keys. With
+// `alone` those around it are not asked.
+int identifierOf(const Widget& widget, int code, bool alone = false) {
+    for (const Widget* one = &widget; one; one = alone ? nullptr : one->parent) {
         const auto row = one->keys.find(code);
         if (row != one->keys.end()) return row.value() == OLEAVEKEY ? 0 : row.value();
     }
@@ -89,7 +100,8 @@ bool takeKey(QObject* target, const QKeyEvent& event) {
     if (boxIsOpen() || namesTypedCharacter(code, event) || !isFirstStation(target)) return false;
     const Widget* widget = widgetAt(target);
     if (!widget) return false;
-    if (const int identifier = identifierOf(*widget, code)) {
+    const bool endsCell = code == OKEYESC && editsCell(target); // and not what is around the list
+    if (const int identifier = identifierOf(*widget, code, endsCell)) {
         postIdentifier(identifier, widget->handle, code);
         return true;
     }
