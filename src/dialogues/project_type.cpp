@@ -137,7 +137,8 @@ std::string losses() {
 
 void fill() {
     const ProjectType type = projectType();
-    choose(LANGUAGES, type.language);
+    const bool refused = state.creating && type.language == LANGUAGE_F77; // no new project is in it
+    choose(LANGUAGES, refused ? static_cast<int>(LANGUAGE_F90) : type.language);
     choose(PLATFORMS, type.platform);
     choose(BUFFERING, type.doubleBuffering != 0);
     choose(GRID, type.gridMode != 0);

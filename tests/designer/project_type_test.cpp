@@ -157,6 +157,14 @@ TEST_F(ProjectTypes, ANewProjectCanBeginWithATemplate) {
     }
 }
 
+TEST_F(ProjectTypes, NoNewProjectIsInFixedForm) {
+    project.projectLanguage = 77;
+    openNew();
+    EXPECT_TRUE(dialogue::isOn(TYPE_F90));
+    press(TYPE_OK);
+    EXPECT_EQ(project.projectLanguage, 90);
+}
+
 TEST_F(ProjectTypes, ADamagedTemplateLeavesTheOpenProject) {
     folders.installDir = root.string();
     std::filesystem::copy(ORBA_SOURCE_DIR "/data/templates", root / "templates");
