@@ -13,6 +13,7 @@
 #include "surface/live.h"
 #include "surface/selection.h"
 #include "surface/state.h"
+#include "surface/window_states.h"
 
 #include <algorithm>
 #include <utility>
@@ -33,6 +34,7 @@ using Set = std::array<OwnedList, DEFAULT_RECORDS>;
 struct {
     int row = 0;                   // last used, from 0
     Set opened;                    // as the set was when the dialogue opened
+    bool paneHidden = false;       // the Properties pane, whose sheet the dialogue has
     WidgetNode* sampled = nullptr; // the record that has a live sample
 } state;
 
@@ -97,11 +99,24 @@ Set copyOfSet() {
     return copies;
 }
 
+// The pane of the sheet is away for as long as the dialogue has it.
+void hidePane() {
+    const int pane = windowStates[WINDOW_PROPERTIES].handle;
+    state.paneHidden = pane && owEnqWidgetStatus(pane) != OHIDDEN;
+    if (state.paneHidden) owSetWidgetStatus(pane, OHIDDEN);
+}
+
+void showPane() {
+    if (state.paneHidden) owSetWidgetStatus(windowStates[WINDOW_PROPERTIES].handle, OSELECTABLE);
+    state.paneHidden = false;
+}
+
 extern const Dialogue DEFAULTS_DIALOGUE;
 
 void close() {
     eraseSample();
     returnSheet();
+    showPane();
     design.defaultsMode = 0;
     closeDialogue(DEFAULTS_DIALOGUE);
     state.opened = {};
@@ -125,6 +140,7 @@ void fill() {
     state.opened = copyOfSet();
     design.defaultsMode = 1;
     lendSheet(dialogue::widget(DEFAULTS_SHEET), edited);
+    hidePane();
     std::vector<std::string> labels;
     for (const WidgetType type : ROWS) labels.emplace_back(cardOf(type).label);
     dialogue::setRows(DEFAULTS_TYPES, labels);
@@ -214,5 +230,9 @@ constexpr Command COMMANDS[] = {
 // clang-format on
 
 } // namespace
+
+void leaveWidgetDefaults() {
+    if (isOpen(DEFAULTS_DIALOGUE)) cancel();
+}
 
 std::span<const Command> defaultsCommands() { return COMMANDS; }

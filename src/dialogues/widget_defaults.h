@@ -13,3 +13,5 @@ enum WidgetDefaultsId : int {
     DEFAULTS_SAVE_AS = 15106,
     DEFAULTS_WINDOW = 15507,
 };
+
+void leaveWidgetDefaults(); // as Cancel does, if the dialogue is open: the program is about to end

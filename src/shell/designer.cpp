@@ -4,6 +4,7 @@
 #include "compile/catalogue.h"
 #include "compile/execute.h"
 #include "dialogues/frame.h"
+#include "dialogues/widget_defaults.h"
 #include "editing/modes.h"
 #include "editing/syntax.h"
 #include "menu-c.h"
@@ -133,6 +134,7 @@ void runActionLoop() {
 // ---- The end --------------------------------------------------------------------------------------------------
 
 void endDesigner() {
+    leaveWidgetDefaults(); // gives the sheet its pane back
     forgetDialogues();
     saveWindowStates();
     closeProject();

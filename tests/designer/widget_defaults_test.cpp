@@ -14,6 +14,8 @@
 #include "project/widget_types.h"
 #include "properties/sheet.h"
 #include "settings/places.h"
+#include "shell/command_states.h"
+#include "surface/window_states.h"
 #include "toolkit/testing/robot.h"
 
 #include <algorithm>
@@ -103,6 +105,38 @@ TEST_F(Defaults, EveryTypeHasItsRowsAndASampleThatFollows) {
         EXPECT_TRUE(reports().empty());
         for (const OwnedList& record : defaultRecords) EXPECT_EQ(record->handle, 0);
     }
+}
+
+TEST_F(Defaults, ThePaneOfTheSheetIsAwayMeanwhileAndComesBackAsItWas) {
+    const int pane = windowStates[WINDOW_PROPERTIES].handle;
+    const int view = commandWidget(CMD_VIEW_PROPERTIES, CommandWidget::MenuEntry);
+    for (const bool shown : {true, false}) {
+        if (!shown) choose(view);
+        desk.run();
+        ASSERT_EQ(isShown(pane), shown);
+        const QRect before = rectOf(pane);
+        open();
+        EXPECT_FALSE(isShown(pane));
+        EXPECT_EQ(commandStatus(CMD_VIEW_PROPERTIES), shown ? STATUS_PRESSED : STATUS_ENABLED);
+        press(DEFAULTS_CANCEL);
+        EXPECT_EQ(isShown(pane), shown);
+        if (shown) {
+            EXPECT_EQ(rectOf(pane).width(), before.width());
+        }
+    }
+}
+
+TEST_F(Defaults, TheProgramEndsWithTheDialogueOpen) {
+    open();
+    showType(PUSH_BUTTON_ROW);
+    desk.setProperty("Width", "131");
+    desk.session.end();
+    desk.session.start();
+    EXPECT_TRUE(isShown(windowStates[WINDOW_PROPERTIES].handle));
+    EXPECT_EQ(button().width, 75);
+    open();
+    showType(SLIDER_ROW);
+    press(DEFAULTS_OK);
 }
 
 TEST_F(Defaults, KeysBelongToTheCellThatIsEdited) {
