@@ -102,8 +102,15 @@ enum CodeBlockIndex : int {
     BLOCK_USER_ROUTINES,
 };
 
+// The live side of an entry. Records are equal that hold the same, whatever stands for them on the screen.
+struct LiveEntry {
+    int handle = 0;     // of the live entry; not stored
+    int callbackId = 0; // of the live entry; not stored
+    bool operator==(const LiveEntry&) const { return true; }
+};
+
 // One entry of a form's menu or of a tree view. Their row is flat: `level` alone tells the nesting.
-struct MenuEntryRec {
+struct MenuEntryRec : LiveEntry {
     std::string label;
     std::string name;
     std::string help;
@@ -113,10 +120,9 @@ struct MenuEntryRec {
     int accel = 0;
     int kind = 0;         // MenuKind
     int level = 0;        // 0 at the top
-    int handle = 0;       // of the live entry; not stored
-    int callbackId = 0;   // of the live entry; not stored
     int storedHandle = 0; // what the file held there, kept for the next save
     std::array<CallbackSlot, ENTRY_SLOTS> slots;
+    bool operator==(const MenuEntryRec&) const = default;
 };
 using TreeEntryRec = MenuEntryRec;
 
@@ -124,16 +130,21 @@ using TreeEntryRec = MenuEntryRec;
 struct ListEntryRec {
     std::string text;
     std::string icon; // empty for none
+    bool operator==(const ListEntryRec&) const = default;
 };
 
 // The status bar of a form.
-struct StatusBarRec {
-    int handle = 0;                        // live; not stored
+struct LiveStatusBar {
+    int handle = 0; // not stored
+    bool operator==(const LiveStatusBar&) const { return true; }
+};
+struct StatusBarRec : LiveStatusBar {
     int storedHandle = 0;                  // what the file held there, kept for the next save
     int panes = 0;                         // panes in use, at most STATUS_PANES
     std::array<int, STATUS_PANES> sizes{}; // running right edge in pixels, -1 for the pane that takes the rest
     std::array<std::string, STATUS_PANES> texts;
     std::string name; // in the name space of the widgets
+    bool operator==(const StatusBarRec&) const = default;
 };
 
 // The status bar of a record: owned, copied deep with it.
@@ -151,22 +162,49 @@ struct StatusBarPtr : std::unique_ptr<StatusBarRec> {
     }
     StatusBarPtr& operator=(StatusBarPtr&&) noexcept = default;
     ~StatusBarPtr() = default;
+    bool operator==(const StatusBarPtr& other) const {
+        return get() == other.get() || (get() && other.get() && *get() == *other.get());
+    }
+};
+
+struct WidgetNode;
+
+// Where a record hangs in the tree, and what stands for it on the screen. Records are equal that hold the same,
+// wherever they hang and whatever shows them.
+struct WidgetLinks {
+    WidgetNode* child = nullptr;
+    WidgetNode* next = nullptr;
+    // Kept by tree.h; not for others to write.
+    WidgetNode* parent = nullptr;    // record that holds it; null for forms and detached records
+    WidgetNode* lastChild = nullptr; // where linkChild goes on
+    std::size_t indexedName = 0;     // key under which the index holds it, 0 for none
+    int indexedHandle = 0;           // the same of its handle
+    bool inProject = false;          // hangs in the tree of project.forms
+    int id = 0;                      // of a record that was ever in a project, unique in the session; copies have none
+
+    int handle = 0;           // of the live widget; set with setHandle so that the index follows
+    int parentHandle = 0;     // live handle of the parent; not stored
+    int designSelectId = 0;   // live: handle + OIDENT
+    int designCallbackId = 0; // live: handle
+    int formCallbackId = 0;   // live; not stored
+    int hierarchyItem = 0;    // row of the hierarchy window
+    int selected = 0;         // 1 on the current widget
+    int formHidden = 0;       // stored, but no edit: it tells what is on the screen
+    bool operator==(const WidgetLinks&) const { return true; }
 };
 
 // One form or widget. Which generic field means what depends on `type`. A record owns what it points to except the
 // `child` and `next` chains, which belong to the tree. Whoever remembers a record beyond one event remembers its id.
-struct WidgetNode {
+struct WidgetNode : WidgetLinks {
     std::string name;                  // variable name in generated source, unique in the project
-    int selected = 0;                  // 1 on the current widget
     std::vector<MenuEntryRec> entries; // form: menu; tree view: its entries
     WidgetType type = TYPE_NONE;
-    int unknownCode = 0;  // of an unknown type, as its file has it
-    int parentHandle = 0; // live handle of the parent; not stored
-    int reserved = 0;     // kept through load and save; nothing reads it
-    int hpos = 0;         // -1 left, 0 centre, 1 right
-    int vpos = 0;         // -1 bottom, 0 middle, 1 top
-    int xpos = 0;         // of the origin point in the parent; cells in grid mode, else pixels
-    int ypos = 0;         // upward from the parent's bottom
+    int unknownCode = 0; // of an unknown type, as its file has it
+    int reserved = 0;    // kept through load and save; nothing reads it
+    int hpos = 0;        // -1 left, 0 centre, 1 right
+    int vpos = 0;        // -1 bottom, 0 middle, 1 top
+    int xpos = 0;        // of the origin point in the parent; cells in grid mode, else pixels
+    int ypos = 0;        // upward from the parent's bottom
     int width = 0;
     int height = 0;
     int expand = 0; // 0 off, 1 on, 2 to 24 an expansion code
@@ -195,29 +233,15 @@ struct WidgetNode {
     int columns = 0;
     int rows = 0;
     int iconId = 0;
-    int designSelectId = 0;   // live: handle + OIDENT
-    int designCallbackId = 0; // live: handle
     float xMin = 0;
     float xMax = 0;
     float yMin = 0;
     float yMax = 0;
-    std::string text;       // title, label or initial text, at most TEXT_LIMIT
-    int formCallbackId = 0; // live; not stored
+    std::string text; // title, label or initial text, at most TEXT_LIMIT
     // Live numbers mean nothing in a file. What stood there when the record was read is kept, so that a project that is
     // only opened and saved stays the same file; 0 in a record that was made here.
     int storedParentHandle = 0;
     int storedFormCallbackId = 0;
-    WidgetNode* child = nullptr;
-    WidgetNode* next = nullptr;
-    // Kept by tree.h; not for others to write.
-    WidgetNode* parent = nullptr;    // record that holds it; null for forms and detached records
-    WidgetNode* lastChild = nullptr; // where linkChild goes on
-    std::size_t indexedName = 0;     // key under which the index holds it, 0 for none
-    int indexedHandle = 0;           // the same of its handle
-    bool inProject = false;          // hangs in the tree of project.forms
-    int id = 0;                      // of a record that was ever in a project, unique in the session; copies have none
-
-    int handle = 0; // of the live widget; set with setHandle so that the index follows
     std::string icon;
     std::string backgroundImage;
     std::string parentName;
@@ -241,7 +265,6 @@ struct WidgetNode {
     int initialState = 0;
     int scrollMode = 0;
     int dragMode = 0;
-    int hierarchyItem = 0; // row of the hierarchy window
     int topTicks = 0;
     int bottomTicks = 0;
     int accessMode = 0;
@@ -261,11 +284,11 @@ struct WidgetNode {
     int cellBackground = 0;
     int cellBorder = 0;
     int readOnly = 0;
-    int formHidden = 0;
     int autoUrl = 0;
     int tabAction = 1;
     int tabList = 1;
     int buildInfo = 1; // not stored
+    bool operator==(const WidgetNode&) const = default;
 };
 
 // One next-number counter per word that default names carry. Two types can share one.
@@ -310,7 +333,6 @@ using FileList = std::vector<std::string>;
 
 enum FileListIndex : int { LIST_SOURCES, LIST_OBJECTS, LIST_LIBRARIES, LIST_MODULES, FILE_LISTS };
 
-// The open project. One instance, `project`; the model writes it, everybody reads it.
 // A source that the project's file names and that is not there. The project goes without one until another is chosen;
 // the file keeps the name, for the source may come back.
 struct MissingSource {
@@ -319,16 +341,13 @@ struct MissingSource {
     int stale = 1;
 };
 
-struct ProjectState {
-    WidgetNode* forms = nullptr;
-    WidgetNode* currentWidget = nullptr; // shown in the property sheet; null when nothing is selected
-    int projectLanguage = 90;            // 77, 90 or 99 (C)
-    char projectPlatform = 'w';          // 'w' Windows, 'x' X-Windows, 'g' GLX-Windows
+// What the user chooses for the project as a whole, beside its records.
+struct ProjectSettings {
+    int projectLanguage = 90;   // 77, 90 or 99 (C)
+    char projectPlatform = 'w'; // 'w' Windows, 'x' X-Windows, 'g' GLX-Windows
     int doubleBuffering = 0;
     int gridHoriz = 36;
     int gridVert = 27;
-    int gridPixelX = 22; // pixels of one cell
-    int gridPixelY = 22;
     int gridMode = 0;
     int scalable = 0;
     int snapOn = 1;
@@ -337,14 +356,24 @@ struct ProjectState {
     std::array<int, COUNTERS> counters = allOnes<COUNTERS>(); // next number per widget word, by Counter
     int nextFormX = 200;
     int nextFormY = 132;
-    int widgetCount = 0; // named records; main panels do not count
-    int projectModified = 0;
-    int sourceStale = 1;
     int customSwitches = 0;
     std::string compilerSwitches;
     std::string linkerSwitches;
     std::array<FileList, FILE_LISTS> fileLists; // by FileListIndex: sources, objects, libraries, module directories
-    std::vector<std::int64_t> sourceFileTimes;  // 100 ns since 1601, one per row of the sources
+    std::array<CodeBlock, CODE_BLOCKS> codeBlocks;
+    bool operator==(const ProjectSettings&) const = default;
+};
+
+// The open project. One instance, `project`; the model writes it, everybody reads it.
+struct ProjectState : ProjectSettings {
+    WidgetNode* forms = nullptr;
+    WidgetNode* currentWidget = nullptr; // shown in the property sheet; null when nothing is selected
+    int gridPixelX = 22;                 // pixels of one cell
+    int gridPixelY = 22;
+    int widgetCount = 0; // named records; main panels do not count
+    int projectModified = 0;
+    int sourceStale = 1;
+    std::vector<std::int64_t> sourceFileTimes; // 100 ns since 1601, one per row of the sources
     std::string sourceDir;
     std::string sourceName;
     std::string storedSource; // path of the source that the project's file names, whether or not it is there
@@ -356,7 +385,6 @@ struct ProjectState {
     std::string formFileDir;  // its folder
     std::string damagedFile;  // full path of the file that the project was read from, if it was incomplete
     std::int64_t exeTime = 0; // of the executable at the last link
-    std::array<CodeBlock, CODE_BLOCKS> codeBlocks;
     std::string currentBlockName = "General Callback"; // at most 50 characters
     int fileVersion = 80;                              // of the file being read, times ten
 };

@@ -39,8 +39,7 @@ void writeSlot(FileWriter& writer, const CallbackSlot& slot) {
 
 void writeFields(FileWriter& writer, WidgetNode& node) {
     node.text.resize(cutBetweenLetters(node.text, TEXT_LIMIT).size());
-    // Of the other types it is the length of the text.
-    if (!is(node, USERS_FIELD_WIDTH)) node.fieldWidth = static_cast<int>(node.text.size());
+    deriveFieldWidth(node);
     for (const FieldRow& row : recordFields()) writeField(writer, node, row);
     for (const SlotPlace& place : slotFileOrder) writeSlot(writer, node.slots[place.slot]);
 }

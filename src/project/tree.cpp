@@ -321,11 +321,17 @@ void adoptForms(OwnedList first) {
 
 void moveFormToHead(WidgetNode* form) {
     if (project.forms == form) return;
-    OwnedList moved = unlinkNode(form);
-    moved->next = project.forms;
-    if (!project.forms) lastForm = form;
-    project.forms = moved.release();
+    linkFormAfter(nullptr, unlinkNode(form));
+}
+
+WidgetNode* linkFormAfter(WidgetNode* previous, OwnedList owned) {
+    WidgetNode* form = owned.release();
+    WidgetNode*& link = previous ? previous->next : project.forms;
+    form->next = link;
+    link = form;
+    if (!form->next) lastForm = form;
     setInProject(*form, true);
+    return form;
 }
 
 WidgetNode* linkChild(WidgetNode& parent, OwnedList owned) {
@@ -406,4 +412,8 @@ void deleteList(WidgetNode* node) {
             lastForm = previous;
     }
     freeAll(node, true);
+}
+
+void deriveFieldWidth(WidgetNode& node) {
+    if (!is(node, USERS_FIELD_WIDTH)) node.fieldWidth = static_cast<int>(node.text.size());
 }

@@ -55,6 +55,8 @@ WidgetNode* previousOf(const WidgetNode& node);                  // the sibling 
 WidgetNode* appendForm(OwnedList form);
 void adoptForms(OwnedList first);                          // the same with a whole chain
 void moveFormToHead(WidgetNode* form);                     // of project.forms
+// Puts a form right behind another, or ahead of them all for null.
+WidgetNode* linkFormAfter(WidgetNode* previous, OwnedList form);
 WidgetNode* linkChild(WidgetNode& parent, OwnedList node); // behind the last child
 // Puts `node` right behind `previous` among the children of `parent`, or ahead of them all for null.
 WidgetNode* linkChildAfter(WidgetNode& parent, WidgetNode* previous, OwnedList node);
@@ -83,6 +85,9 @@ void recountCounters();
 
 // Resource name of a path: its last component, blanks as underscores, cut at the first point.
 std::string resourceName(std::string_view path);
+
+// The field width of a type where the user has none to choose is the length of its text.
+void deriveFieldWidth(WidgetNode& node);
 
 // Tells the host the project's grid and takes the pixels of a cell from it. While gridMode is 0 the default grid is in
 // force.
