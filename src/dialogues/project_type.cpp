@@ -293,7 +293,6 @@ void takeFormsDown() {
     dropSelection();
     eraseForms(project.forms);
     project.currentWidget = nullptr;
-    design.undo = {};
     hooks.showProperties(nullptr);
     hooks.bindCode(nullptr);
 }

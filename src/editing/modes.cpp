@@ -11,9 +11,9 @@ namespace {
 
 bool textMode = false;
 
-// Both histories have to be asked again after a change of mode.
+// The history of the text has to be asked again after a change of mode.
 void disableUndo() {
-    for (const int command : std::initializer_list<int>{CMD_UNDO, CMD_REDO, CMD_TEXT_UNDO, CMD_TEXT_REDO})
+    for (const int command : {CMD_TEXT_UNDO, CMD_TEXT_REDO})
         hooks.commandStatus(command, OUNSELECTABLE);
 }
 

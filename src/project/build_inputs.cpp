@@ -36,5 +36,5 @@ void setBuildInputs(const BuildInputs& inputs) {
     project.linkerSwitches = given.linkerSwitches;
     const bool noRows = std::ranges::all_of(project.fileLists, [](const FileList& list) { return list.size() <= 1; });
     project.customSwitches = noRows && given.compilerSwitches.empty() && given.linkerSwitches.empty() ? 0 : 1;
-    project.projectModified = project.sourceStale = 1;
+    markProjectChanged();
 }

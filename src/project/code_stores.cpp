@@ -198,7 +198,7 @@ void commitCode(const std::string& text, int caretStart, int caretEnd) {
     codeEditing.caretEnd[static_cast<std::size_t>(position)] = caretEnd;
     project.codeBlocks = codeEditing.blockCopies;
     codeEditing.codeModified = false;
-    project.projectModified = project.sourceStale = 1;
+    markProjectChanged();
 }
 
 void clearShownCode() {

@@ -168,7 +168,7 @@ void convertProject(const ProjectType& wanted) {
     setProjectLanguage(wanted.language);
     if (newGrid) convertGrid(wanted);
     project.scalable = wanted.scalable;
-    project.projectModified = project.sourceStale = 1;
+    markProjectChanged();
 }
 
 void setProjectLanguage(int language) {

@@ -91,6 +91,6 @@ bool changeFormType(WidgetNode& form, int formType) {
         form.parentName = "NONE";
         takeOver(form);
     }
-    project.projectModified = project.sourceStale = 1;
+    markProjectChanged();
     return true;
 }

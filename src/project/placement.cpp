@@ -90,7 +90,6 @@ bool refuse(const char* title, const char* text) {
     return false;
 }
 
-void markProjectChanged() { project.projectModified = project.sourceStale = 1; }
 
 // A radio box takes toggles that are radio buttons from the start.
 bool takes(const WidgetNode& parent, const ToolRow& tool) {

@@ -165,6 +165,7 @@ struct StatusBarPtr : std::unique_ptr<StatusBarRec> {
     bool operator==(const StatusBarPtr& other) const {
         return get() == other.get() || (get() && other.get() && *get() == *other.get());
     }
+    bool operator==(std::nullptr_t) const { return !get(); }
 };
 
 struct WidgetNode;
@@ -342,7 +343,7 @@ struct MissingSource {
 };
 
 // What the user chooses for the project as a whole, beside its records.
-struct ProjectSettings {
+struct ProjectOptions {
     int projectLanguage = 90;   // 77, 90 or 99 (C)
     char projectPlatform = 'w'; // 'w' Windows, 'x' X-Windows, 'g' GLX-Windows
     int doubleBuffering = 0;
@@ -361,17 +362,18 @@ struct ProjectSettings {
     std::string linkerSwitches;
     std::array<FileList, FILE_LISTS> fileLists; // by FileListIndex: sources, objects, libraries, module directories
     std::array<CodeBlock, CODE_BLOCKS> codeBlocks;
-    bool operator==(const ProjectSettings&) const = default;
+    bool operator==(const ProjectOptions&) const = default;
 };
 
 // The open project. One instance, `project`; the model writes it, everybody reads it.
-struct ProjectState : ProjectSettings {
+struct ProjectState : ProjectOptions {
     WidgetNode* forms = nullptr;
     WidgetNode* currentWidget = nullptr; // shown in the property sheet; null when nothing is selected
     int gridPixelX = 22;                 // pixels of one cell
     int gridPixelY = 22;
     int widgetCount = 0; // named records; main panels do not count
     int projectModified = 0;
+    int edits = 0; // made in this session: what differs from the count seen last was changed since
     int sourceStale = 1;
     std::vector<std::int64_t> sourceFileTimes; // 100 ns since 1601, one per row of the sources
     std::string sourceDir;
@@ -390,6 +392,12 @@ struct ProjectState : ProjectSettings {
 };
 
 extern ProjectState project;
+
+// Every change of the project ends here: it has to be saved, and its source generated again.
+inline void markProjectChanged() {
+    project.projectModified = project.sourceStale = 1;
+    project.edits++;
+}
 
 // Switches of the compiler in force, that an empty project starts with. The build room sets them.
 struct SwitchDefaults {

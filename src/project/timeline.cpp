@@ -20,7 +20,7 @@ struct Timeline {
     // The project at the last step.
     std::unordered_map<int, Image> images;
     std::vector<int> order; // ids in a walk over the tree
-    std::shared_ptr<const ProjectSettings> settings;
+    std::shared_ptr<const ProjectOptions> settings;
 
     std::string label, merge; // of the edit that is being made
 } timeline;
@@ -39,7 +39,7 @@ std::size_t bytesOf(const WidgetNode& node) {
     return bytes;
 }
 
-std::size_t bytesOf(const ProjectSettings& settings) {
+std::size_t bytesOf(const ProjectOptions& settings) {
     std::size_t bytes = sizeof settings;
     for (const CodeBlock& block : settings.codeBlocks) bytes += bytesOf(block);
     return bytes;
@@ -208,20 +208,18 @@ OwnedList madeAnew(int id, const WidgetNode& image) {
 }
 
 void apply(const TimelineStep& step, const Direction& direction) {
+    std::unordered_map<int, WidgetNode*> nodes; // found before any is unlinked, for what hangs below it is out as well
+    for (const RecordChange& change : step.records)
+        if (WidgetNode* node = findRecord(change.id)) nodes[change.id] = node;
     std::unordered_map<int, OwnedList> loose;
+    for (const RecordChange& change : step.records)
+        if (changesPlace(change) && nodes.contains(change.id)) loose[change.id] = unlinkNode(nodes[change.id]);
     std::vector<const RecordChange*> hanging;
-    for (const RecordChange& change : step.records) {
-        WidgetNode* node = findRecord(change.id);
-        if (changesPlace(change) && node) loose[change.id] = unlinkNode(node);
-    }
     for (const RecordChange& change : step.records) {
         const Image& target = change.*direction.to;
         if (!target) continue;
-        const auto held = loose.find(change.id);
-        if (held != loose.end())
+        if (const auto held = nodes.find(change.id); held != nodes.end())
             write(*held->second, target->fields);
-        else if (WidgetNode* node = findRecord(change.id))
-            write(*node, target->fields);
         else
             loose[change.id] = madeAnew(change.id, target->fields);
         if (changesPlace(change)) hanging.push_back(&change);
@@ -247,7 +245,7 @@ void take(const TimelineStep& step, const Direction& direction) {
         timeline.order.push_back(node->id);
     const auto& settings = direction.to == &RecordChange::before ? step.settingsBefore : step.settingsAfter;
     if (!settings) return;
-    static_cast<ProjectSettings&>(project) = *settings;
+    static_cast<ProjectOptions&>(project) = *settings;
     timeline.settings = settings;
 }
 
@@ -264,7 +262,7 @@ void startTimeline() {
     const std::vector<RecordChange> all = changedRecords(order);
     takeImages(all, &RecordChange::after);
     timeline.order = std::move(order);
-    timeline.settings = std::make_shared<ProjectSettings>(project);
+    timeline.settings = std::make_shared<ProjectOptions>(project);
 }
 
 void nameStep(const std::string& label, const std::string& merge) {
@@ -278,9 +276,9 @@ bool recordStep() {
     step.merge = std::exchange(timeline.merge, {});
     std::vector<int> order;
     step.records = changedRecords(order);
-    if (*timeline.settings != static_cast<const ProjectSettings&>(project)) {
+    if (*timeline.settings != static_cast<const ProjectOptions&>(project)) {
         step.settingsBefore = timeline.settings;
-        step.settingsAfter = timeline.settings = std::make_shared<ProjectSettings>(project);
+        step.settingsAfter = timeline.settings = std::make_shared<ProjectOptions>(project);
     }
     if (step.records.empty() && !step.settingsBefore) return false;
     takeImages(step.records, &RecordChange::after);

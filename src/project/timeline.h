@@ -30,7 +30,7 @@ struct TimelineStep {
     std::string label; // "Move Form1_Button1"
     std::string merge; // steps of the same one become one step; empty: it stays one of its own
     std::vector<RecordChange> records;
-    std::shared_ptr<const ProjectSettings> settingsBefore, settingsAfter; // null: they are the same
+    std::shared_ptr<const ProjectOptions> settingsBefore, settingsAfter; // null: they are the same
     std::size_t bytes = 0;
 };
 

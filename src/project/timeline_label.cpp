@@ -43,7 +43,7 @@ const char* wordOf(const RecordChange& change) {
     return "Change";
 }
 
-std::string codeBlockLabel(const ProjectSettings& before, const ProjectSettings& after) {
+std::string codeBlockLabel(const ProjectOptions& before, const ProjectOptions& after) {
     for (int block = 0; block < CODE_BLOCKS; block++)
         if (before.codeBlocks[block] != after.codeBlocks[block])
             return std::string("Code of ") + codeBlockTable[block].name;

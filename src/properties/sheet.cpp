@@ -3,6 +3,7 @@
 
 #include "menu-c.h"
 #include "project/preferences.h"
+#include "project/timeline.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
 #include "properties/commands.h"
@@ -411,6 +412,8 @@ void propertyChangedCommand() {
     WidgetNode* widget = sheet.widget;
     for (const Change& change : takeChanges()) {
         sheet.label = propertyRow(change.id).label;
+        nameStep(sheet.label + " of " + widget->name,
+                 "cell " + std::to_string(widget->id) + " " + std::to_string(static_cast<int>(change.id)));
         applyChange(*widget, propertyRow(change.id), change.input);
         if (sheet.widget != widget) break;
     }

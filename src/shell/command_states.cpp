@@ -3,6 +3,7 @@
 #include "menu-c.h"
 #include "project/preferences.h"
 #include "project/records.h"
+#include "project/timeline.h"
 #include "shell/command_table.h"
 #include "shell/keys.h"
 
@@ -170,7 +171,16 @@ void refreshCommands() {
 
 namespace {
 
+// "Undo Move Form1_Button1" while there is such a step.
+std::string stepLabel(const ModeTwin& twin, const TimelineStep* step) {
+    const std::string label = twin.designLabel;
+    if (!step) return label;
+    return label.substr(0, label.find(' ')) + " " + step->label + label.substr(label.find('|'));
+}
+
 std::string designLabel(const ModeTwin& twin) {
+    if (twin.design == CMD_UNDO) return stepLabel(twin, stepToUndo());
+    if (twin.design == CMD_REDO) return stepLabel(twin, stepToRedo());
     const std::string label = twin.designLabel;
     const bool keyIsFree = twin.design == CMD_DELETE && !preferences.delDeletes;
     return keyIsFree ? label.substr(0, label.find('|')) : label;
@@ -197,6 +207,12 @@ void setInputMode(bool text) {
     modeInstalled = true;
     if (changed) return refreshInputMode();
     refreshCommands();
+}
+
+void showStepLabels() {
+    if (textMode || !modeInstalled) return;
+    for (const ModeTwin& twin : TWINS)
+        if (twin.design == CMD_UNDO || twin.design == CMD_REDO) setCommandLabel(twin.design, designLabel(twin));
 }
 
 bool textModeInForce() { return textMode; }

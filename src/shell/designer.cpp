@@ -30,6 +30,7 @@
 #include "surface/live.h"
 #include "surface/selection.h"
 #include "surface/state.h"
+#include "surface/undo.h"
 #include "surface/window_states.h"
 
 // ---- Start-up -------------------------------------------------------------------------------------------------
@@ -121,6 +122,7 @@ void handleEvent(int callback) {
     runCommand(callback);
     designEvent(callback);
     giveInputBackAfter(callback);
+    noteEdit();
 }
 
 void runActionLoop() {

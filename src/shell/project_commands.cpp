@@ -21,9 +21,11 @@
 #include "shell/menus.h"
 #include "shell/saving.h"
 #include "shell/window_control.h"
+#include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/selection.h"
 #include "surface/state.h"
+#include "surface/undo.h"
 
 namespace {
 
@@ -93,6 +95,7 @@ bool openProjectFile(const std::string& folder, const std::string& name) {
     mendLoadedProject();
     adoptProjectSettings();
     showForms(findSelected(project.forms));
+    beginTimeline();
     addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));
     enableExecute(executableCurrent() && !programRunning());
     return true;
@@ -149,6 +152,7 @@ void startNewProject() {
     enableExecute(false);
     showForms(nullptr);
     project.projectModified = 0;
+    beginTimeline();
 }
 
 namespace {
@@ -196,12 +200,14 @@ void startProject(const ProjectType& type, const std::string& model) {
         startEmptyProject(type);
     else if (!startFromModel(type, model))
         selectAgain();
+    beginTimeline();
     activateWidget(project.currentWidget);
 }
 
 } // namespace
 
 void joinProjectDialogues() {
+    hooks.kindChanged = adoptProjectKind;
     projectRequests.startProject = startProject;
     projectRequests.kindChanged = [] {
         adoptProjectKind();

@@ -13,6 +13,7 @@
 #include "shell/environment.h"
 #include "shell/menus.h"
 #include "surface/state.h"
+#include "surface/undo.h"
 
 void showProjectTitle() {
     std::string title = environment.mainTitle;
@@ -27,6 +28,7 @@ namespace {
 
 bool saveTo(const std::string& folder, const std::string& name) {
     if (!saveProject(folder, name, false)) return false;
+    noteSaved();
     showProjectTitle();
     addRecentProject(fileMenu(), joinPath(project.projectDir, project.projectName));
     return true;

@@ -106,6 +106,7 @@ void buildMasterWindow() {
     hooks.toolStatus = setToolStatus;
     hooks.inputMode = setInputMode;
     hooks.formMade = bindKeysOn;
+    hooks.stepsChanged = showStepLabels;
     hooks.keysChanged = bindKeys;
     hooks.parkKeys = parkKeys;
     hooks.giveInputBack = giveInputBack;

@@ -143,7 +143,6 @@ void designEvent(int id) {
         hooks.leaveTextMode();
     }
     if (handled) design.panelBandArmed = 0;
-    showUndoState(findByCallback(id)); // a deletion may have taken the record
     if (!handled) formEvent(id);
     restoreSelection();
     if (groupStands()) hooks.commandStatus(CMD_ALIGN, OSELECTABLE);

@@ -12,8 +12,8 @@ struct DialogueButton {
     int command = 0;
 };
 
-// Of a window that is made already. `home` is the default button, marked at first, its handle 0 for none; Esc sends `cancelCommand`, none for
-// 0. `topic` is the page that F1 opens, null for that of what was worked on before.
+// Of a window that is made already. `home` is the default button, marked at first, its handle 0 for none; Esc sends
+// `cancelCommand`, none for 0. `topic` is the page that F1 opens, null for that of what was worked on before.
 void openDialogueKeys(int window, DialogueButton home, int cancelCommand, const char* topic = nullptr);
 
 // Another push button of the dialogue on top.

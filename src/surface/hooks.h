@@ -20,6 +20,8 @@ struct SurfaceHooks {
     void (*inputMode)(bool text); // gives the shared Edit entries, icons and popup their labels and commands of the
                                   // mode; all from the command table
     void (*formMade)(int window); // a form came to life
+    void (*stepsChanged)();       // Undo and Redo are about other steps
+    void (*kindChanged)();        // language, platform or grid of the project
     void (*keysChanged)();        // another command may have a key now
     void (*parkKeys)(bool);       // while a dialogue has the input no command has its key
     void (*giveInputBack)();      // to what had it before a dialogue

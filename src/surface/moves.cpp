@@ -4,6 +4,7 @@
 #include "menu-c.h"
 #include "project/host.h"
 #include "project/placement.h"
+#include "project/timeline.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
 #include "surface/clipboard.h"
@@ -107,35 +108,23 @@ bool holdsAny(const WidgetNode& target, const Records& records) {
 
 Box boxOfSelection() { return groupStands() ? boxAround(design.selection) : boxOf(*design.selection.front()); }
 
-void openStep(DragStep step) {
-    design.undo = std::move(step);
-    design.undo.undoable = true;
-    hooks.commandStatus(CMD_UNDO, OSELECTABLE);
-    hooks.commandStatus(CMD_REDO, OUNSELECTABLE);
-}
-
 // True when the widgets have gone over to the record.
 bool dropOn(WidgetNode* target) {
     if (target) target = containerFor(target);
     if (!target || holdsAny(*target, design.selection)) return refuseDrop(false), false;
     if (!mayHold(*target, design.selection)) return refuseDrop(true), false;
-    DragStep step = stepBack();
     placeInParent(*target);
-    moveSelectionTo(*target, {});
-    openStep(std::move(step));
+    moveSelectionTo(*target);
     return true;
 }
 
-bool moveInParent(bool nudged) {
-    DragStep step;
-    step.nudged = nudged;
-    for (const WidgetNode* one : design.selection) step.records.push_back(one->id);
-    step.box = boxOfSelection();
-    if (!(groupStands() ? takeGroupGeometry() : takeGeometry(*design.selection.front()))) return false;
-    const DragStep& last = design.undo;
-    const bool goesOn = nudged && last.nudged && last.undoable && last.records == step.records;
-    if (!goesOn) openStep(std::move(step));
-    return true;
+bool moveInParent() { return groupStands() ? takeGroupGeometry() : takeGeometry(*design.selection.front()); }
+
+// The steps of the arrow keys are one step of the timeline as long as they go on with the same widgets.
+std::string nudgeOfSelection() {
+    std::string nudge = "nudge";
+    for (const WidgetNode* one : design.selection) nudge += " " + std::to_string(one->id);
+    return nudge;
 }
 
 // ---- Arrow keys.
@@ -176,9 +165,11 @@ void nudge(const Arrow& arrow, bool control, bool size) {
     if (group && size) return; // a group keeps its size
     hooks.commitEditor();
     placeLive(group ? design.groupPanel : project.currentWidget->handle, boxAfter(arrow, stepOf(control), size));
-    const bool moved = moveInParent(true);
+    const bool moved = moveInParent();
     adoptSelection();
-    if (moved) markChanged();
+    if (!moved) return;
+    markChanged();
+    nameStep("", nudgeOfSelection());
 }
 
 // What a record takes from its new parent.
@@ -186,14 +177,6 @@ void followParent(WidgetNode& node, const WidgetNode& parent) {
     node.parentHandle = parent.handle;
     node.onToolbar = parent.type == TYPE_TOOL_BAR ? 1 : 0;
     followLook(node, parent);
-}
-
-// Moves a child behind one of its siblings; one that is gone since leaves it at the end.
-void putBehind(WidgetNode& parent, const ChildPlace& place) {
-    WidgetNode* child = findRecord(place.record);
-    WidgetNode* previous = findRecord(place.behind);
-    if (!child || child->parent != &parent || (place.behind && (!previous || previous->parent != &parent))) return;
-    linkChildAfter(parent, previous, unlinkNode(child));
 }
 
 WidgetNode* firstOf(const Records& siblings) {
@@ -204,20 +187,7 @@ WidgetNode* firstOf(const Records& siblings) {
 
 } // namespace
 
-DragStep stepBack() {
-    const Records& selected = design.selection;
-    DragStep step;
-    for (const WidgetNode* one : selected) step.records.push_back(one->id);
-    const WidgetNode& parent = *selected.front()->parent;
-    step.parent = parent.id;
-    int behind = 0;
-    for (const WidgetNode* child = parent.child; child; behind = child->id, child = child->next)
-        if (std::ranges::find(selected, child) != selected.end()) step.places.push_back({child->id, behind});
-    step.box = boxOfSelection();
-    return step;
-}
-
-void moveSelectionTo(WidgetNode& target, const std::vector<ChildPlace>& places) {
+void moveSelectionTo(WidgetNode& target) {
     hooks.commitEditor();
     ungroup();
     const Records moved = design.selection;
@@ -230,7 +200,6 @@ void moveSelectionTo(WidgetNode& target, const std::vector<ChildPlace>& places) 
     }
     clearPlaceholder(target);
     for (OwnedList& one : unlinked) linkChild(target, std::move(one));
-    for (const ChildPlace& place : places) putBehind(target, place);
     for (WidgetNode* one : moved) followParent(*one, target);
     nameCopies(moved);
     for (WidgetNode* one : moved) {
@@ -305,7 +274,7 @@ void movedCommand() {
     hooks.commitEditor();
     owAdoptChild(0, 0, 0);
     const bool stays = action.status == design.selection.front()->parent->handle;
-    const bool moved = stays ? moveInParent(false) : dropOn(findHandle(action.status));
+    const bool moved = stays ? moveInParent() : dropOn(findHandle(action.status));
     if (project.currentWidget) activateWidget(project.currentWidget);
     adoptSelection();
     if (moved) markChanged();

@@ -202,7 +202,6 @@ void forgetRecords() {
     design.selection.clear(); // the group's panel goes with its form
     eraseForms(project.forms);
     project.currentWidget = nullptr;
-    design.undo = {};
     design.movedForms.clear();
     design.valueWidget = 0;
     hooks.showProperties(nullptr);

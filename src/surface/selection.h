@@ -6,8 +6,6 @@
 #include <vector>
 
 struct Box;
-struct ChildPlace;
-struct DragStep;
 
 void selectTool(int tool);
 void selectWidget(WidgetNode* node);
@@ -33,12 +31,8 @@ bool takeGeometry(WidgetNode& node);
 bool takeGroupGeometry();
 void giveBox(WidgetNode& node, const Box& box); // a record, as far as its type can have that height
 
-// Hangs the selection on another parent, live, at those places among its children, or behind them for none.
-void moveSelectionTo(WidgetNode& target, const std::vector<ChildPlace>& places);
-DragStep stepBack(); // the step that leads the selection back to where it is now
-
-// Undo and Redo are live while the widget that an event is about is the one of the last drag.
-void showUndoState(const WidgetNode* found);
+// Hangs the selection on another parent, live, behind the children of it.
+void moveSelectionTo(WidgetNode& target);
 
 // The pass over the forms that follows every event. `id` is the identifier of the event.
 void designEvent(int id);

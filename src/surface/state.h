@@ -19,27 +19,10 @@ struct PasteBuffer {
     int shift = 0;           // cells that the next copy lies from the place of the original
 };
 
-// Where a record goes among the children of its parent; both by their ids, 0 for the head of them all.
-struct ChildPlace {
-    int record, behind;
-};
-
-// The last drag. The step holds the other end of it, and taking the step swaps the two, so that undo and redo are one
-// thing. Records go by their ids, for their live widgets may have been made anew since.
-struct DragStep {
-    bool undoable = false, redoable = false;
-    bool nudged = false; // by the arrow keys: one step as long as they go on
-    std::vector<int> records;
-    int parent = 0; // id of the parent to go to, 0 for the same one
-    std::vector<ChildPlace> places;
-    Box box = {}; // of the widget, or around the group
-};
-
 struct DesignState {
     Records selection;      // the selected records, all of one parent; while there are several, a group stands
     int selectionCount = 1; // as the status bar tells it
     PasteBuffer pasteBuffer;
-    DragStep undo;
     int activeTool = TOOL_SELECTOR;
     int quitRequested = 0;   // 1 ends the action loop
     int formsShown = 1;      // 0 while all forms are hidden
@@ -73,5 +56,4 @@ extern DesignState design;
 
 inline bool groupStands() { return design.selection.size() > 1; }
 
-// Every change of the project ends here: it has to be saved, and its source generated again.
-inline void markChanged() { project.projectModified = project.sourceStale = 1; }
+inline void markChanged() { markProjectChanged(); }

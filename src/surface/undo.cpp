@@ -1,100 +1,247 @@
-// One step back: the last drag.
-#include "surface/clipboard.h"
+// Undo and redo on the live project: the records go back by the timeline, and what shows them follows.
+#include "surface/undo.h"
 
 #include "menu-c.h"
 #include "project/placement.h"
+#include "project/timeline.h"
 #include "project/tree.h"
+#include "project/widget_types.h"
 #include "surface/commands.h"
-#include "surface/geometry.h"
+#include "surface/hierarchy.h"
 #include "surface/hooks.h"
 #include "surface/live.h"
 #include "surface/selection.h"
 #include "surface/state.h"
 
 #include <algorithm>
-#include <utility>
+#include <set>
 
 namespace {
 
-// The step is about what is selected now.
-bool stepIsOfSelection() {
-    return !design.selection.empty() && std::ranges::equal(design.selection, design.undo.records, {}, &WidgetNode::id);
+int seenEdits = 0; // as many of the project's edits as the timeline has looked at
+
+// One direction of a step.
+struct Ends {
+    Image RecordChange::*from;
+    Image RecordChange::*to;
+};
+constexpr Ends BACK = {&RecordChange::after, &RecordChange::before};
+constexpr Ends FORTH = {&RecordChange::before, &RecordChange::after};
+
+// Code and names do not show on a form.
+bool looksOther(const WidgetNode& a, const WidgetNode& b) {
+    WidgetNode same = b;
+    same.name = a.name;
+    same.parentName = a.parentName;
+    same.slots = a.slots;
+    return !(same == a);
 }
 
-bool stepInPlace() {
-    WidgetNode& widget = *design.selection.front();
-    const Box other = boxOf(widget);
-    placeLive(widget.handle, design.undo.box);
-    if (!takeGeometry(widget)) return false;
-    design.undo.box = other;
-    redrawWidget(widget, false);
-    return true;
+bool standsOnWindow(const WidgetNode& fields) {
+    return fields.type == TYPE_FORM || fields.type == TYPE_MAIN_PANEL || isBarOrPane(fields) || fields.onToolbar;
 }
 
-bool stepGroupInPlace() {
-    const Box other = design.groupBox;
-    placeLive(design.groupPanel, design.undo.box);
-    if (!takeGroupGeometry()) return false;
-    design.undo.box = other;
-    owDrawWidget(design.groupPanel);
-    return true;
+bool comesOrGoes(const RecordChange& change) { return !change.before != !change.after; }
+
+// What a step means for the screen, by record ids.
+struct Effect {
+    std::set<int> forms;   // to be made anew whole
+    std::set<int> made;    // to be made, alone
+    std::set<int> widgets; // to be made anew, alone
+    bool rows = false;     // the hierarchy shows other rows
+};
+
+// The form of a record that is in the tree; 0 for none.
+int formIdOf(int id) {
+    const WidgetNode* node = findRecord(id);
+    const WidgetNode* form = node ? formOf(node, project.forms) : nullptr;
+    return form ? form->id : 0;
 }
 
-void placeSelection(const Box& box) {
-    if (groupStands()) {
-        for (WidgetNode* one : design.selection) {
-            one->xpos += box.x - design.groupBox.x;
-            one->ypos += box.y - design.groupBox.y;
-        }
-        return;
+// The form's window itself, or what docks to it, or the order of its widgets changes: little of it stays.
+bool needsForm(const RecordChange& change, bool stepReorders) {
+    const WidgetNode& fields = change.before ? change.before->fields : change.after->fields;
+    if (standsOnWindow(fields) || (change.after && standsOnWindow(change.after->fields))) return true;
+    if (comesOrGoes(change)) return false;
+    if (change.before->parent != change.after->parent) return true;
+    return stepReorders && changesPlace(change);
+}
+
+Effect effectOf(const TimelineStep& step, const Ends& ends) {
+    Effect effect;
+    const bool comings = std::ranges::any_of(step.records, comesOrGoes);
+    for (const RecordChange& change : step.records) {
+        if (changesPlace(change) || change.before->fields.name != change.after->fields.name) effect.rows = true;
+        if (needsForm(change, !comings))
+            effect.forms.insert(formIdOf(change.id));
+        else if (!(change.*ends.to))
+            continue;
+        else if (!(change.*ends.from))
+            effect.made.insert(change.id);
+        else if (looksOther(change.before->fields, change.after->fields))
+            effect.widgets.insert(change.id);
     }
-    WidgetNode& only = *design.selection.front();
-    only.xpos = box.x;
-    only.ypos = box.y;
-    only.width = box.width;
-    only.height = box.height;
+    return effect;
 }
 
-// To the parent that the widgets came from, and to their places among its children.
-bool stepBetweenParents() {
-    WidgetNode* target = findRecord(design.undo.parent);
-    if (!target || !design.selection.front()->parent || refusalToHold(*target, design.selection).text) return false;
-    DragStep back = stepBack();
-    placeSelection(design.undo.box);
-    moveSelectionTo(*target, design.undo.places);
-    design.undo = std::move(back);
-    return true;
+// Live widgets of records that go; those below them go along.
+void takeDown(const TimelineStep& step, const Ends& ends) {
+    std::set<int> going;
+    for (const RecordChange& change : step.records)
+        if (!(change.*ends.to)) going.insert(change.id);
+    for (const int id : going) {
+        WidgetNode* node = findRecord(id);
+        if (!node || node->handle <= 0 || (node->parent && going.contains(node->parent->id))) continue;
+        owEraseWidget(node->handle);
+    }
 }
 
-void step(bool undo) {
-    const bool available = undo ? design.undo.undoable : design.undo.redoable;
-    if (!available || !stepIsOfSelection()) return;
+bool onTabBox(const WidgetNode& node) { return node.parent && node.parent->type == TYPE_TAB_BOX; }
+
+// A record that came: alone where it is the last of plain children, else with its form.
+void place(const WidgetNode& node, Effect& effect) {
+    const bool parentLives = node.parent && node.parent->handle > 0;
+    if (!parentLives) return; // made with its parent
+    if (node.next || onTabBox(node) || standsOnWindow(*node.parent)) {
+        if (node.parent->type != TYPE_MAIN_PANEL || node.next) effect.forms.insert(formIdOf(node.id));
+    }
+}
+
+void bringUp(Effect& effect, const TimelineStep& step) {
+    for (const RecordChange& change : step.records)
+        if (const WidgetNode* node = findRecord(change.id)) {
+            if (needsForm(change, false)) effect.forms.insert(formIdOf(change.id));
+            if (effect.made.contains(change.id)) place(*node, effect);
+        }
+    for (const int id : effect.forms)
+        if (WidgetNode* form = findRecord(id)) replaceLive(*form);
+    const auto alone = [&](int id) {
+        WidgetNode* node = findRecord(id);
+        return node && !effect.forms.contains(formIdOf(id)) ? node : nullptr;
+    };
+    for (const int id : effect.made) {
+        WidgetNode* node = alone(id);
+        if (!node || node->handle > 0 || !node->parent || node->parent->handle <= 0) continue;
+        realiseWidget(*node, node->parent->handle, false);
+        redrawWidget(*node, false);
+    }
+    for (const int id : effect.widgets)
+        if (WidgetNode* node = alone(id)) replaceLive(onTabBox(*node) ? *node->parent : *node);
+}
+
+void rebuildRows() {
+    project.widgetCount = 0;
+    clearHierarchy();
+    for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) node->hierarchyItem = 0;
+    buildHierarchy(project.forms);
+}
+
+// ---- What is selected afterwards: what the step is about, or what held it.
+
+bool onlyMoved(const RecordChange& change) {
+    return change.before && change.after && change.before->fields.hpos == OLEFT && change.before->fields.vpos == OTOP &&
+           (change.before->fields.xpos != change.after->fields.xpos ||
+            change.before->fields.ypos != change.after->fields.ypos || changesPlace(change));
+}
+
+void selectAfter(const TimelineStep& step, const Ends& ends) {
+    Records members;
+    WidgetNode* fallback = nullptr;
+    for (const RecordChange& change : step.records) {
+        WidgetNode* node = findRecord(change.id);
+        if (!node) {
+            WidgetNode* holder = (change.*ends.from) ? findRecord((change.*ends.from)->parent) : nullptr;
+            if (!fallback) fallback = holder;
+            continue;
+        }
+        const bool siblingOnly = change.before && change.after && change.before->fields == change.after->fields &&
+                                 change.before->parent == change.after->parent;
+        if (node->type != TYPE_MAIN_PANEL && !siblingOnly) members.push_back(node);
+    }
+    const bool group = members.size() > 1 && members.front()->parent &&
+                       std::ranges::all_of(step.records, [&](const RecordChange& change) {
+                           const WidgetNode* node = findRecord(change.id);
+                           return std::ranges::find(members, node) == members.end() ||
+                                  (onlyMoved(change) && node->parent == members.front()->parent);
+                       });
+    if (group) {
+        groupSelection(members);
+        return showSelectionCount();
+    }
+    // Of records that came together, the one that holds the others.
+    const auto head = std::ranges::find_if(members, [&](const WidgetNode* one) {
+        return std::ranges::none_of(members,
+                                    [&](const WidgetNode* other) { return other != one && liesWithin(one, other); });
+    });
+    WidgetNode* node = head != members.end() ? *head : fallback;
+    if (node && node->type == TYPE_MAIN_PANEL) node = formOf(node, project.forms);
+    selectWidget(node ? node : project.forms);
+}
+
+// The project's kind or grid: all forms look different then.
+bool changesKind(const TimelineStep& step) {
+    if (!step.settingsBefore) return false;
+    ProjectOptions same = *step.settingsAfter;
+    const ProjectOptions& before = *step.settingsBefore;
+    same.counters = before.counters;
+    same.nextFormNumber = before.nextFormNumber;
+    same.nextFormX = before.nextFormX;
+    same.nextFormY = before.nextFormY;
+    same.snapOn = before.snapOn;
+    same.snapGrid = before.snapGrid;
+    same.customSwitches = before.customSwitches;
+    same.compilerSwitches = before.compilerSwitches;
+    same.linkerSwitches = before.linkerSwitches;
+    same.fileLists = before.fileLists;
+    same.codeBlocks = before.codeBlocks;
+    return !(same == before);
+}
+
+void followSettings(const TimelineStep& step) {
+    if (step.settingsBefore) owSetSnapGrid(project.snapOn ? project.snapGrid : 1);
+    if (!changesKind(step)) return;
+    applyGrid();
+    hooks.kindChanged();
+}
+
+void showStep(Effect& effect, const TimelineStep& step) {
+    if (changesKind(step)) return discardForms(project.forms);
+    bringUp(effect, step);
+    if (effect.rows) rebuildRows();
+}
+
+void takeStep(const Ends& ends) {
+    takeTypedText();
+    hooks.commitEditor();
+    noteEdit(); // what is not yet a step becomes one
+    const bool back = ends.to == &RecordChange::before;
+    const TimelineStep* found = back ? stepToUndo() : stepToRedo();
+    if (!found) return;
+    const TimelineStep& step = *found; // stays where it is
     owAdoptChild(0, 0, 0);
-    const bool group = groupStands();
-    const bool done = design.undo.parent ? stepBetweenParents() : group ? stepGroupInPlace() : stepInPlace();
-    adoptSelection();
-    if (!done) return;
-    design.undo.undoable = !undo;
-    design.undo.redoable = undo;
-    hooks.commandStatus(undo ? CMD_UNDO : CMD_REDO, OUNSELECTABLE);
-    hooks.commandStatus(undo ? CMD_REDO : CMD_UNDO, OSELECTABLE);
-    markChanged();
+    dropSelection();
+    hooks.showProperties(nullptr);
+    hooks.bindCode(nullptr);
+    clearSelected(project.forms);
+    project.currentWidget = nullptr;
+    Effect effect = effectOf(step, ends);
+    takeDown(step, ends);
+    if (back)
+        undoStep();
+    else
+        redoStep();
+    followSettings(step);
+    showStep(effect, step);
+    design.skipCommit = 1; // the editor shows code of before
+    selectAfter(step, ends);
+    project.projectModified = timelineAtSaved() ? 0 : 1;
+    project.sourceStale = 1;
+    showSteps();
 }
 
-} // namespace
+void undoCommand() { takeStep(BACK); }
 
-void showUndoState(const WidgetNode* found) {
-    const DragStep& last = design.undo;
-    const bool own = found && last.records == std::vector<int>{found->id};
-    hooks.commandStatus(CMD_UNDO, own && last.undoable ? OSELECTABLE : OUNSELECTABLE);
-    hooks.commandStatus(CMD_REDO, own && last.redoable ? OSELECTABLE : OUNSELECTABLE);
-}
-
-namespace {
-
-void undoCommand() { step(true); }
-
-void redoCommand() { step(false); }
+void redoCommand() { takeStep(FORTH); }
 
 // clang-format off
 constexpr Command COMMANDS[] = {
@@ -104,5 +251,29 @@ constexpr Command COMMANDS[] = {
 // clang-format on
 
 } // namespace
+
+void showSteps() {
+    hooks.commandStatus(CMD_UNDO, stepToUndo() ? OSELECTABLE : OUNSELECTABLE);
+    hooks.commandStatus(CMD_REDO, stepToRedo() ? OSELECTABLE : OUNSELECTABLE);
+    hooks.stepsChanged();
+}
+
+void noteEdit() {
+    if (design.defaultsMode || project.edits == seenEdits) return;
+    seenEdits = project.edits;
+    if (recordStep()) showSteps();
+}
+
+void beginTimeline() {
+    seenEdits = project.edits;
+    startTimeline();
+    markTimelineSaved();
+    showSteps();
+}
+
+void noteSaved() {
+    noteEdit();
+    markTimelineSaved();
+}
 
 std::span<const Command> undoCommands() { return COMMANDS; }

@@ -2,12 +2,15 @@
 
 #include "codegen/generate.h"
 #include "project/files.h"
+#include "project/tree.h"
 #include "project/widget_types.h"
 #include "shell/project_commands.h"
 #include "support/files.h"
 #include "support/records_equal.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 namespace {
@@ -72,15 +75,27 @@ void compareStates(const ProjectState& left, const ProjectState& right) {
     compare("code blocks", left, right, &ProjectState::codeBlocks);
 }
 
-// The one choice that no file keeps: every form that is read has it on.
-void forgetBuildInfo() {
-    for (WidgetNode* form = project.forms; form; form = form->next) form->buildInfo = 1;
+// A number as a project file keeps it, with six digits.
+void keepSixDigits(float& number) {
+    char digits[32];
+    std::snprintf(digits, sizeof digits, "%g", static_cast<double>(number));
+    number = std::strtof(digits, nullptr);
+}
+
+// What no file keeps: further digits of numbers, and one choice, which every form that is read has on.
+void forgetWhatNoFileKeeps() {
+    for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
+        node->buildInfo = 1;
+        for (float WidgetNode::*number :
+             {&WidgetNode::value, &WidgetNode::minValue, &WidgetNode::maxValue, &WidgetNode::stepValue})
+            keepSixDigits(node->*number);
+    }
 }
 
 } // namespace
 
 void checkFiles() {
-    forgetBuildInfo();
+    forgetWhatNoFileKeeps();
     savedBytes("monkey-a.wdp"); // brings what was typed and dragged into the records
     const std::string text = sourceText();
     const std::string bytes = savedBytes("monkey-a.wdp");

@@ -86,6 +86,21 @@ TEST_F(TimelineTest, RandomEditsAreTakenBackAndDoneAgain) {
     }
 }
 
+TEST_F(TimelineTest, ARecordComesOutOfOneThatMovesItself) {
+    WidgetNode* form = freshProject();
+    WidgetNode* button = addRecord(form->child, TYPE_BUTTON, "Greet");
+    WidgetNode* panel = addRecord(form->child, TYPE_PANEL, "Box");
+    startTimeline();
+    const std::string before = bytes();
+    linkChild(*panel, unlinkNode(button)); // now the panel is the first
+    recordStep();
+    const std::string after = bytes();
+    undoStep();
+    EXPECT_EQ(byteDifference(bytes(), before), "");
+    redoStep();
+    EXPECT_EQ(byteDifference(bytes(), after), "");
+}
+
 TEST_F(TimelineTest, StepsAreNamedForWhatTheyChange) {
     WidgetNode* form = freshProject();
     WidgetNode* panel = addRecord(form->child, TYPE_PANEL, "Box");

@@ -64,6 +64,7 @@ class TextEntry : public QFrame {
 public:
     // `singleHeight`: pixels up to which a standard entry is a single line; `height`: what it will have at first.
     TextEntry(const TextOptions& options, const TextHooks& hooks, int singleHeight, int height, QWidget* parent);
+    ~TextEntry() override { dropField(); } // which still speaks as it loses the focus
 
     const TextOptions& options() const { return options_; }
     inline static bool selectOnFocus = false; // an entry that takes the focus selects its text
