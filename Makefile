@@ -3,7 +3,7 @@
 BUILD := build/dev
 JOBS ?= $(shell nproc)
 
-.PHONY: run test tests build packages sanitize monkey fuzz bench clean
+.PHONY: run test tests style build packages sanitize monkey fuzz bench clean
 
 run: build
 	scripts/run-designer.sh $(BUILD)
@@ -14,6 +14,11 @@ test: tests
 tests: build
 	@echo "== Running all tests"
 	QT_QPA_PLATFORM=offscreen ctest --test-dir $(BUILD) --output-on-failure -j $(JOBS) $(CTEST_ARGS)
+
+# Layout and rules over all sources, clang-tidy over what has changed since BASE (default: since the main branch).
+style: build
+	@echo "== Holding the sources against the rules"
+	scripts/check-style.sh $(BASE)
 
 build: packages
 	@echo "== Configuring $(BUILD)"

@@ -112,7 +112,7 @@ void makeFiles(const fs::path& folder, const std::string& name, int widgets) {
     WidgetNode* panel = nullptr;
     for (int number = 0; number < widgets; ++number) {
         if (number % WIDGETS_ON_A_FORM == 0) {
-            if (form != nullptr) ui.end();
+            if (form) ui.end();
             form = newForm();
             ui.begin("QWidget", *form, "windowTitle");
         }
@@ -126,7 +126,7 @@ void makeFiles(const fs::path& folder, const std::string& name, int widgets) {
         addWidget(*panel, number, ui);
         if (number % WIDGETS_ON_A_FORM == WIDGETS_ON_A_FORM - 1) ui.end();
     }
-    if (form != nullptr) ui.end();
+    if (form) ui.end();
     if (!saveProject(folder.string(), name + ".wdp", true)) std::exit(1);
 }
 

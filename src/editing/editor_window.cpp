@@ -12,7 +12,11 @@
 
 EditorWindow editor;
 
-static constexpr char CODE_FONT[] = "Courier New";
+namespace {
+
+constexpr char CODE_FONT[] = "Courier New";
+
+} // namespace
 
 int codeText() { return editor.text; }
 

@@ -91,7 +91,7 @@ bool isDead(const WidgetNode& widget, const PropertyRow& row) {
 
 // A button that leads nowhere: what can be typed is, the rest is grey.
 bool isTyped(const WidgetNode& widget, const PropertyRow& row) {
-    return row.edit != nullptr && !(row.id == ROW_TEXT && widget.subType == ORICHEDIT);
+    return row.edit && !(row.id == ROW_TEXT && widget.subType == ORICHEDIT);
 }
 
 Cell cellOf(const WidgetNode& widget, const PropertyRow& row) {

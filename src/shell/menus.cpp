@@ -165,7 +165,9 @@ void buildMenuBar(int masterWindow) {
     }
 }
 
-template <std::size_t N> static int buildBar(int masterWindow, const char* title, int callback, const int (&ids)[N]) {
+namespace {
+
+template <std::size_t N> int buildBar(int masterWindow, const char* title, int callback, const int (&ids)[N]) {
     const int bar = owCreateToolBar(masterWindow, OTOP, ICON_SIZE, owTitle, title, owCallback, callback);
     for (const int id : ids) {
         if (id == BAR_RULE) {
@@ -179,6 +181,8 @@ template <std::size_t N> static int buildBar(int masterWindow, const char* title
     }
     return bar;
 }
+
+} // namespace
 
 int buildIconBar(int masterWindow) { return buildBar(masterWindow, "Icon Bar", CMD_BAR_ICON_BAR, ICON_BAR); }
 int buildToolBox(int masterWindow) { return buildBar(masterWindow, "Tool Box", CMD_BAR_TOOL_BOX, TOOL_BOX); }

@@ -1,4 +1,5 @@
-// The compile room with nothing above it: a data folder and a project folder of its own, and notes of every box and hook.
+// The compile room with nothing above it: a data folder and a project folder of its own, and notes of every box and
+// hook.
 #pragma once
 
 #include "compile/catalogue.h"

@@ -20,7 +20,11 @@ using namespace orba::testing;
 
 // ---- Projects -------------------------------------------------------------------------------------------------
 
-static const char SAVE_TEXT[] = "Do you wish to save the current project first?";
+namespace {
+
+const char SAVE_TEXT[] = "Do you wish to save the current project first?";
+
+} // namespace
 
 TEST_F(DesignerTest, AnUnchangedProjectIsLeftWithoutAQuestion) {
     start();
@@ -274,8 +278,10 @@ TEST_F(DesignerTest, ACancelledGenerationLeavesNoName) {
 
 // ---- Files ----------------------------------------------------------------------------------------------------
 
+namespace {
+
 // Where two files differ: the number of bytes and the first few places.
-static std::string difference(const std::string& first, const std::string& second) {
+std::string difference(const std::string& first, const std::string& second) {
     std::string places;
     std::size_t count = first.size() == second.size() ? 0 : 1;
     for (std::size_t at = 0; at < std::min(first.size(), second.size()); at++) {
@@ -284,6 +290,8 @@ static std::string difference(const std::string& first, const std::string& secon
     }
     return count == 0 ? "" : std::to_string(count) + " bytes:" + places;
 }
+
+} // namespace
 
 TEST_F(DesignerTest, AProjectThatIsOnlyOpenedAndSavedIsTheSameFile) {
     for (const char* name : {"beam", "converter", "greeting", "heat"}) {
@@ -331,8 +339,10 @@ TEST_F(DesignerTest, EveryProjectThatIsOnlyOpenedAndSavedIsTheSameFile) {
 
 // ---- The built program ----------------------------------------------------------------------------------------
 
+namespace {
+
 // A program that stands where a build would have put it.
-static void placeProgram(const std::filesystem::path& folder, const std::string& script) {
+void placeProgram(const std::filesystem::path& folder, const std::string& script) {
     project.sourceDir = folder.string();
     project.sourceName = "prog.f90";
     const std::string path = (folder / "prog").string();
@@ -346,19 +356,21 @@ struct RunStatus {
     int compile, execute, abort;
     bool operator==(const RunStatus&) const = default;
 };
-static RunStatus runStatus() {
-    return {commandStatus(CMD_COMPILE), commandStatus(CMD_EXECUTE), commandStatus(CMD_ABORT)};
-}
-static constexpr RunStatus RUNNING = {STATUS_DISABLED, STATUS_DISABLED, STATUS_ENABLED};
-static constexpr RunStatus IDLE = {STATUS_ENABLED, STATUS_ENABLED, STATUS_DISABLED};
+
+RunStatus runStatus() { return {commandStatus(CMD_COMPILE), commandStatus(CMD_EXECUTE), commandStatus(CMD_ABORT)}; }
+
+constexpr RunStatus RUNNING = {STATUS_DISABLED, STATUS_DISABLED, STATUS_ENABLED};
+constexpr RunStatus IDLE = {STATUS_ENABLED, STATUS_ENABLED, STATUS_DISABLED};
 
 // Ticks of the watch until the program's end has been noticed.
-static void watchUntilIdle(void (*tick)(int)) {
+void watchUntilIdle(void (*tick)(int)) {
     for (int tries = 0; tries < 100 && !(runStatus() == IDLE); tries++) {
         settle(50);
         tick(CMD_WATCH);
     }
 }
+
+} // namespace
 
 TEST_F(DesignerTest, AProgramThatEndsIsNoticed) {
     start();

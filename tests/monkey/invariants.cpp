@@ -5,7 +5,11 @@
 #include "surface/hooks.h"
 #include "surface/selection.h"
 
-static std::string finding;
+namespace {
+
+std::string finding;
+
+} // namespace
 
 void expect(bool holds, const std::string& words) {
     if (!holds && finding.empty()) finding = words;

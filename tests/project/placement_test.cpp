@@ -113,7 +113,7 @@ TEST(Placement, WhichToolGoesWhere) {
             BoxScript boxes;
             if (!takes) boxes.expect({NO_PARENT, refusals[own ? row.own.at(tool.tool) : row.others]});
             EXPECT_EQ(placeWidget(tool.tool, parent, 1, 1).widget != nullptr, takes);
-            EXPECT_EQ(parent->child != nullptr && parent->child->type != TYPE_MAIN_PANEL, takes);
+            EXPECT_EQ(parent->child && parent->child->type != TYPE_MAIN_PANEL, takes);
         }
     freshProject();
 }

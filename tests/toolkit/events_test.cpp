@@ -44,12 +44,16 @@ TEST(Handles, StayOutOfCommandIdentifiers) {
     }
 }
 
+namespace {
+
 // Memory of this process in pages of 4 KB.
-static long residentPages() {
+long residentPages() {
     long size = 0, resident = 0;
     std::ifstream("/proc/self/statm") >> size >> resident;
     return resident;
 }
+
+} // namespace
 
 TEST(Handles, FreedOnesComeBackOnlyAfterTheWholeRange) {
     Toolkit toolkit;

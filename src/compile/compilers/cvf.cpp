@@ -1,6 +1,8 @@
 #include "compile/message_lines.h"
 
-static constexpr BuildStep STEPS[] = {
+namespace {
+
+constexpr BuildStep STEPS[] = {
     {StepKind::eachSource,
      R"(f90 /c "{src}" /object:"{obj}"{cflags} /include:"{dirs}{sourceDir}","{lib}","{modules} /include:"{bin}..\include" /module:"{sourceDir}")",
      R"({dir}",")"},
@@ -11,7 +13,10 @@ static constexpr BuildStep STEPS[] = {
     {StepKind::link,
      R"(link "{base}.obj" /out:"{exe}"{res}{objs}{objects}{files}{libraries}{lflags} /entry:mainCRTStartup)"},
 };
-static constexpr LanguageSteps ALL_LANGUAGES[] = {{0, STEPS}};
+
+constexpr LanguageSteps ALL_LANGUAGES[] = {{0, STEPS}};
+
+} // namespace
 
 constinit const Compiler compilers::CVF = {
     .profile = COMPILER_CVF,

@@ -1,13 +1,18 @@
 #include "compile/message_lines.h"
 
-static constexpr BuildStep STEPS[] = {
+namespace {
+
+constexpr BuildStep STEPS[] = {
     {StepKind::withResource, R"(rc -v "{rcFile}")"},
     {StepKind::link,
      R"(cl  /Fe"{exe}" /I"{lib}" /I"{lib}\include"{dirs}{cflags} /I"{bin}{up}..\include" "{main}" /Fo"{base}.obj" {res}{sources}{objects}{files}{libraries} /link{lflags})",
      R"( /I"{dir}")"},
     {StepKind::manifest, BIND_MANIFEST},
 };
-static constexpr LanguageSteps ALL_LANGUAGES[] = {{0, STEPS}};
+
+constexpr LanguageSteps ALL_LANGUAGES[] = {{0, STEPS}};
+
+} // namespace
 
 constinit const Compiler compilers::VISUAL_C = {
     .profile = COMPILER_VISUAL_C,

@@ -219,12 +219,16 @@ void inputByUser() {
     session.expectedFocus = 0;
 }
 
+namespace {
+
 // A request for another window is under way; a later one has to come behind it.
-static bool otherRequested(const QWidget& top) {
+bool otherRequested(const QWidget& top) {
     const Widget* expected = widgetOf(session.expectedFocus);
     const QWidget* window = expected && expected->view ? expected->view->window() : nullptr;
     return window && window != &top && !window->isActiveWindow();
 }
+
+} // namespace
 
 void activateView(QWidget* view) {
     Widget* window = windowOf(widgetAt(view));
