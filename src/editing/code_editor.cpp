@@ -72,11 +72,6 @@ void refreshBlockList() {
     owDefineChangeCallback(editor.text, 0);
 }
 
-void loadWidgetSlots(WidgetNode& widget) {
-    addSlotRows(widget);
-    loadWorkingSlots(widget);
-}
-
 void showCurrentBlock() {
     const bool kept = owShowTextDocument(editor.text, documentOfShown()) == 1;
     if (kept && comparable(textOf(editor.text)) == comparable(shownCode())) return;

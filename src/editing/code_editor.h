@@ -6,7 +6,6 @@
 #include <string>
 
 void refreshBlockList();
-void loadWidgetSlots(WidgetNode& widget);
 void showCurrentBlock();
 void commitEditor();
 void bindCode(WidgetNode* widget); // commit, refill for the widget, show

@@ -43,5 +43,3 @@ void enterTextMode() {
 }
 
 void leaveTextMode() { install(false); }
-
-bool inTextMode() { return textMode; }

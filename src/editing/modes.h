@@ -5,4 +5,3 @@
 void inputMoved(int widget); // the widget has the focus now
 void enterTextMode();        // the code editor's text gets the input
 void leaveTextMode();        // a form is about to get it
-bool inTextMode();

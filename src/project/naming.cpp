@@ -225,8 +225,9 @@ std::string clashOfFormName(const WidgetNode& form, std::string_view to) {
 std::string numberTakenNames(WidgetNode* first) {
     NamesInUse names;
     std::string told;
-    const auto renumber = [&](std::string name, auto give) {
-        if (name.empty() || names.count(name) < 2) return;
+    const auto renumber = [&](const std::string& taken, auto give) {
+        if (taken.empty() || names.count(taken) < 2) return;
+        const std::string name = taken; // which is the new one once it is given
         const std::string fresh = ownName(name, names);
         give(fresh);
         replaceInCode(first, name, fresh);

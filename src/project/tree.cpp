@@ -282,13 +282,6 @@ bool liesWithin(const WidgetNode* node, const WidgetNode* root) {
     return node == root;
 }
 
-WidgetNode* previousOf(const WidgetNode& node) {
-    WidgetNode* first = node.parent ? node.parent->child : project.forms;
-    if (first == &node) return nullptr;
-    while (first && first->next != &node) first = first->next;
-    return first;
-}
-
 void clearSelected(WidgetNode* list) {
     for (WidgetNode* node = list; node; node = walkList(node, list)) node->selected = 0;
 }

@@ -48,7 +48,6 @@ void clearSelected(WidgetNode* list);
 using Records = std::vector<WidgetNode*>;
 Records chainOf(WidgetNode* first);                              // `first` and all that follows it along next
 bool liesWithin(const WidgetNode* node, const WidgetNode* root); // `node` is `root` or below it
-WidgetNode* previousOf(const WidgetNode& node);                  // the sibling ahead of it, null for the first
 
 // Every change of the tree goes through these, so that lookups by name, by handle and of the parent stay current.
 // Every change of who owns a record, too: what is linked is given to the tree and returned, what is unlinked comes out.

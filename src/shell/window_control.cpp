@@ -71,8 +71,6 @@ bool isShown(const ControlWindow& window) { return commandStatus(window.viewComm
 
 } // namespace
 
-bool controlWindowShown(int viewCommand) { return isShown(windowOfView(viewCommand)); }
-
 namespace {
 
 // Of the master window's row, as the toolkit tells them.

@@ -8,7 +8,6 @@ void raiseFloatingWindows(); // once the master window shows, above which they b
 
 // Shows the window of a View entry if it is hidden, and checks the entry.
 void showControlWindow(int viewCommand);
-bool controlWindowShown(int viewCommand);
 
 // Forms were shown, hidden or loaded: whether the button for all of them hides or shows them next.
 void markFormsShown();

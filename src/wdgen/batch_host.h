@@ -4,6 +4,3 @@
 // `windowsFunctionality` answers the question that projects of the first version ask. Everything else is answered Yes
 // or OK.
 void useBatchHost(bool windowsFunctionality = true);
-
-// True when an error was reported since the host was set up.
-bool batchFailed();

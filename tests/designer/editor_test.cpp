@@ -7,6 +7,7 @@
 #include "editing/modes.h"
 #include "editing/text_view.h"
 #include "project/preferences.h"
+#include "shell/command_states.h"
 #include "shell/command_table.h"
 #include "surface/event.h"
 #include "surface/hooks.h"
@@ -44,11 +45,11 @@ TEST(Editor, TextOfASlotIsCommittedWhenTheSelectionMoves) {
     WidgetNode* button = desk.place(PLACE_BUTTON, desk.panel, 20, 20);
     EXPECT_EQ(project.currentBlockName, "General Callback");
     typeCode(desk, "x = 1");
-    EXPECT_TRUE(inTextMode());
+    EXPECT_TRUE(textModeInForce());
     EXPECT_EQ(button->slots[SLOT_GENERAL], "");
     desk.click(desk.panel, 300, 300);
     EXPECT_EQ(button->slots[SLOT_GENERAL], "x = 1");
-    EXPECT_FALSE(inTextMode());
+    EXPECT_FALSE(textModeInForce());
     EXPECT_EQ(textOf(codeText()), "");
     selectWidget(button);
     EXPECT_EQ(textOf(codeText()), "x = 1");
@@ -74,7 +75,7 @@ TEST(Editor, DoubleClickOnAWidgetBringsUpItsCallback) {
     robot::doubleClick(button->handle);
     desk.run();
     EXPECT_EQ(project.currentBlockName, "General Callback");
-    EXPECT_TRUE(inTextMode());
+    EXPECT_TRUE(textModeInForce());
 }
 
 TEST(Editor, DeletingAWidgetLosesNoOtherCode) {

@@ -35,7 +35,7 @@ std::string visualStudioWords(const RegistryPlace& place, const std::string& ver
     for (const std::string& key : keys) {
         const size_t n = key.find('N');
         if (n == std::string::npos) continue;
-        const std::string tag = "vs" + (n + 3 <= key.size() ? key.substr(n + 3) : std::string());
+        std::string tag = "vs" + (n + 3 <= key.size() ? key.substr(n + 3) : std::string());
         for (const char* start : {"Start", "n_Start"}) {
             if (enquireRegistryValue(REGISTRY_USER, prefix + "Intel\\PSIDEXE", start + tag).number > 0) return tag;
         }

@@ -164,12 +164,4 @@ bool colourBox(QColor& colour) {
     return colour.isValid();
 }
 
-bool fontBox(QFont& font) {
-    const FocusKeeper keeper;
-    QFontDialog dialogue(font, ownerOfBox());
-    if (runBox(dialogue) != QDialog::Accepted) return false;
-    font = dialogue.selectedFont();
-    return true;
-}
-
 } // namespace orba

@@ -32,7 +32,6 @@ bool fileBrowser(FileChoice& choice);
 
 // True when the user chose one.
 bool colourBox(QColor& colour);
-bool fontBox(QFont& font);
 
 // The pairs of a filter as the file dialogue writes them: "Fortran source (*.f90 *.f95)".
 QStringList dialogueFilters(const QString& filter);

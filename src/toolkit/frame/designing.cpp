@@ -192,8 +192,6 @@ const Registration registration({
 
 } // namespace
 
-bool isDesigned(const QWidget* view) { return designedWindow(view) != nullptr; }
-
 QWidget* designRoomOf(QWidget* view) {
     const Widget* window = windowOf(widgetAt(view));
     const bool inside = window && window->client && (window->client == view || window->client->isAncestorOf(view));

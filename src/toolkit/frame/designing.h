@@ -10,9 +10,6 @@ namespace orba {
 
 struct Widget;
 
-// Whether the widget stands in a window that is designed.
-bool isDesigned(const QWidget* view);
-
 // The widget over which outlines and handles of `view` are drawn: the client area of its window, or the pane that
 // floats.
 QWidget* designRoomOf(QWidget* view);

@@ -101,12 +101,4 @@ QFont fontFor(const QString& face, int pointSize) {
     return font;
 }
 
-QStringList availableFaces() {
-    QStringList faces;
-    for (const QString& family : QFontDatabase::families())
-        if (!QFontDatabase::isPrivateFamily(family) && QFontDatabase::isSmoothlyScalable(family)) faces.append(family);
-    faces.sort(Qt::CaseInsensitive);
-    return faces;
-}
-
 } // namespace orba

@@ -20,7 +20,4 @@ QFont namedFont(const QString& face, double points);
 // The font for a face and size as programs name them; the desktop's own for "MS Sans Serif" at 10 points.
 QFont fontFor(const QString& face, int pointSize);
 
-// Faces that a font list offers, sorted.
-QStringList availableFaces();
-
 } // namespace orba

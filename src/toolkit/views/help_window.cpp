@@ -172,6 +172,4 @@ bool showHelp(const QString& path, const QString& topic) {
     return true;
 }
 
-void closeHelp() { delete theWindow(); }
-
 } // namespace orba

@@ -12,7 +12,4 @@ namespace orba {
 // is asked. False when nothing can show it. One window serves all files of a program.
 bool showHelp(const QString& path, const QString& topic);
 
-// Closes the window, if it is open, at the end of a program.
-void closeHelp();
-
 } // namespace orba

@@ -236,12 +236,6 @@ bool PropertyView::removeRow(int number) {
     return true;
 }
 
-void PropertyView::clearRows() {
-    const ProgramDoing::Mark mark(program_);
-    model_->clear();
-    changedRow_ = 0;
-}
-
 int PropertyView::findRow(const QString& label) const {
     for (int i = 1; i <= rowCount(); ++i)
         if (row(i)->label == label) return i;

@@ -49,7 +49,6 @@ public:
     int addRow(PropertyRow row);              // returns the number of the new row
     void insertRow(int number, PropertyRow row);
     bool removeRow(int number);
-    void clearRows();
     int findRow(const QString& label) const; // 0 when there is none
     void setRow(int number, PropertyRow row);
 

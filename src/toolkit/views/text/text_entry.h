@@ -108,9 +108,8 @@ public:
 
     // Of the selection in rich text, of the whole text otherwise.
     void setTextFont(const TextFont& font);
-    bool formatsWholeText() const;        // whether a font goes to all of it
-    TextFont textFont() const;            // at the caret
-    void setPlainFont(const QFont& font); // of the whole text, also under the highlighter
+    bool formatsWholeText() const; // whether a font goes to all of it
+    TextFont textFont() const;     // at the caret
 
     // Paragraphs of the selection. Indents in twips.
     struct Paragraph {
@@ -167,7 +166,6 @@ private:
     QString linkAt(const QPoint& position) const;
     int room() const;
     bool refusesKey(const QKeyEvent& key) const;
-    void mergeFormat(const QTextCharFormat& format);
     void forgetIndex() { indexed_ = false; }
     void clearFormats();
     void followDocument();

@@ -112,13 +112,6 @@ void TextEntry::setTextFont(const TextFont& font) {
     }
 }
 
-void TextEntry::setPlainFont(const QFont& font) {
-    const ProgramDoing::Mark mark(program_);
-    if (edit_ && rich() && !loadedRich_) clearFormats();
-    field()->setFont(font);
-    placeField();
-}
-
 TextFont TextEntry::textFont() const {
     QFont font = field()->font();
     QColor colour = options_.text;
