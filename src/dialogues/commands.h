@@ -23,6 +23,7 @@ enum DialogueCommandId : int {
 
 // The rows of each file, where its handlers stand.
 std::span<const Command> defaultsCommands();
+std::span<const Command> menuEditorCommands();
 std::span<const Command> preferencesCommands();
 std::span<const Command> projectSettingsCommands();
 std::span<const Command> projectTypeCommands();

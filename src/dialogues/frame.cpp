@@ -25,6 +25,7 @@ struct Open {
 };
 
 std::vector<Open> stack; // the open dialogues, the topmost last
+int running = 0;         // id of the control whose handler runs
 int refused = 0;         // markers that wait behind what was pressed before a refusal
 
 Open* openOf(const Dialogue& dialogue) {
@@ -92,8 +93,10 @@ int createWindow(const Dialogue& dialogue) {
 }
 
 void bindKeys(const Open& open) {
-    for (const DialogueKey& key : open.dialogue->keys)
+    for (const DialogueKey& key : open.dialogue->keys) {
         owDefineWidgetKeyCallback(key.within ? open.handles.at(key.within) : open.window, key.key, FRAME_KEY);
+        if (key.without) owDefineWidgetKeyCallback(open.handles.at(key.without), key.key, OLEAVEKEY);
+    }
 }
 
 int defaultButton(const Open& open) {
@@ -131,6 +134,7 @@ void switchOthersOff(const Open& open, const Control& radio) {
 void run(Found found, void (*handler)()) {
     const Dialogue& dialogue = *found.open->dialogue;
     if (found.control->field == Field::Radio) switchOthersOff(*found.open, *found.control);
+    running = found.control->id;
     if (handler) handler();
     refresh(dialogue);
 }
@@ -139,6 +143,7 @@ void press(const Dialogue& dialogue, int id) {
     const Open* open = openOf(dialogue);
     const Control* control = controlOf(dialogue, id);
     if (!open || !control || owEnqWidgetStatus(open->handles.at(id)) == OUNSELECTABLE) return;
+    running = id;
     if (control->changed) control->changed();
     refresh(dialogue);
 }
@@ -155,8 +160,12 @@ void keyPressed() {
     const auto open = std::ranges::find(stack, window, &Open::window);
     if (open == stack.end()) return;
     for (const DialogueKey& key : open->dialogue->keys)
-        if (key.key == action.key && (!key.within || liesIn(*open, active, key.within)))
-            return press(*open->dialogue, key.control);
+        if (key.key == action.key && (!key.within || liesIn(*open, active, key.within))) {
+            const Dialogue& dialogue = *open->dialogue;
+            if (!key.pressed) return press(dialogue, key.control);
+            key.pressed();
+            return refresh(dialogue);
+        }
 }
 
 void windowEvent(const Dialogue& dialogue) {
@@ -264,6 +273,8 @@ void forgetDialogues() {
 }
 
 namespace dialogue {
+
+int sender() { return running; }
 
 int widget(int id) {
     const Found found = findControl(id);

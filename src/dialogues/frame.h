@@ -71,11 +71,13 @@ struct Control {
     short expand = 0;                   // 1: fills the window along each axis that is centred
 };
 
-// A key of the dialogue's own. It runs the handler of a control that is enabled.
+// A key of the dialogue's own. It runs the handler of a control that is enabled, or one of its own.
 struct DialogueKey {
-    int key = 0;     // KeyCode
-    int control = 0; // id
-    int within = 0;  // id of the control that must have the focus, 0 for any
+    int key = 0;                 // KeyCode
+    int control = 0;             // id
+    int within = 0;              // id of the control that must have the focus, 0 for any
+    void (*pressed)() = nullptr; // instead of a control's
+    int without = 0;             // id of a control that keeps the key, 0 for none
 };
 
 struct Dialogue {
@@ -107,6 +109,8 @@ void forgetDialogues(); // the toolkit is about to end
 namespace dialogue {
 
 inline constexpr int ENTRY_EVENT = 15990; // callback of the entries of trees, which leads to the row of the tree
+
+int sender(); // id of the control whose handler runs
 
 // Controls of the open dialogues by their ids, the topmost dialogue first.
 int widget(int id); // handle, 0 for none

@@ -64,6 +64,15 @@ PROPERTY_EDIT(editBackgroundImage);
 // icon, open icon.
 bool mayReplaceEntryIcons(const WidgetNode& treeView, int position);
 
+// What is known of a chosen picture beside its name: `format` and `iconId` of the record.
+struct PictureKind {
+    int format, number;
+};
+
+// A chosen icon into the field of its row, and its kind if that is the widget's; the user was asked what has to be
+// asked.
+void setIcon(WidgetNode& target, const PropertyRow& row, const std::string& name, const PictureKind* kind);
+
 // ---- What the handlers share.
 
 // Stores the value in the row's field, sets the live property and does what the row says follows.

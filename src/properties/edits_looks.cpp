@@ -3,6 +3,7 @@
 
 #include "menu-c.h"
 #include "platform/letters.h"
+#include "project/bitmap_file.h"
 #include "project/host.h"
 #include "project/tree.h"
 #include "project/widget_types.h"
@@ -10,7 +11,6 @@
 #include "surface/state.h"
 
 #include <cstdlib>
-#include <fstream>
 
 namespace {
 
@@ -28,23 +28,12 @@ void removeImage(WidgetNode& painted) {
     painted.format = 0;
 }
 
-enum class Image { Fine, Missing, Other };
-
-Image checkBitmap(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    if (!file) return Image::Missing;
-    char head[2] = {};
-    file.read(head, sizeof head);
-    return head[0] == 'B' && head[1] == 'M' ? Image::Fine : Image::Other;
-}
-
 bool refusesImage(const std::string& path) {
     switch (checkBitmap(path)) {
-    case Image::Fine: return false;
-    case Image::Missing: host.errorBox("File not found", "The requested file could not be found"); return true;
-    case Image::Other: host.errorBox("File format not valid", "File is not a BMP format bitmap"); return true;
+    case Bitmap::Missing: host.errorBox("File not found", "The requested file could not be found"); return true;
+    case Bitmap::NotBitmap: host.errorBox("File format not valid", "File is not a BMP format bitmap"); return true;
+    default: return false;
     }
-    return true;
 }
 
 // An icon of a tree entry by its position, counted from 1.
@@ -113,7 +102,15 @@ void editPointSize(WidgetNode& target, const PropertyRow& row, const CellInput& 
 
 void editIcon(WidgetNode& target, const PropertyRow& row, const CellInput& input) {
     if (target.type == TYPE_TREE_VIEW && !mayReplaceEntryIcons(target, iconPosition(row.id))) return;
-    storeIcon(target, row, input.text);
+    setIcon(target, row, input.text, nullptr);
+}
+
+void setIcon(WidgetNode& target, const PropertyRow& row, const std::string& name, const PictureKind* kind) {
+    storeIcon(target, row, name);
+    if (kind) {
+        target.format = kind->format;
+        target.iconId = kind->number;
+    }
     if (target.onToolbar)
         rebuildFormOf(target);
     else

@@ -3,6 +3,7 @@
 #include "codegen/generate.h"
 #include "compile/catalogue.h"
 #include "compile/execute.h"
+#include "dialogues/editors.h"
 #include "dialogues/frame.h"
 #include "dialogues/widget_defaults.h"
 #include "editing/modes.h"
@@ -67,6 +68,7 @@ void buildWindows() {
     buildMasterWindow();
     selectTool(TOOL_SELECTOR);
     if (preferences.syntaxColours && !loadSyntaxAttributes()) syntaxNotAvailable();
+    joinEditors();
     buildControlWindows();
     joinBuildToWindows();
     joinProjectDialogues();

@@ -3,6 +3,7 @@
 
 #include "menu-c.h"
 #include "surface/hooks.h"
+#include "surface/live.h"
 
 #include <string>
 #include <vector>
@@ -42,17 +43,18 @@ int createTreeRow(const WidgetNode& box, const MenuEntryRec& entry, int parent) 
 
 } // namespace
 
-void buildLiveMenu(WidgetNode& form) {
-    if (form.entries.empty()) return;
-    Levels levels{{owCreateMenuBar(form.handle)}};
+int createLiveMenu(int window, std::vector<MenuEntryRec>& entries) {
+    if (entries.empty()) return 0;
+    const int bar = owCreateMenuBar(window);
+    Levels levels{{bar}};
     const MenuEntryRec* before = nullptr;
-    for (MenuEntryRec& entry : form.entries) {
+    for (MenuEntryRec& entry : entries) {
         switch (entry.kind) {
         case MENU_BAR: entry.handle = levels.at(0); break;
         case MENU_PULL_DOWN:
             if (!before) break;
             entry.handle = owCreatePullDownMenu(before->handle);
-            levels.open(levelBelow(form.entries, entry, before), entry.handle);
+            levels.open(levelBelow(entries, entry, before), entry.handle);
             break;
         case MENU_ENTRY:
             entry.handle = owCreateMenuEntry(levels.at(entry.level), entry.label.c_str(), owAccel, entry.accel, owHelp,
@@ -69,7 +71,30 @@ void buildLiveMenu(WidgetNode& form) {
         default: break;
         }
     }
-    hooks.menuChanged(form);
+    return bar;
+}
+
+void buildLiveMenu(WidgetNode& form) {
+    if (createLiveMenu(form.handle, form.entries)) hooks.menuChanged(form);
+}
+
+void eraseLiveMenu(WidgetNode& form) {
+    if (form.entries.empty() || form.entries.front().handle <= 0) return;
+    owEraseWidget(form.entries.front().handle);
+    for (MenuEntryRec& entry : form.entries) entry.handle = entry.callbackId = 0;
+}
+
+void eraseLiveStatusBar(WidgetNode& form) {
+    if (!form.statusBar || form.statusBar->handle <= 0) return;
+    owEraseWidget(form.statusBar->handle);
+    form.statusBar->handle = 0;
+}
+
+void keepClientSize(WidgetNode& form) {
+    setGridMode(project.gridMode);
+    owSetWidgetProp(form.handle, owWidth, form.width, owHeight, form.height, 0);
+    setGridMode(0);
+    redrawWidget(form, true);
 }
 
 void buildLiveStatusBar(WidgetNode& form) {

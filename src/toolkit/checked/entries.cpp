@@ -346,6 +346,7 @@ constexpr Fn beforeMaster[] = {
     Fn::owAddSyntaxKeyword,
     Fn::owSetSyntaxFont,
     Fn::owEnqSyntaxFont,
+    Fn::owEnqIconPicture,
     Fn::owEnqResourceImageInfo,
     Fn::owDispatch,
 };

@@ -69,6 +69,12 @@ Word enqResourceImageInfo(const Arguments& call) {
     return stock || !image.isNull() ? 1 : 0;
 }
 
+Word enqIconPicture(const Arguments& call) {
+    const QString picture = icons::pictureBehind(call.text(0));
+    call.giveText(1, picture);
+    return picture.isEmpty() ? 0 : 1;
+}
+
 Word enqClipboardStatus(const Arguments& call) {
     const QMimeData* held = QGuiApplication::clipboard()->mimeData();
     if (!held) return 0;
@@ -89,6 +95,7 @@ const Registration registration({{Fn::owDisplayMessageBox, displayMessageBox},
                                  {Fn::owGetIconResource, getIconResource},
                                  {Fn::owGetBitmapResource, getIconResource},
                                  {Fn::owEnqResourceImageInfo, enqResourceImageInfo},
+                                 {Fn::owEnqIconPicture, enqIconPicture},
                                  {Fn::owEnqClipboardStatus, enqClipboardStatus}});
 
 } // namespace

@@ -808,6 +808,7 @@ int owDisplayHelp(const char* file, const char* topic);
 int owGetIconResource(const char* name);   /* a picture by name, above 0; 0 for an empty name */
 int owGetBitmapResource(const char* name);
 int owGetCursorResource(const char* name);
+int owEnqIconPicture(const char* name, char* buffer, int length); /* what a stock name shows, in words; 0 for others */
 int owEnqResourceImageInfo(const char* name, int* width, int* height);
 void owDrawImage(const char* file, double xpos, double ypos, double width, double height); /* in the active frame */
 int owDumpImage(int frame, const char* file); /* saves what a frame or widget shows as PNG; 1 done */

@@ -260,6 +260,12 @@ void useTheme() {
     QIcon::setThemeName(isDark() ? QStringLiteral("breeze-dark") : QStringLiteral("breeze"));
 }
 
+QString pictureBehind(const QString& name) {
+    const StockPicture row = stockPicture(name);
+    const std::string_view picture = row.theme.empty() ? row.drawing : row.theme;
+    return QString::fromLatin1(picture.data(), static_cast<qsizetype>(picture.size()));
+}
+
 bool iconExists(const QString& name) { return !stockPicture(name).name.empty() || !pictureFile(name).isEmpty(); }
 
 QPixmap imageFromFile(const QString& path) {

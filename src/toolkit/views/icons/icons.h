@@ -24,6 +24,9 @@ QIcon iconByName(const QString& name);
 // True when the name leads to a picture: a stock name, or an image file that can be read.
 bool iconExists(const QString& name);
 
+// What a stock name shows: the name of its picture in the theme, or of our own drawing; empty for other names.
+QString pictureBehind(const QString& name);
+
 // An image as large as its file says, for bitmaps and backgrounds; null when there is none.
 QPixmap imageFromFile(const QString& path);
 
