@@ -28,6 +28,7 @@ std::span<const Command> preferencesCommands();
 std::span<const Command> projectSettingsCommands();
 std::span<const Command> projectTypeCommands();
 std::span<const Command> snapDialogueCommands();
+std::span<const Command> statusBarEditorCommands();
 std::span<const Command> syntaxCommands();
 
 std::vector<Command> dialogueCommands(); // the rows of the room

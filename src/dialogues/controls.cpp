@@ -49,6 +49,12 @@ int createText(const Control& control, int parent, const Frame& at, int length, 
                              control.help ? control.help : "", 0);
 }
 
+int createRichText(const Control& control, int parent, const Frame& at) {
+    return owCreateTextEntry(parent, at.x, at.y, at.width, at.height, "", -control.length, OEDIT, owHpos, control.hpos,
+                             owVpos, control.vpos, owExpand, control.expand, owEntryType, ORICHEDIT, owOLEInserts, 0,
+                             owCallback, control.id, owChangeCallback, control.typed ? FRAME_TYPED : 0, 0);
+}
+
 int createNumber(const Control& control, int parent, const Frame& at) {
     const bool limited = control.maximum > control.minimum;
     const double least = limited ? control.minimum : -1e9, most = limited ? control.maximum : 1e9;
@@ -142,6 +148,7 @@ int createControl(const Control& control, int parent, bool outermost, Scale scal
     case Field::Note: return createText(control, parent, at, LONG_TEXT, ODISPLAY, NATIVE_BORDER);
     case Field::Text: return createText(control, parent, at, -control.length, OEDIT, NATIVE_BORDER);
     case Field::Area: return createText(control, parent, at, control.length, OEDIT, NATIVE_BORDER);
+    case Field::RichArea: return createRichText(control, parent, at);
     case Field::Number: return createNumber(control, parent, at);
     case Field::Combo:
     case Field::Choice:

@@ -14,6 +14,10 @@ struct EditorRow {
 };
 
 constexpr EditorRow EDITORS[] = {
+    {Editor::List, openListEditor},
+    {Editor::Tree, openTreeEditor},
+    {Editor::PlainText, openPlainTextEditor},
+    {Editor::RichText, openRichTextEditor},
     {Editor::Icon, [](WidgetNode& widget) { chooseRowIcon(widget, ROW_ICON); }},
     {Editor::CloseIcon, [](WidgetNode& widget) { chooseRowIcon(widget, ROW_CLOSE_ICON); }},
     {Editor::OpenIcon, [](WidgetNode& widget) { chooseRowIcon(widget, ROW_OPEN_ICON); }},

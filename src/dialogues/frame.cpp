@@ -38,6 +38,11 @@ const Control* controlOf(const Dialogue& dialogue, int id) {
     return id == 0 || found == dialogue.controls.end() ? nullptr : &*found;
 }
 
+const DialogueCommand* commandOf(const Dialogue& dialogue, int id) {
+    const auto found = std::ranges::find(dialogue.commands, id, &DialogueCommand::id);
+    return found == dialogue.commands.end() ? nullptr : &*found;
+}
+
 struct Found {
     Open* open = nullptr;
     const Control* control = nullptr;
@@ -139,7 +144,14 @@ void run(Found found, void (*handler)()) {
     refresh(dialogue);
 }
 
+void runCommand(const Dialogue& dialogue, const DialogueCommand& command) {
+    running = command.id;
+    command.run();
+    refresh(dialogue);
+}
+
 void press(const Dialogue& dialogue, int id) {
+    if (const DialogueCommand* command = commandOf(dialogue, id)) return runCommand(dialogue, *command);
     const Open* open = openOf(dialogue);
     const Control* control = controlOf(dialogue, id);
     if (!open || !control || owEnqWidgetStatus(open->handles.at(id)) == OUNSELECTABLE) return;
@@ -261,6 +273,9 @@ bool dialogueEvent(int identifier) {
     if (frameEvent(identifier)) return true;
     for (auto open = stack.rbegin(); open != stack.rend(); ++open)
         if (identifier == open->dialogue->windowEvent) return windowEvent(*open->dialogue), true;
+    for (auto open = stack.rbegin(); open != stack.rend(); ++open)
+        if (const DialogueCommand* command = commandOf(*open->dialogue, identifier))
+            return runCommand(*open->dialogue, *command), true;
     const Found found = findControl(identifier);
     if (!found.control) return false;
     if (refused == 0 || !isButton(found.control->field)) run(found, found.control->changed);
@@ -324,7 +339,8 @@ void setText(int id, const std::string& text) {
     case Field::Label:
     case Field::Note:
     case Field::Text:
-    case Field::Area: owSetTextSetting(handle, text.c_str(), 0); break;
+    case Field::Area:
+    case Field::RichArea: owSetTextSetting(handle, text.c_str(), 0); break;
     case Field::Page:
     case Field::Panel: owSetWidgetProp(handle, owTitle, text.c_str(), 0); break;
     default: owSetWidgetProp(handle, owLabel, text.c_str(), 0); break;

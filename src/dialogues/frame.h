@@ -34,6 +34,7 @@ enum class Field : unsigned char {
     Note,       // text that the program sets
     Text,       // one line of at most `length` bytes
     Area,       // many lines
+    RichArea,   // many lines of rich text
     Number,     // at most `length` digits, `decimals` of them behind the point; between minimum and maximum, if any
     Combo,      // a drop-down list whose text can be typed
     Choice,     // a drop-down list
@@ -80,6 +81,12 @@ struct DialogueKey {
     int without = 0;             // id of a control that keeps the key, 0 for none
 };
 
+// An event of the dialogue that no control sends: of a menu entry or of a button on a bar that `fill` has made.
+struct DialogueCommand {
+    int id = 0;
+    void (*run)() = nullptr;
+};
+
 struct Dialogue {
     const char* title = "";
     const char* icon = "";      // name of the window's icon
@@ -87,6 +94,7 @@ struct Dialogue {
     short width = 0, height = 0;
     int windowEvent = 0; // identifier of the window's events
     std::span<const Control> controls = {};
+    std::span<const DialogueCommand> commands = {};
     int cancel = 0; // id of the control that Esc and the close box press; 0: they close the dialogue
     int first = 0;  // id of the control that has the focus at first; 0: the default button
     void (*fill)() = nullptr;
@@ -110,7 +118,7 @@ namespace dialogue {
 
 inline constexpr int ENTRY_EVENT = 15990; // callback of the entries of trees, which leads to the row of the tree
 
-int sender(); // id of the control whose handler runs
+int sender(); // id of the control or command whose handler runs
 
 // Controls of the open dialogues by their ids, the topmost dialogue first.
 int widget(int id); // handle, 0 for none

@@ -98,9 +98,11 @@ void keepClientSize(WidgetNode& form) {
 }
 
 void buildLiveStatusBar(WidgetNode& form) {
-    if (!form.statusBar) return;
-    StatusBarRec& bar = *form.statusBar;
-    bar.handle = owCreateStatusBar(form.handle, owPanes, bar.panes, owSizes, bar.sizes.data(), 0);
+    if (form.statusBar) createLiveStatusBar(form.handle, *form.statusBar);
+}
+
+void createLiveStatusBar(int window, StatusBarRec& bar) {
+    bar.handle = owCreateStatusBar(window, owPanes, bar.panes, owSizes, bar.sizes.data(), 0);
     for (int pane = 0; pane < bar.panes; ++pane) owSetStatusBarText(bar.handle, pane, bar.texts[pane].c_str());
 }
 

@@ -26,6 +26,7 @@ int createdKeyword(WidgetType type, int WidgetNode::*field);
 int createLiveMenu(int window, std::vector<MenuEntryRec>& entries);
 void buildLiveMenu(WidgetNode& form);      // menu bar of a form
 void eraseLiveMenu(WidgetNode& form);      // before its entries change
+void createLiveStatusBar(int window, StatusBarRec& bar); // writes its handle
 void eraseLiveStatusBar(WidgetNode& form); // the same
 void keepClientSize(WidgetNode& form);     // a bar came or went: the form's own area is as large as before
 void buildLiveStatusBar(WidgetNode& form); // status bar of a form
