@@ -1,6 +1,7 @@
 #include "dialogues/commands.h"
 
 std::vector<Command> dialogueCommands() {
-    return joined({defaultsCommands(), menuEditorCommands(), preferencesCommands(), projectSettingsCommands(),
-                   projectTypeCommands(), snapDialogueCommands(), statusBarEditorCommands(), syntaxCommands()});
+    return joined({catalogueCommands(), defaultsCommands(), findCommands(), menuEditorCommands(), preferencesCommands(),
+                   projectSettingsCommands(), projectTypeCommands(), snapDialogueCommands(), statusBarEditorCommands(),
+                   syntaxCommands()});
 }

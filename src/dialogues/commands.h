@@ -22,7 +22,9 @@ enum DialogueCommandId : int {
 };
 
 // The rows of each file, where its handlers stand.
+std::span<const Command> catalogueCommands();
 std::span<const Command> defaultsCommands();
+std::span<const Command> findCommands();
 std::span<const Command> menuEditorCommands();
 std::span<const Command> preferencesCommands();
 std::span<const Command> projectSettingsCommands();

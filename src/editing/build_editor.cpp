@@ -1,5 +1,6 @@
 #include "editing/build_editor.h"
 
+#include "editing/code_assist.h"
 #include "editing/code_editor.h"
 #include "editing/code_lists.h"
 #include "editing/commands.h"
@@ -18,7 +19,7 @@ namespace {
 // The head shows whole in a pane of the default width.
 constexpr int HEAD_HEIGHT = 50, BLOCK_WIDTH = 150, SELECTOR_LEFT = 160, SELECTOR_WIDTH = 214, ICONS_LEFT = 378;
 constexpr int ICON_SIZE = 22, ICON_TOP = 15, ICON_STEP = 29;
-constexpr int LINES_WIDTH = 64;        // of what the list of blocks tells beside a name
+constexpr int LINES_WIDTH = 64;       // of what the list of blocks tells beside a name
 constexpr int UNLIMITED = 2147483646; // characters
 
 struct EditorIcon {
@@ -98,9 +99,12 @@ void fillHooks() {
 void buildCodeEditor(int pane) {
     const WindowState& state = windowStates[WINDOW_CODE_EDITOR];
     editor = {};
+    forgetAssist();
     editor.pane = pane;
     const int body = owCreatePanel(pane, 0, 0, state.width, state.height, owVpos, OMIDDLE, owHpos, OCENTRE, owExpand, 1,
                                    owBorderType, ONOBOUNDARY, 0);
+    editor.body = body;
+    editor.textTop = HEAD_HEIGHT;
     const int head = owCreatePanel(body, 0, 0, state.width, HEAD_HEIGHT, owVpos, OTOP, owHpos, OCENTRE, owExpand, 1,
                                    owBorderType, ONOBOUNDARY, 0);
     editor.blockList = owCreateComboBox(head, 5, 22, BLOCK_WIDTH, 276, ONONE, ODISPLAY, owVpos, OTOP, owHelp,
@@ -108,7 +112,7 @@ void buildCodeEditor(int pane) {
     makeSelector(head);
     makeIcons(head);
     makeTexts(body, state.width, std::max(state.height - HEAD_HEIGHT, HEAD_HEIGHT));
-    owShowCodeView(editor.text, preferences.selectedIndent, CMD_CODE_ZOOM);
+    owShowCodeView(editor.text, preferences.selectedIndent, CMD_CODE_VIEW);
     refreshFont(false, 0);
     fillHooks();
 }

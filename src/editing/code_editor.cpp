@@ -2,6 +2,7 @@
 #include "editing/code_editor.h"
 
 #include "editing/block_list.h"
+#include "editing/code_assist.h"
 #include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/modes.h"
@@ -81,6 +82,7 @@ void showCurrentBlock() {
 void rememberCaret() { storePosition(); }
 
 void showBoundCode() {
+    removeAssist();
     showBlockSizes();
     selectBlockRow(project.currentBlockName);
     codeEditing.listPosition = positionOf(project.currentBlockName);

@@ -82,15 +82,7 @@ void printCodeCommand() {
     owSetActiveWidget(editor.text);
 }
 
-void codeHelpCommand() {
-    const std::string word = familyName(wordAtCaret());
-    const auto row =
-        std::ranges::find_if(HELP_FILES, [&](const HelpFile& file) { return word.starts_with(file.prefix); });
-    if (row == std::end(HELP_FILES)) return;
-    constexpr char VERSION[] = "85";
-    if (!showHelpFile(std::string(row->stem) + VERSION + ".chm", word))
-        host.errorBox("Error opening help file", std::string(row->library) + " help file could not be found");
-}
+void codeHelpCommand() { showRoutineHelp(wordAtCaret()); }
 
 // clang-format off
 constexpr Command COMMANDS[] = {
@@ -101,5 +93,15 @@ constexpr Command COMMANDS[] = {
 // clang-format on
 
 } // namespace
+
+void showRoutineHelp(const std::string& name) {
+    const std::string word = familyName(name);
+    const auto row =
+        std::ranges::find_if(HELP_FILES, [&](const HelpFile& file) { return word.starts_with(file.prefix); });
+    if (row == std::end(HELP_FILES)) return;
+    constexpr char VERSION[] = "85";
+    if (!showHelpFile(std::string(row->stem) + VERSION + ".chm", word))
+        host.errorBox("Error opening help file", std::string(row->library) + " help file could not be found");
+}
 
 std::span<const Command> codeFileCommands() { return COMMANDS; }

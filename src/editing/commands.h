@@ -84,7 +84,8 @@ enum EditingCommandId : int {
     CMD_VIEWER_CARET = 15808,
     CMD_VIEWER_GOTO = 15820,
     CMD_ALL_NAMES = 18079,
-    CMD_CODE_ZOOM = 19970, // Ctrl with the wheel over the code
+    CMD_GO_TO_LINE = 19968,
+    CMD_CODE_VIEW = 19970, // Ctrl with the wheel over the code, or with Space
     CMD_TEXT_MENU = 19980, // the pull-down entry itself; it sends nothing
 };
 

@@ -42,7 +42,7 @@ void refreshFont(bool marks, int modifiedValue) {
         owSetFontAttribs(text, owFontFace, CODE_FONT, owPointSize, preferences.codePointSize, 0);
         select(text, range);
     }
-    owShowCodeView(text, preferences.selectedIndent, CMD_CODE_ZOOM);
+    owShowCodeView(text, preferences.selectedIndent, CMD_CODE_VIEW);
     owDefineChangeCallback(text, CMD_CODE_CHANGED);
     if (!marks) return;
     codeEditing.codeModified = modifiedValue != 0;

@@ -5,6 +5,8 @@
 
 struct EditorWindow {
     int pane = 0;
+    int body = 0;    // fills the pane
+    int textTop = 0; // pixels of the body above the text
     int text = 0;
     int hiddenText = 0; // plain, never shown: reads files
     int blockList = 0;

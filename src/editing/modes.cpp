@@ -1,5 +1,6 @@
 #include "editing/modes.h"
 
+#include "editing/code_assist.h"
 #include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "menu-c.h"
@@ -29,6 +30,7 @@ void install(bool text) {
 
 void inputMoved(int widget) {
     const bool text = widget == codeText();
+    if (!text) removeAssist();
     if (text) {
         design.codeFocus = 1;
         design.helpContext = "Code Editor";
@@ -42,4 +44,9 @@ void enterTextMode() {
     inputMoved(codeText());
 }
 
-void leaveTextMode() { install(false); }
+void leaveTextMode() {
+    removeAssist();
+    install(false);
+}
+
+bool inTextMode() { return textMode; }

@@ -1,5 +1,6 @@
 // Commands on the text of the code editor.
 
+#include "editing/code_assist.h"
 #include "editing/commands.h"
 #include "editing/editor_window.h"
 #include "editing/text_view.h"
@@ -141,6 +142,7 @@ void textNotification(bool changed) {
     if (changed) markModified();
     showHistory();
     followCaret();
+    assistAfterKey(changed);
 }
 
 void codeChangedCommand() { textNotification(action.status == 1); }
@@ -195,7 +197,8 @@ void textRedoCommand() {
     showHistory();
 }
 
-void codeZoomCommand() {
+void codeViewCommand() {
+    if (action.status == 0) return offerWordsNow();
     preferences.codePointSize =
         std::clamp(preferences.codePointSize + action.status, SMALLEST_CODE_FONT, LARGEST_CODE_FONT);
     refreshFont(false, 0);
@@ -215,7 +218,8 @@ constexpr Command COMMANDS[] = {
     {.id = CMD_TEXT_TAB, .key = OKEYTAB, .keyModes = IN_TEXT, .handler = textTabCommand},
     {.id = CMD_CODE_CHANGED, .handler = codeChangedCommand},
     {.id = CMD_CODE_SELECT, .handler = caretMovedCommand},
-    {.id = CMD_CODE_ZOOM, .handler = codeZoomCommand},
+    {.id = CMD_CODE_VIEW, .handler = codeViewCommand},
+    {.id = CMD_CODE_TEXT, .handler = removeAssist},
     {.id = CMD_INDENT, .handler = indentCommand},
     {.id = CMD_UNINDENT, .key = OKEYSHIFTTAB, .keyModes = IN_TEXT, .handler = unindentCommand},
     {.id = CMD_COMMENT, .handler = commentCommand},

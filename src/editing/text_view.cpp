@@ -19,6 +19,8 @@ std::string textOf(int text) {
     return buffer;
 }
 
+std::string linesOf(int text) { return extract(text, {1, textLength(text) + 1}); }
+
 TextRange selectionOf(int text) {
     TextRange range;
     owEnqSelectedTextRange(text, &range.start, &range.end, 0);

@@ -9,8 +9,9 @@ struct TextRange {
     int end = 1;
 };
 
-std::string textOf(int text); // all of it, plain
-int textLength(int text);     // characters
+std::string textOf(int text);  // all of it, plain
+std::string linesOf(int text); // the same with plain line ends, as positions count them
+int textLength(int text);      // characters
 TextRange selectionOf(int text);
 void select(int text, TextRange range);
 void moveCaret(int text, int position);

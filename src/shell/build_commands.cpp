@@ -43,6 +43,7 @@ void compileAndRunCommand() { compileCommand(false); }
 void rebuildCommand() { compileCommand(true); }
 
 void stepToMessage(int step) {
+    if (stepInLog(step)) return;
     const int line = messageBeside(currentLogLine(), step);
     if (line == 0) return;
     showControlWindow(CMD_VIEW_COMPILER_LOG);

@@ -7,11 +7,16 @@
 #include "shell/commands.h"
 #include "surface/event.h"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace {
 
 constexpr int LOG_CAPACITY = 2500; // lines that the list holds
 
 int logList = 0;
+void (*lineChosen)(int line) = nullptr; // null: the compiler's messages
+int lineCount = 0;
 
 } // namespace
 
@@ -23,13 +28,32 @@ void buildCompilerLog(int pane) {
 
 int logWidget() { return logList; }
 
-void clearLog() { owSetListEntry(logList, OCLEAR, 0); }
+void clearLog() {
+    lineChosen = nullptr;
+    lineCount = 0;
+    owSetListEntry(logList, OCLEAR, 0);
+}
 
 void appendLogLine(const std::string& line) { owSetListEntry(logList, OADD, owString, line.c_str(), 0); }
 
 void setLogLines(const std::vector<std::string>& lines) {
     clearLog();
     for (const std::string& line : lines) appendLogLine(line);
+}
+
+void showLogLines(const std::vector<std::string>& lines, void (*chosen)(int)) {
+    setLogLines({lines.begin(), lines.begin() + std::min<std::ptrdiff_t>(std::ssize(lines), LOG_CAPACITY)});
+    lineCount = static_cast<int>(std::min<std::ptrdiff_t>(std::ssize(lines), LOG_CAPACITY));
+    lineChosen = chosen;
+}
+
+bool stepInLog(int step) {
+    if (!lineChosen) return false;
+    const int line = currentLogLine() + step;
+    if (line < 1 || line > lineCount) return true;
+    selectLogLine(line);
+    lineChosen(line);
+    return true;
 }
 
 void selectLogLine(int line) { owSetListEntry(logList, OSELECT, owEntry, line, 0); }
@@ -48,7 +72,9 @@ void setLogFont() {
 namespace {
 
 void logPlaceCommand() {
-    if (const int line = currentLogLine(); line > 0) logEntryChosen(line);
+    const int line = currentLogLine();
+    if (line <= 0) return;
+    lineChosen ? lineChosen(line) : logEntryChosen(line);
 }
 
 // Who walks through the log with the keys goes on doing so.

@@ -48,7 +48,7 @@ constexpr MenuRow MENU_BAR_ROWS[] = {
         RULE,
         item(CMD_CUT), item(CMD_COPY), item(CMD_DUPLICATE), item(CMD_PASTE), item(CMD_DELETE), item(CMD_DELETE_MENU_BAR),
         RULE,
-        item(CMD_FIND), item(CMD_FIND_NEXT), item(CMD_REPLACE),
+        item(CMD_FIND), item(CMD_FIND_NEXT), item(CMD_REPLACE), item(CMD_GO_TO_LINE),
         RULE,
         item(CMD_UNADOPT),
         RULE,

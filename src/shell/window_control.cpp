@@ -108,6 +108,10 @@ void buildMasterWindow() {
     hooks.keysChanged = bindKeys;
     hooks.parkKeys = parkKeys;
     hooks.giveInputBack = giveInputBack;
+    hooks.showLog = [](const std::vector<std::string>& lines, void (*chosen)(int)) {
+        showControlWindow(CMD_VIEW_COMPILER_LOG);
+        showLogLines(lines, chosen);
+    };
     hooks.showCodeEditor = [] { showControlWindow(CMD_VIEW_CODE_EDITOR); };
     hooks.drawControlWindows = [] {
         owDrawWidget(windowStates[WINDOW_HIERARCHY].handle);

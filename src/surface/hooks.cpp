@@ -13,6 +13,7 @@ SurfaceHooks hooks = {
     .giveInputBack = [] {},
     .drawControlWindows = [] {},
     .showCodeEditor = [] {},
+    .showLog = [](const std::vector<std::string>&, void (*)(int)) {},
     .formFileForgotten = [] {},
     .showProperties = [](WidgetNode*) {},
     .refreshProperties = [] {},

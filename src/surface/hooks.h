@@ -6,6 +6,7 @@
 #include "project/records.h"
 
 #include <string>
+#include <vector>
 
 enum StatusPane : int { PANE_SELECTION = 0, PANE_LINE = 1, PANE_COLUMN = 2 };
 
@@ -27,7 +28,9 @@ struct SurfaceHooks {
     void (*giveInputBack)();      // to what had it before a dialogue
     void (*drawControlWindows)(); // hierarchy and compiler log
     void (*showCodeEditor)();     // its pane, if it is hidden
-    void (*formFileForgotten)();  // the remembered form file name is emptied
+    // Lines in the place of the compiler's messages; a click on one calls `chosen` with its number, from 1.
+    void (*showLog)(const std::vector<std::string>& lines, void (*chosen)(int line));
+    void (*formFileForgotten)(); // the remembered form file name is emptied
 
     // Filled by the property sheet.
     void (*showProperties)(WidgetNode* widget); // null: an empty table

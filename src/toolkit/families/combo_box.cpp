@@ -7,7 +7,6 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QCompleter>
 #include <QFocusEvent>
 #include <QLineEdit>
 
@@ -131,7 +130,8 @@ void watch(Widget& widget) {
     });
     if (!combo.lineEdit()) return;
     combo.setInsertPolicy(QComboBox::NoInsert);
-    combo.completer()->setCompletionMode(QCompleter::PopupCompletion);
+    // Else a text that differs from a row by case alone becomes that row.
+    combo.setCompleter(nullptr);
     QObject::connect(combo.lineEdit(), &QLineEdit::editingFinished, &combo, [handle] {
         Widget* typed = widgetOf(handle);
         if (!typed) return;

@@ -6,9 +6,11 @@
 #include <QDropEvent>
 #include <QFocusEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTimer>
+#include <QToolTip>
 #include <QTreeWidget>
 #include <unordered_map>
 
@@ -98,6 +100,15 @@ protected:
         }
         const bool onArrow = event->position().x() < visualItemRect(pressed).left();
         if (event->button() == Qt::LeftButton && !onArrow) chosen(pressed, before, event->position());
+    }
+    // The bubble of an entry, also of one that cannot be chosen.
+    bool viewportEvent(QEvent* event) override {
+        if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const Widget* entry = widgetOf(handleOf(itemAt(help->pos())));
+        if (!entry || entry->help.isEmpty()) return QTreeWidget::viewportEvent(event);
+        QToolTip::showText(help->globalPos(), entry->help, viewport());
+        return true;
     }
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         QTreeWidget::mouseDoubleClickEvent(event);

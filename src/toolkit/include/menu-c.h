@@ -755,9 +755,9 @@ void owSetSelectedTextRange(int text, int start, int end);      /* 1, 0 or 1, -1
 void owEnqSelectedText(int text, char* buffer, int length);
 void owMarkTextLine(int text, int line);                        /* shades a line, from 1, until the text changes; 0: none */
 /* A text entry of many lines as an editor of code: line numbers, the current line, matching brackets, guides every
- * `indent` blanks, Returns that indent. Ctrl with the wheel sends the callback with status 1 up and -1 down. There
- * owMarkTextLine holds until the line is edited. */
-void owShowCodeView(int text, int indent, int zoomCallback);
+ * `indent` blanks, Returns that indent. Ctrl with the wheel sends the callback with status 1 up and -1 down, with Space 0.
+ * There owMarkTextLine holds until the line is edited. */
+void owShowCodeView(int text, int indent, int callback);
 /* Underlines `length` characters, 0 for a word, at a line and column from 1, with words for a bubble and a mark beside
  * the line, until it is edited. Line 0 takes all away. */
 void owMarkTextFinding(int text, int line, int column, int length, int error, const char* words);

@@ -27,13 +27,13 @@ void owMarkTextLine(int text, int line) {
     if (TextEntry* entry = entryOf(text)) entry->markLine(line);
 }
 
-void owShowCodeView(int text, int indent, int zoomCallback) {
+void owShowCodeView(int text, int indent, int callback) {
     TextEntry* entry = entryOf(text);
     if (!entry) return;
     entry->makeCodeView();
     if (!entry->codeView()) return;
     entry->codeView()->setIndentStep(indent);
-    entry->codeView()->setZoom([=](int steps) { postIdentifier(zoomCallback, text, 0, steps); });
+    entry->codeView()->setAsked([=](int steps) { postIdentifier(callback, text, 0, steps); });
 }
 
 void owMarkTextFinding(int text, int line, int column, int length, int error, const char* words) {

@@ -280,7 +280,7 @@ bool CodeView::wheel(const QWheelEvent& event) {
     wheelRest_ += event.angleDelta().y();
     const int steps = wheelRest_ / NOTCH;
     wheelRest_ -= steps * NOTCH;
-    if (steps != 0 && zoom_) zoom_(steps);
+    if (steps != 0 && asked_) asked_(steps);
     return true;
 }
 
@@ -314,6 +314,10 @@ bool CodeView::eventFilter(QObject* watched, QEvent* event) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool plain = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
         if (plain && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) && newLine()) return true;
+        if (key->key() == Qt::Key_Space && key->modifiers() == Qt::ControlModifier) {
+            if (asked_) asked_(0);
+            return true;
+        }
         break;
     }
     case QEvent::Wheel:

@@ -23,7 +23,8 @@ public:
 
     void setLanguage(SyntaxLanguage language) { language_ = language; }
     void setIndentStep(int blanks);
-    void setZoom(std::function<void(int steps)> zoom) { zoom_ = std::move(zoom); }
+    // Asked for larger or smaller letters in steps, or for words with 0.
+    void setAsked(std::function<void(int steps)> asked) { asked_ = std::move(asked); }
     void documentExchanged(); // the edit shows another document: marks go, what follows the text follows the new one
 
     void markLine(int line); // the line of an error, from 1, until it is edited; 0: none
@@ -68,7 +69,7 @@ private:
     QTextEdit* edit_;
     QWidget* margin_;
     std::function<void(int)> leftRoom_;
-    std::function<void(int)> zoom_;
+    std::function<void(int)> asked_;
     SyntaxLanguage language_ = SyntaxLanguage::None;
     int step_ = 3;
     QTextCursor errorAt_; // null for none
