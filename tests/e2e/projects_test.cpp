@@ -95,6 +95,7 @@ TEST(BuildingProjects, OfEachLanguageAndPlatformAnswer) {
         answerBrowser(program, "Create ORBAWIDG code", kind.name);
         const pid_t made = designer::startedProgram(program);
         ASSERT_GT(made, 0) << kind.name;
+        desk::settle(made);
         desk::click(button(made, "Button 1"));
         desk::waitFor(made, "the answer", desk::withText("pressed"));
         EXPECT_EQ(designer::close(program), 0);
@@ -123,6 +124,7 @@ TEST(BuildingProjects, ALibraryComesFromTheSettingsAlone) {
     answerBrowser(program, "Create ORBAWIDG code", "equations");
     const pid_t made = designer::startedProgram(program);
     ASSERT_GT(made, 0) << "it was not linked";
+    desk::settle(made);
     desk::click(button(made, "Solve"));
     desk::waitFor(made, "the solution", desk::withText("x = 1.0000   y = 3.0000"));
     desk::picture(std::string(ORBA_BINARY_DIR) + "/pictures/equations.png");
@@ -163,6 +165,7 @@ TEST(BuildingProjects, AListedSourceThatWasEditedIsCompiledAgain) {
     const auto runShows = [&](const std::string& words) {
         const pid_t made = designer::startedProgram(program);
         ASSERT_GT(made, 0);
+        desk::settle(made);
         desk::click(button(made, "OK"));
         desk::waitFor(made, words, desk::withText(words));
         desk::click(button(made, "Cancel"));
