@@ -1,7 +1,7 @@
 #include "dialogues/commands.h"
 
 std::vector<Command> dialogueCommands() {
-    return joined({catalogueCommands(), defaultsCommands(), findCommands(), menuEditorCommands(), preferencesCommands(),
-                   projectSettingsCommands(), projectTypeCommands(), snapDialogueCommands(), statusBarEditorCommands(),
-                   syntaxCommands()});
+    return joined({alignmentCommands(), catalogueCommands(), defaultsCommands(), findCommands(), menuEditorCommands(),
+                   preferencesCommands(), projectSettingsCommands(), projectTypeCommands(), snapDialogueCommands(),
+                   statusBarEditorCommands(), syntaxCommands()});
 }

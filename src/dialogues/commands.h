@@ -22,6 +22,7 @@ enum DialogueCommandId : int {
 };
 
 // The rows of each file, where its handlers stand.
+std::span<const Command> alignmentCommands();
 std::span<const Command> catalogueCommands();
 std::span<const Command> defaultsCommands();
 std::span<const Command> findCommands();

@@ -14,8 +14,7 @@ bool textMode = false;
 
 // The history of the text has to be asked again after a change of mode.
 void disableUndo() {
-    for (const int command : {CMD_TEXT_UNDO, CMD_TEXT_REDO})
-        hooks.commandStatus(command, OUNSELECTABLE);
+    for (const int command : {CMD_TEXT_UNDO, CMD_TEXT_REDO}) hooks.commandStatus(command, OUNSELECTABLE);
 }
 
 void install(bool text) {
@@ -48,5 +47,3 @@ void leaveTextMode() {
     removeAssist();
     install(false);
 }
-
-bool inTextMode() { return textMode; }

@@ -6,7 +6,6 @@ namespace {
 // clang-format off
 constexpr Command COMMANDS[] = {
     {.id = CMD_TAB_ORDER, .label = "Change Widget Tab Order...", .mnemonic = 'C'},
-    {.id = CMD_ALIGN, .label = "Align Widgets", .mnemonic = 'A', .when = STARTS_DISABLED},
 };
 // clang-format on
 
