@@ -94,7 +94,7 @@ void keepClientSize(WidgetNode& form) {
     setGridMode(project.gridMode);
     owSetWidgetProp(form.handle, owWidth, form.width, owHeight, form.height, 0);
     setGridMode(0);
-    redrawWidget(form, true);
+    redrawWidget(form, false); // a dialogue may stand above it
 }
 
 void buildLiveStatusBar(WidgetNode& form) {

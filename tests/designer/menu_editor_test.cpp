@@ -9,6 +9,7 @@
 #include "surface/dialogue_keys.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
@@ -16,6 +17,16 @@
 namespace robot = orba::testing;
 
 namespace {
+
+// Counts how often a window is brought to the front.
+struct RaiseWatch : QObject {
+    explicit RaiseWatch(QWidget* watched) : QObject(watched) { watched->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        raised += event->type() == QEvent::ZOrderChange || event->type() == QEvent::WindowActivate;
+        return false;
+    }
+    int raised = 0;
+};
 
 struct MenuEditor : testing::Test {
     Desk desk;
@@ -124,8 +135,10 @@ TEST_F(MenuEditor, AMenuIsMadeByTheMouse) {
     type("Open");
     press(ENTRY_RIGHT);
     press(ENTRY_INSERT);
+    auto& form = *new RaiseWatch(robot::frameOf(desk.form->handle));
     type("New");
     EXPECT_EQ(live(), "File(New Open )") << "shown while it is edited";
+    EXPECT_EQ(form.raised, 0) << "under the editor";
     press(ENTRY_DOWN);
     press(ENTRY_SEPARATOR);
     press(ENTRY_PREV);

@@ -173,6 +173,8 @@ TEST(Properties, ButtonsNeedTheirEditors) {
         owEnqPropertySetting(propertyList(), owPropertyItemNumber(propertyList(), label), owPropertyKind, &kind, 0);
         return kind;
     };
+    const auto hasEditor = hooks.hasEditor;
+    hooks.hasEditor = [](Editor) { return false; };
     desk.place(PLACE_LIST, desk.panel, 10, 20);
     EXPECT_FALSE(desk.propertyEnabled("Entries"));
     desk.place(PLACE_TEXT_ENTRY, desk.panel, 10, 100);
@@ -184,10 +186,9 @@ TEST(Properties, ButtonsNeedTheirEditors) {
     desk.click(desk.panel, 300, 5);
     EXPECT_EQ(kindOf("Icon"), OPROPTEXT);
     EXPECT_TRUE(desk.propertyEnabled("Icon"));
-    hooks.hasEditor = [](Editor) { return true; };
+    hooks.hasEditor = hasEditor;
     selectWidget(project.currentWidget);
     EXPECT_EQ(kindOf("Icon"), OPROPBUTTON);
-    hooks.hasEditor = [](Editor) { return false; };
 }
 
 TEST(Properties, NumbersThatNoWidgetCanHaveAreRefused) {
