@@ -90,7 +90,6 @@ bool refuse(const char* title, const char* text) {
     return false;
 }
 
-
 // A radio box takes toggles that are radio buttons from the start.
 bool takes(const WidgetNode& parent, const ToolRow& tool) {
     const bool checkBox = parent.type == TYPE_RADIO_BOX && tool.tool != TOOL_RADIO_BUTTON;

@@ -52,8 +52,8 @@ bool liesWithin(const WidgetNode* node, const WidgetNode* root); // `node` is `r
 // Every change of the tree goes through these, so that lookups by name, by handle and of the parent stay current.
 // Every change of who owns a record, too: what is linked is given to the tree and returned, what is unlinked comes out.
 WidgetNode* appendForm(OwnedList form);
-void adoptForms(OwnedList first);                          // the same with a whole chain
-void moveFormToHead(WidgetNode* form);                     // of project.forms
+void adoptForms(OwnedList first);      // the same with a whole chain
+void moveFormToHead(WidgetNode* form); // of project.forms
 // Puts a form right behind another, or ahead of them all for null.
 WidgetNode* linkFormAfter(WidgetNode* previous, OwnedList form);
 WidgetNode* linkChild(WidgetNode& parent, OwnedList node); // behind the last child

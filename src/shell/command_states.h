@@ -31,7 +31,7 @@ void showPreferenceLabels();
 // Text mode: the code editor has the input. The shared entries of the Edit menu act on text.
 void setInputMode(bool text);
 void refreshInputMode(); // labels and keys anew, a preference has changed
-void showStepLabels(); // Undo and Redo of a form bear the names of the steps
+void showStepLabels();   // Undo and Redo of a form bear the names of the steps
 bool textModeInForce();
 
 // Compile goes with Rebuild All; the keys F5 and F6 follow.
