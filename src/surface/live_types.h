@@ -24,10 +24,10 @@ int createdKeyword(WidgetType type, int WidgetNode::*field);
 
 // A menu bar of a window from a chain, whose handles it writes; the handle of the bar, 0 for an empty chain.
 int createLiveMenu(int window, std::vector<MenuEntryRec>& entries);
-void buildLiveMenu(WidgetNode& form);      // menu bar of a form
-void eraseLiveMenu(WidgetNode& form);      // before its entries change
+void buildLiveMenu(WidgetNode& form);                    // menu bar of a form
+void eraseLiveMenu(WidgetNode& form);                    // before its entries change
 void createLiveStatusBar(int window, StatusBarRec& bar); // writes its handle
-void eraseLiveStatusBar(WidgetNode& form); // the same
+void eraseLiveStatusBar(WidgetNode& form);               // the same
 void keepClientSize(WidgetNode& form);     // a bar came or went: the form's own area is as large as before
 void buildLiveStatusBar(WidgetNode& form); // status bar of a form
 void buildLiveTree(WidgetNode& treeView);  // entries of a tree view

@@ -15,9 +15,7 @@ struct Row {
 
 struct MenuChain : testing::Test {
     WidgetNode* form = nullptr;
-    void SetUp() override {
-        form = freshProject();
-    }
+    void SetUp() override { form = freshProject(); }
 };
 
 using MenuEntries = std::vector<MenuEntryRec>;
