@@ -153,7 +153,6 @@ void showPlace(int line, int column) {
         moveCaret(editor.text, start + std::min(column - 1, length));
     else
         select(editor.text, {start, start + length});
-    owMarkTextLine(editor.text, line);
     showLineColumn(column > 0 ? start + std::min(column - 1, length) : start);
     hooks.showCodeEditor();
     enterTextMode();

@@ -67,11 +67,11 @@ void showLocation(const CodeLocation& location) {
         return;
     }
     showControlWindow(CMD_VIEW_CODE_EDITOR);
-    if (location.place == CodePlace::entrySlot) {
+    if (location.place == CodePlace::entrySlot)
         showEntryCode(location.widget, location.entry->name, placeName(location), location.line, location.column);
-        return;
-    }
-    showCode(placeName(location), location.widget, location.line, location.column);
+    else
+        showCode(placeName(location), location.widget, location.line, location.column);
+    owMarkTextLine(codeText(), location.line); // the compiler complains of it
 }
 
 } // namespace
