@@ -130,9 +130,12 @@ void bringUp(Effect& effect, const TimelineStep& step) {
 }
 
 void rebuildRows() {
-    project.widgetCount = 0;
     clearHierarchy();
-    for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) node->hierarchyItem = 0;
+    project.widgetCount = 0;
+    for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
+        node->hierarchyItem = 0;
+        if (node->type != TYPE_MAIN_PANEL) project.widgetCount++;
+    }
     buildHierarchy(project.forms);
 }
 
