@@ -7,7 +7,7 @@ enum FindId : int {
     FIND_REPLACE = 15162,
     FIND_REPLACE_ALL = 15163,
     FIND_UNDO = 15166,
-    FIND_TEXT = 15860,
+    FIND_TEXT = 15920,
     FIND_REPLACEMENT,
     FIND_DIRECTION,
     FIND_UP,
@@ -17,4 +17,4 @@ enum FindId : int {
     FIND_WINDOW,
 };
 
-enum GoToId : int { GO_TO_LINE = 15870, GO_TO_OK, GO_TO_CANCEL, GO_TO_WINDOW };
+enum GoToId : int { GO_TO_LINE = 15940, GO_TO_OK, GO_TO_CANCEL, GO_TO_WINDOW };
