@@ -3,7 +3,7 @@
 // what becomes of the entries on OK.
 #pragma once
 
-#include "dialogues/frame.h"
+#include "dialogues/row_editor.h"
 #include "project/records.h"
 
 enum EntryControl : int {
@@ -100,16 +100,6 @@ constexpr Control entryBrowse(int id, short y, void (*pressed)()) {
             .width = 22,
             .changed = pressed,
             .help = "Browse for more icons"};
-}
-constexpr Control entryButton(int id, const char* text, short y, char mnemonic, void (*pressed)()) {
-    return {.field = Field::Button,
-            .id = id,
-            .text = text,
-            .x = 242,
-            .y = y,
-            .width = 88,
-            .mnemonic = mnemonic,
-            .changed = pressed};
 }
 constexpr Control entryArrow(int id, const char* icon, short x, const char* help, void (*pressed)()) {
     return {.field = Field::Picture,

@@ -65,7 +65,7 @@ Found findHandleOf(int handle) {
 
 void createControls(Open& open, Scale scale) {
     for (const Control& control : open.dialogue->controls) {
-        assert(control.id == 0 || !hooks.hasCommand(control.id));
+        assert(control.id == 0 || (!hooks.hasCommand(control.id) && !findControl(control.id).control));
         const int parent = control.parent ? open.handles.at(control.parent) : open.window;
         const int handle = createControl(control, parent, control.parent == 0, scale);
         if (control.id) open.handles[control.id] = handle;

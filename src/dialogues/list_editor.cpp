@@ -182,17 +182,6 @@ void paste() {
 void accept();
 void cancel();
 
-constexpr Control button(int id, const char* text, short y, char mnemonic, void (*pressed)()) {
-    return {.field = Field::Button,
-            .id = id,
-            .text = text,
-            .x = 242,
-            .y = y,
-            .width = 88,
-            .mnemonic = mnemonic,
-            .changed = pressed};
-}
-
 constexpr short TOP = 198; // of the list
 
 constexpr Control CONTROLS[] = {
@@ -222,7 +211,7 @@ constexpr Control CONTROLS[] = {
      .width = 88,
      .mnemonic = 'O',
      .changed = accept},
-    button(LIST_CANCEL, "Cancel", TOP, 'C', cancel),
+    rowButton(LIST_CANCEL, "Cancel", TOP, 'C', cancel),
     {.field = Field::Picture,
      .id = LIST_UP,
      .text = "uarrow",
@@ -239,11 +228,11 @@ constexpr Control CONTROLS[] = {
      .width = 44,
      .changed = down,
      .help = "Down in the list (Alt+Down)"},
-    button(LIST_NEXT, "Next", 88, 'N', next),
-    button(LIST_PREV, "Prev", 66, 'P', previous),
-    button(LIST_INSERT, "Insert", 44, 'I', insert),
-    button(LIST_DELETE, "Delete", 22, 'D', remove),
-    button(LIST_DELETE_ALL, "Delete All", 0, 'A', removeAll),
+    rowButton(LIST_NEXT, "Next", 88, 'N', next),
+    rowButton(LIST_PREV, "Prev", 66, 'P', previous),
+    rowButton(LIST_INSERT, "Insert", 44, 'I', insert),
+    rowButton(LIST_DELETE, "Delete", 22, 'D', remove),
+    rowButton(LIST_DELETE_ALL, "Delete All", 0, 'A', removeAll),
     {.field = Field::List,
      .id = LIST_ROWS,
      .width = 242,

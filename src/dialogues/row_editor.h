@@ -8,6 +8,18 @@
 #include <string>
 #include <vector>
 
+// A button in the column beside the list.
+constexpr Control rowButton(int id, const char* text, short y, char mnemonic, void (*pressed)()) {
+    return {.field = Field::Button,
+            .id = id,
+            .text = text,
+            .x = 242,
+            .y = y,
+            .width = 88,
+            .mnemonic = mnemonic,
+            .changed = pressed};
+}
+
 // There is always a row to edit.
 template <class Row> struct Rows {
     std::vector<Row> rows = std::vector<Row>(1);

@@ -342,8 +342,8 @@ struct MissingSource {
     int stale = 1;
 };
 
-// What the user chooses for the project as a whole, beside its records.
-struct ProjectOptions {
+// What all forms and the whole source of a project depend on.
+struct ProjectKind {
     int projectLanguage = 90;   // 77, 90 or 99 (C)
     char projectPlatform = 'w'; // 'w' Windows, 'x' X-Windows, 'g' GLX-Windows
     int doubleBuffering = 0;
@@ -351,6 +351,11 @@ struct ProjectOptions {
     int gridVert = 27;
     int gridMode = 0;
     int scalable = 0;
+    bool operator==(const ProjectKind&) const = default;
+};
+
+// What the user chooses for the project as a whole, beside its records.
+struct ProjectOptions : ProjectKind {
     int snapOn = 1;
     int snapGrid = 10; // pixels
     int nextFormNumber = 1;
@@ -373,7 +378,7 @@ struct ProjectState : ProjectOptions {
     int gridPixelY = 22;
     int widgetCount = 0; // named records; main panels do not count
     int projectModified = 0;
-    int edits = 0; // made in this session: what differs from the count seen last was changed since
+    int edits = 0; // so many since the program began; tells the timeline whether there is something to compare
     int sourceStale = 1;
     std::vector<std::int64_t> sourceFileTimes; // 100 ns since 1601, one per row of the sources
     std::string sourceDir;

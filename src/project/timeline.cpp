@@ -179,14 +179,10 @@ void append(TimelineStep&& step) {
 
 // ---- Taking a step in either direction.
 
-// One direction of a step: where it leads, and in which order records hang there.
-struct Direction {
-    Image RecordChange::*from;
-    Image RecordChange::*to;
-    int RecordChange::*order;
-};
-constexpr Direction BACK = {&RecordChange::after, &RecordChange::before, &RecordChange::orderBefore};
-constexpr Direction FORTH = {&RecordChange::before, &RecordChange::after, &RecordChange::orderAfter};
+// In which order records hang at the end that a step leads to.
+int orderAt(const RecordChange& change, const StepEnds& ends) {
+    return ends.to == STEP_BACK.to ? change.orderBefore : change.orderAfter;
+}
 
 // Writes what the image holds; what hangs and lives stays. Menus and status bars that are equal stay too, with their
 // live sides.
@@ -207,7 +203,7 @@ OwnedList madeAnew(int id, const WidgetNode& image) {
     return node;
 }
 
-void apply(const TimelineStep& step, const Direction& direction) {
+void apply(const TimelineStep& step, const StepEnds& ends) {
     std::unordered_map<int, WidgetNode*> nodes; // found before any is unlinked, for what hangs below it is out as well
     for (const RecordChange& change : step.records)
         if (WidgetNode* node = findRecord(change.id)) nodes[change.id] = node;
@@ -216,7 +212,7 @@ void apply(const TimelineStep& step, const Direction& direction) {
         if (changesPlace(change) && nodes.contains(change.id)) loose[change.id] = unlinkNode(nodes[change.id]);
     std::vector<const RecordChange*> hanging;
     for (const RecordChange& change : step.records) {
-        const Image& target = change.*direction.to;
+        const Image& target = change.*ends.to;
         if (!target) continue;
         if (const auto held = nodes.find(change.id); held != nodes.end())
             write(*held->second, target->fields);
@@ -224,9 +220,9 @@ void apply(const TimelineStep& step, const Direction& direction) {
             loose[change.id] = madeAnew(change.id, target->fields);
         if (changesPlace(change)) hanging.push_back(&change);
     }
-    std::ranges::sort(hanging, {}, [&](const RecordChange* change) { return change->*direction.order; });
+    std::ranges::sort(hanging, {}, [&](const RecordChange* change) { return orderAt(*change, ends); });
     for (const RecordChange* change : hanging) {
-        const Image& target = change->*direction.to;
+        const Image& target = change->*ends.to;
         WidgetNode* previous = findRecord(target->previous);
         WidgetNode* parent = findRecord(target->parent);
         OwnedList node = std::move(loose[change->id]);
@@ -237,13 +233,13 @@ void apply(const TimelineStep& step, const Direction& direction) {
     }
 }
 
-void take(const TimelineStep& step, const Direction& direction) {
-    apply(step, direction);
-    takeImages(step.records, direction.to);
+void take(const TimelineStep& step, const StepEnds& ends) {
+    apply(step, ends);
+    takeImages(step.records, ends.to);
     timeline.order.clear();
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms))
         timeline.order.push_back(node->id);
-    const auto& settings = direction.to == &RecordChange::before ? step.settingsBefore : step.settingsAfter;
+    const auto& settings = ends.to == STEP_BACK.to ? step.settingsBefore : step.settingsAfter;
     if (!settings) return;
     static_cast<ProjectOptions&>(project) = *settings;
     timeline.settings = settings;
@@ -251,9 +247,16 @@ void take(const TimelineStep& step, const Direction& direction) {
 
 } // namespace
 
+bool comesOrGoes(const RecordChange& change) { return !change.before != !change.after; }
+
 bool changesPlace(const RecordChange& change) {
-    return !change.before || !change.after || change.before->parent != change.after->parent ||
+    return comesOrGoes(change) || change.before->parent != change.after->parent ||
            change.before->previous != change.after->previous;
+}
+
+bool onlyFollowsAnother(const RecordChange& change) {
+    return !comesOrGoes(change) && change.before->parent == change.after->parent &&
+           change.before->fields == change.after->fields;
 }
 
 void startTimeline() {
@@ -300,14 +303,14 @@ const TimelineStep* stepToRedo() {
 
 void undoStep() {
     if (const TimelineStep* step = stepToUndo()) {
-        take(*step, BACK);
+        take(*step, STEP_BACK);
         timeline.position--;
     }
 }
 
 void redoStep() {
     if (const TimelineStep* step = stepToRedo()) {
-        take(*step, FORTH);
+        take(*step, STEP_FORTH);
         timeline.position++;
     }
 }

@@ -63,5 +63,14 @@ bool timelineAtSaved();
 // Bytes that all steps together may take; the oldest are dropped beyond.
 inline constexpr std::size_t TIMELINE_BYTES = 64U << 20U;
 
-// The record hangs elsewhere, came or went.
-bool changesPlace(const RecordChange& change);
+// The two directions of a step: the side that it comes from, and the side that it leads to.
+struct StepEnds {
+    Image RecordChange::*from;
+    Image RecordChange::*to;
+};
+inline constexpr StepEnds STEP_BACK = {&RecordChange::after, &RecordChange::before};
+inline constexpr StepEnds STEP_FORTH = {&RecordChange::before, &RecordChange::after};
+
+bool comesOrGoes(const RecordChange& change);
+bool changesPlace(const RecordChange& change);       // the record hangs elsewhere, came or went
+bool onlyFollowsAnother(const RecordChange& change); // the same record in the same parent, behind another sibling

@@ -59,7 +59,7 @@ struct Heads {
 std::unordered_set<int> comingAndGoing(const TimelineStep& step) {
     std::unordered_set<int> ids;
     for (const RecordChange& change : step.records)
-        if (!change.before != !change.after) ids.insert(change.id);
+        if (comesOrGoes(change)) ids.insert(change.id);
     return ids;
 }
 
@@ -67,11 +67,9 @@ Heads headsOf(const TimelineStep& step) {
     Heads heads;
     const std::unordered_set<int> ids = comingAndGoing(step);
     for (const RecordChange& change : step.records) {
-        const bool siblingOnly = change.before && change.after && change.before->parent == change.after->parent &&
-                                 change.before->fields == change.after->fields;
         if (!change.before && !ids.contains(change.after->parent)) heads.added.push_back(&change);
         if (!change.after && !ids.contains(change.before->parent)) heads.removed.push_back(&change);
-        if (change.before && change.after && !siblingOnly) heads.changed.push_back(&change);
+        if (!comesOrGoes(change) && !onlyFollowsAnother(change)) heads.changed.push_back(&change);
     }
     return heads;
 }

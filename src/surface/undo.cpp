@@ -20,14 +20,6 @@ namespace {
 
 int seenEdits = 0; // as many of the project's edits as the timeline has looked at
 
-// One direction of a step.
-struct Ends {
-    Image RecordChange::*from;
-    Image RecordChange::*to;
-};
-constexpr Ends BACK = {&RecordChange::after, &RecordChange::before};
-constexpr Ends FORTH = {&RecordChange::before, &RecordChange::after};
-
 // Code and names do not show on a form.
 bool looksOther(const WidgetNode& a, const WidgetNode& b) {
     WidgetNode same = b;
@@ -40,8 +32,6 @@ bool looksOther(const WidgetNode& a, const WidgetNode& b) {
 bool standsOnWindow(const WidgetNode& fields) {
     return fields.type == TYPE_FORM || fields.type == TYPE_MAIN_PANEL || isBarOrPane(fields) || fields.onToolbar;
 }
-
-bool comesOrGoes(const RecordChange& change) { return !change.before != !change.after; }
 
 // What a step means for the screen, by record ids.
 struct Effect {
@@ -67,7 +57,7 @@ bool needsForm(const RecordChange& change, bool stepReorders) {
     return stepReorders && changesPlace(change);
 }
 
-Effect effectOf(const TimelineStep& step, const Ends& ends) {
+Effect effectOf(const TimelineStep& step, const StepEnds& ends) {
     Effect effect;
     const bool comings = std::ranges::any_of(step.records, comesOrGoes);
     for (const RecordChange& change : step.records) {
@@ -85,7 +75,7 @@ Effect effectOf(const TimelineStep& step, const Ends& ends) {
 }
 
 // Live widgets of records that go; those below them go along.
-void takeDown(const TimelineStep& step, const Ends& ends) {
+void takeDown(const TimelineStep& step, const StepEnds& ends) {
     std::set<int> going;
     for (const RecordChange& change : step.records)
         if (!(change.*ends.to)) going.insert(change.id);
@@ -147,7 +137,7 @@ bool onlyMoved(const RecordChange& change) {
             change.before->fields.ypos != change.after->fields.ypos || changesPlace(change));
 }
 
-void selectAfter(const TimelineStep& step, const Ends& ends) {
+void selectAfter(const TimelineStep& step, const StepEnds& ends) {
     Records members;
     WidgetNode* fallback = nullptr;
     for (const RecordChange& change : step.records) {
@@ -157,9 +147,7 @@ void selectAfter(const TimelineStep& step, const Ends& ends) {
             if (!fallback) fallback = holder;
             continue;
         }
-        const bool siblingOnly = change.before && change.after && change.before->fields == change.after->fields &&
-                                 change.before->parent == change.after->parent;
-        if (node->type != TYPE_MAIN_PANEL && !siblingOnly) members.push_back(node);
+        if (node->type != TYPE_MAIN_PANEL && !onlyFollowsAnother(change)) members.push_back(node);
     }
     const bool group = members.size() > 1 && members.front()->parent &&
                        std::ranges::all_of(step.records, [&](const RecordChange& change) {
@@ -184,20 +172,9 @@ void selectAfter(const TimelineStep& step, const Ends& ends) {
 // The project's kind or grid: all forms look different then.
 bool changesKind(const TimelineStep& step) {
     if (!step.settingsBefore) return false;
-    ProjectOptions same = *step.settingsAfter;
-    const ProjectOptions& before = *step.settingsBefore;
-    same.counters = before.counters;
-    same.nextFormNumber = before.nextFormNumber;
-    same.nextFormX = before.nextFormX;
-    same.nextFormY = before.nextFormY;
-    same.snapOn = before.snapOn;
-    same.snapGrid = before.snapGrid;
-    same.customSwitches = before.customSwitches;
-    same.compilerSwitches = before.compilerSwitches;
-    same.linkerSwitches = before.linkerSwitches;
-    same.fileLists = before.fileLists;
-    same.codeBlocks = before.codeBlocks;
-    return !(same == before);
+    const ProjectKind& before = *step.settingsBefore;
+    const ProjectKind& after = *step.settingsAfter;
+    return before != after;
 }
 
 void followSettings(const TimelineStep& step) {
@@ -213,11 +190,11 @@ void showStep(Effect& effect, const TimelineStep& step) {
     if (effect.rows) rebuildRows();
 }
 
-void takeStep(const Ends& ends) {
+void takeStep(const StepEnds& ends) {
     takeTypedText();
     hooks.commitEditor();
     noteEdit(); // what is not yet a step becomes one
-    const bool back = ends.to == &RecordChange::before;
+    const bool back = ends.to == STEP_BACK.to;
     const TimelineStep* found = back ? stepToUndo() : stepToRedo();
     if (!found) return;
     const TimelineStep& step = *found; // stays where it is
@@ -242,9 +219,9 @@ void takeStep(const Ends& ends) {
     showSteps();
 }
 
-void undoCommand() { takeStep(BACK); }
+void undoCommand() { takeStep(STEP_BACK); }
 
-void redoCommand() { takeStep(FORTH); }
+void redoCommand() { takeStep(STEP_FORTH); }
 
 // clang-format off
 constexpr Command COMMANDS[] = {

@@ -1,7 +1,6 @@
 // Aligning a group by its dialogue, with keys and mouse.
-#include "desk.h"
+#include "dialogue_test.h"
 
-#include "dialogues/frame.h"
 #include "surface/align.h"
 #include "surface/commands.h"
 #include "surface/dialogue_keys.h"
@@ -14,8 +13,7 @@ namespace {
 
 constexpr int OK = 15477, CANCEL = 15478, LEFT = 15961, RIGHT = 15963, BOTTOM = 15967;
 
-struct AlignmentTest : testing::Test {
-    Desk desk;
+struct AlignmentTest : DialogueTest {
     WidgetNode* first = desk.place(PLACE_BUTTON, desk.panel, 20, 30);
     WidgetNode* second = desk.place(PLACE_TEXT_ENTRY, desk.panel, 60, 90); // 100 wide
 
@@ -23,10 +21,6 @@ struct AlignmentTest : testing::Test {
         robot::drag(desk.panel->handle, {5, 5}, {300, 300});
         desk.run();
         ASSERT_TRUE(groupStands());
-    }
-    void press(int control) {
-        robot::click(dialogue::widget(control));
-        desk.run();
     }
 };
 

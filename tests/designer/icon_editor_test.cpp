@@ -1,8 +1,7 @@
 // The choice of icons for the rows of the property sheet.
-#include "desk.h"
+#include "dialogue_test.h"
 
 #include "dialogues/choose_icon.h"
-#include "dialogues/frame.h"
 #include "dialogues/icon_grid.h"
 #include "platform/text_files.h"
 #include "properties/commands.h"
@@ -23,19 +22,13 @@ std::string bitmap(int width, int height, char depth = 8) {
     return head;
 }
 
-struct IconEditor : testing::Test {
-    Desk desk;
-
+struct IconEditor : DialogueTest {
     // Presses the "..." of a row.
     void openRow(const char* label) {
         const int row = owPropertyItemNumber(propertyList(), label);
         ASSERT_GT(row, 0) << label;
         owSelectProperty(propertyList(), row);
         owPostCallback(CMD_PROPERTY_BUTTON, propertyList());
-        desk.run();
-    }
-    void press(int id) {
-        robot::click(dialogue::widget(id));
         desk.run();
     }
     std::string path(const char* name) const { return (desk.session.root / name).string(); }

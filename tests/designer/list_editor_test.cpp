@@ -1,9 +1,8 @@
 // The editors of lists and of tree views, by keys and by mouse.
-#include "desk.h"
+#include "dialogue_test.h"
 
 #include "dialogues/choose_icon.h"
 #include "dialogues/entry_editor.h"
-#include "dialogues/frame.h"
 #include "dialogues/icon_grid.h"
 #include "dialogues/list_editor.h"
 #include "properties/commands.h"
@@ -21,8 +20,7 @@ namespace robot = orba::testing;
 
 namespace {
 
-struct RowEditors : testing::Test {
-    Desk desk;
+struct RowEditors : DialogueTest {
     WidgetNode* edited = nullptr;
 
     void place(int tool) {
@@ -37,24 +35,6 @@ struct RowEditors : testing::Test {
         owPostCallback(CMD_PROPERTY_BUTTON, propertyList());
         desk.run();
         ASSERT_TRUE(dialogueOpen());
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers held = Qt::NoModifier) {
-        robot::key(0, code, held);
-        desk.run();
-    }
-    void type(const char* text) {
-        robot::type(0, text);
-        desk.run();
-    }
-    void alt(Qt::Key code) {
-        constexpr int SHORTCUT_MILLISECONDS = 150; // a button is seen to be pressed before it sends its event
-        robot::key(0, code, Qt::AltModifier);
-        robot::settle(SHORTCUT_MILLISECONDS);
-        desk.run();
-    }
-    void press(int id) {
-        robot::click(dialogue::widget(id));
-        desk.run();
     }
     void clickRow(int list, int number) {
         const auto* view = qobject_cast<QListWidget*>(robot::viewOf(dialogue::widget(list)));

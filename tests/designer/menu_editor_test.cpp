@@ -1,5 +1,5 @@
 // The editor of menus, by keys and by mouse.
-#include "desk.h"
+#include "dialogue_test.h"
 
 #include "dialogues/choose_icon.h"
 #include "dialogues/commands.h"
@@ -28,31 +28,10 @@ struct RaiseWatch : QObject {
     int raised = 0;
 };
 
-struct MenuEditor : testing::Test {
-    Desk desk;
-
+struct MenuEditor : DialogueTest {
     void open() {
         desk.command(CMD_MENU_EDITOR);
         ASSERT_NE(dialogue::widget(ENTRY_LIST), 0);
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers held = Qt::NoModifier) {
-        robot::key(0, code, held);
-        desk.run();
-    }
-    void type(const char* text) {
-        robot::type(0, text);
-        desk.run();
-    }
-    // A button is seen to be pressed before it sends its event.
-    void alt(Qt::Key code) {
-        constexpr int SHORTCUT_MILLISECONDS = 150;
-        robot::key(0, code, Qt::AltModifier);
-        robot::settle(SHORTCUT_MILLISECONDS);
-        desk.run();
-    }
-    void press(int id) {
-        robot::click(dialogue::widget(id));
-        desk.run();
     }
     void fillIn(int id, const char* text) {
         dialogue::focus(id);

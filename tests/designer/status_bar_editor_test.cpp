@@ -1,8 +1,7 @@
 // The editor of status bars, by keys and by mouse.
-#include "desk.h"
+#include "dialogue_test.h"
 
 #include "dialogues/commands.h"
-#include "dialogues/frame.h"
 #include "dialogues/status_bar_editor.h"
 #include "surface/dialogue_keys.h"
 
@@ -13,28 +12,12 @@ namespace robot = orba::testing;
 
 namespace {
 
-struct StatusBarEditor : testing::Test {
-    Desk desk;
-
+struct StatusBarEditor : DialogueTest {
     void open() {
         desk.command(CMD_STATUS_BAR_EDITOR);
         ASSERT_TRUE(dialogueOpen());
     }
-    void press(int id) {
-        robot::click(dialogue::widget(id));
-        desk.run();
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers held = Qt::NoModifier) {
-        robot::key(0, code, held);
-        desk.run();
-    }
     // Shortcuts press a button or toggle visibly before it sends its event.
-    void alt(Qt::Key code) {
-        constexpr int SHORTCUT_MILLISECONDS = 150;
-        robot::key(0, code, Qt::AltModifier);
-        robot::settle(SHORTCUT_MILLISECONDS);
-        desk.run();
-    }
     void fillIn(int id, const char* text) {
         dialogue::focus(id);
         key(Qt::Key_A, Qt::ControlModifier);

@@ -1,7 +1,6 @@
 // The editors of texts, plain and rich.
-#include "desk.h"
+#include "dialogue_test.h"
 
-#include "dialogues/frame.h"
 #include "dialogues/text_editor.h"
 #include "platform/text_files.h"
 #include "properties/commands.h"
@@ -17,8 +16,7 @@ namespace robot = orba::testing;
 
 namespace {
 
-struct TextEditor : testing::Test {
-    Desk desk;
+struct TextEditor : DialogueTest {
     WidgetNode* text = nullptr;
 
     void place(bool rich) {
@@ -34,18 +32,6 @@ struct TextEditor : testing::Test {
         owPostCallback(CMD_PROPERTY_BUTTON, propertyList());
         desk.run();
         ASSERT_TRUE(dialogueOpen());
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers held = Qt::NoModifier) {
-        robot::key(0, code, held);
-        desk.run();
-    }
-    void type(const char* typed) {
-        robot::type(0, typed);
-        desk.run();
-    }
-    void press(int id) {
-        robot::click(dialogue::widget(id));
-        desk.run();
     }
 };
 
