@@ -12,6 +12,7 @@
 #include "shell/command_states.h"
 #include "shell/environment.h"
 #include "shell/menus.h"
+#include "surface/hierarchy.h"
 #include "surface/state.h"
 #include "surface/undo.h"
 
@@ -117,9 +118,17 @@ void keepChosenSource() {
     if (project.projectName.empty() || !saving || !saveOpenProject()) project.projectModified = 1;
 }
 
+void showFormsInOrder() {
+    rebuildHierarchyRows(*project.forms);
+    if (const WidgetNode* selected = project.currentWidget; selected && selected->hierarchyItem)
+        owTreeViewAction(selected->hierarchyItem, OSELECTENTRY);
+}
+
 bool generateTo(const std::string& before) {
     const std::string path = sourcePath();
+    const WidgetNode* first = project.forms;
     if (!generateNoted()) return false;
+    if (project.forms != first) showFormsInOrder(); // the master form has come to the head
     if (path != before) keepChosenSource();
     showProjectTitle();
     enableExecute(false); // there is no program of this source yet

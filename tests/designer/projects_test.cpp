@@ -13,8 +13,12 @@
 #include "project_script.h"
 #include "settings/recent_projects.h"
 #include "shell/project_commands.h"
+#include "surface/commands.h"
+#include "surface/hierarchy.h"
 #include "surface/state.h"
 #include "toolkit/testing/robot.h"
+
+#include <QTreeWidget>
 
 using namespace orba::testing;
 
@@ -222,6 +226,22 @@ TEST_F(DesignerTest, GenerateSavesFirstAndAsksForTheSource) {
     EXPECT_TRUE(pathExists(file("bridge.f90")));
     EXPECT_EQ(project.sourceStale, 0);
     EXPECT_EQ(project.sourceName, "bridge.f90");
+}
+
+TEST_F(DesignerTest, TheHierarchyFollowsAMasterThatGenerationPutsFirst) {
+    start();
+    send(CMD_NEW_FORM);
+    project.forms->formType = FORM_STATIC_SDI;
+    project.forms->next->formType = FORM_MASTER_SDI;
+    expectBrowser("Save Project As", file("bridge"));
+    expectBrowser("Create ORBAWIDG code", file("bridge"));
+    send(CMD_GENERATE);
+    ASSERT_EQ(project.forms->name, "Form2");
+    const auto* rows = qobject_cast<QTreeWidget*>(viewOf(hierarchyBox()));
+    ASSERT_TRUE(rows && rows->topLevelItemCount() == 2);
+    EXPECT_EQ(rows->topLevelItem(0)->text(0), "Form2");
+    EXPECT_EQ(rows->topLevelItem(1)->text(0), "Form1");
+    EXPECT_EQ(rows->currentItem(), rows->topLevelItem(0)) << "the form that was selected";
 }
 
 TEST_F(DesignerTest, AChosenSourceBelongsToItsProjectAndToNoOther) {
