@@ -107,6 +107,7 @@ const Dialogue DIALOGUE = {.title = "Change icon",
 } // namespace
 
 void chooseIcon(unsigned sets, const std::string& present, std::function<void(const IconChoice&)> to) {
+    if (isOpen(DIALOGUE)) return;
     state = {sets, present, std::move(to)};
     openDialogue(DIALOGUE);
 }

@@ -214,6 +214,7 @@ void end() {
 WidgetNode* editedOwner() { return findRecord(state.owner); }
 
 void openEntryEditor(const EntryEditor& editor, WidgetNode& owner) {
+    if (isOpen(*editor.dialogue)) return;
     hooks.commitEditor();
     state = {};
     state.editor = editor;

@@ -63,9 +63,18 @@ Found findHandleOf(int handle) {
 
 // ---- Making the window
 
+// Whether a control can have the identifier: no command has it, nor a dialogue that is open beside this one. Modal ones
+// are never worked at the same time.
+[[maybe_unused]] bool mayBear(const Open& open, int id) {
+    if (id == 0) return true;
+    const Found other = findControl(id);
+    const bool beside = other.control && (open.dialogue->modeless || other.open->dialogue->modeless);
+    return !beside && !hooks.hasCommand(id);
+}
+
 void createControls(Open& open, Scale scale) {
     for (const Control& control : open.dialogue->controls) {
-        assert(control.id == 0 || (!hooks.hasCommand(control.id) && !findControl(control.id).control));
+        assert(mayBear(open, control.id));
         const int parent = control.parent ? open.handles.at(control.parent) : open.window;
         const int handle = createControl(control, parent, control.parent == 0, scale);
         if (control.id) open.handles[control.id] = handle;

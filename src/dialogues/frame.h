@@ -108,6 +108,7 @@ struct Dialogue {
 // Opens a dialogue, or brings one that is open to the front. Its record must last.
 void openDialogue(const Dialogue& dialogue);
 void closeDialogue(const Dialogue& dialogue); // nothing when it is not open
+// An opener that keeps what is edited asks first: a double click on an icon sends its command twice.
 bool isOpen(const Dialogue& dialogue);
 
 // Runs what an identifier stands for in an open dialogue; false when it stands for nothing there.

@@ -174,6 +174,7 @@ std::string iconName(IconSets set, int number) {
 }
 
 void openIconGrid(IconSets set, const std::string& present, void (*deliver)(const IconChoice&)) {
+    if (isOpen(grid.dialogue)) return;
     grid = {};
     grid.set = &rowOf(set);
     grid.deliver = deliver;

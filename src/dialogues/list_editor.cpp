@@ -295,6 +295,7 @@ void accept() {
 } // namespace
 
 void openListEditor(WidgetNode& list) {
+    if (isOpen(DIALOGUE)) return;
     state = {};
     state.widget = list.id;
     state.rows.start(list.listEntries, {});

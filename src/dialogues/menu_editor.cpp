@@ -133,6 +133,7 @@ bool mayHaveMenu(const WidgetNode& form) {
 }
 
 void menuEditorCommand() {
+    if (isOpen(DIALOGUE)) return;
     WidgetNode* form = formInHand();
     if (!form || !mayHaveMenu(*form)) return;
     selectTool(TOOL_SELECTOR);

@@ -437,6 +437,7 @@ const Dialogue TYPE_DIALOGUE = {
 };
 
 void changeProjectTypeCommand() {
+    if (isOpen(TYPE_DIALOGUE)) return;
     selectTool(TOOL_SELECTOR);
     hooks.commitEditor();
     state.creating = false;
@@ -452,6 +453,7 @@ constexpr Command COMMANDS[] = {
 } // namespace
 
 void newProjectDialogue() {
+    if (isOpen(TYPE_DIALOGUE)) return;
     state.creating = true;
     openDialogue(TYPE_DIALOGUE);
 }

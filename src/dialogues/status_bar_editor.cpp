@@ -341,6 +341,7 @@ std::string freeBarName() {
 }
 
 void statusBarEditorCommand() {
+    if (isOpen(DIALOGUE)) return;
     WidgetNode* form = project.currentWidget ? formOf(project.currentWidget, project.forms) : nullptr;
     if (!form) return host.errorBox("No valid form selected!", "You must select a valid form first");
     selectTool(TOOL_SELECTOR);

@@ -52,6 +52,7 @@ void start(WidgetNode& node) {
 }
 
 void openAtPlace(const Dialogue& dialogue) {
+    if (isOpen(dialogue)) return;
     openDialogue(dialogue);
     state.before = held();
     const WindowState& window = windowStates[WINDOW_TEXT_EDITOR];

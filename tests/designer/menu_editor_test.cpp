@@ -94,6 +94,17 @@ struct MenuEditor : DialogueTest {
 
 } // namespace
 
+TEST_F(MenuEditor, ADoubleClickOnItsIconOpensItOnce) {
+    for (int i = 0; i < 3; i++) owPostCallback(CMD_MENU_EDITOR, 0);
+    desk.run();
+    type("File");
+    const auto* rows = qobject_cast<QListWidget*>(robot::viewOf(dialogue::widget(ENTRY_LIST)));
+    ASSERT_TRUE(rows && rows->count() == 1);
+    EXPECT_EQ(rows->item(0)->text(), "File");
+    press(ENTRY_MENU_CANCEL);
+    EXPECT_FALSE(dialogueOpen());
+}
+
 TEST_F(MenuEditor, AMenuIsMadeByKeysAlone) {
     const QSize before = robot::viewOf(desk.panel->handle)->size();
     project.projectModified = project.sourceStale = 0;

@@ -82,8 +82,10 @@ void keepSixDigits(float& number) {
     number = std::strtof(digits, nullptr);
 }
 
-// What no file keeps: further digits of numbers, and one choice, which every form that is read has on.
+// What no file keeps: further digits of numbers, one choice, which every form that is read has on, and the hardware's
+// buffering, which no project that is read has.
 void forgetWhatNoFileKeeps() {
+    project.doubleBuffering = 0;
     for (WidgetNode* node = project.forms; node; node = walkList(node, project.forms)) {
         node->buildInfo = 1;
         for (float WidgetNode::*number :

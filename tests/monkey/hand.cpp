@@ -8,6 +8,7 @@
 #include "shell/command_states.h"
 #include "shell/command_table.h"
 #include "shell/designer.h"
+#include "surface/dialogue_keys.h"
 #include "surface/selection.h"
 #include "surface/state.h"
 #include "toolkit/testing/robot.h"
@@ -211,7 +212,7 @@ void dragGrip(const Event& event) {
 }
 
 void chooseCommand(const Event& event) {
-    if (QApplication::activeModalWidget()) return;
+    if (QApplication::activeModalWidget() || dialogueOpen()) return; // no mouse comes to the menus
     const int entry = commandWidget(event.code, CommandWidget::MenuEntry);
     QAction* action = robot::actionOf(entry);
     if (action && action->isEnabled() && action->isVisible()) action->trigger();
